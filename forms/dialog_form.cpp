@@ -1,0 +1,84 @@
+#include "forms/dialog_form.h"
+
+#include <cassert>
+#include <utility>
+
+#include "forms/frame.h"
+
+namespace algo::forms {
+
+TDialogForm::TDialogForm() = default;
+
+TDialogForm::~TDialogForm() {
+  if (FFrame) FFrame->FForm = nullptr;
+}
+
+void TDialogForm::SetCaption(std::string caption) {
+  FCaption = std::move(caption);
+  LooksChanged();
+}
+
+void TDialogForm::SetClientSize(const TSize& size) {
+  FClientSize = size;
+  LooksChanged();
+}
+
+void TDialogForm::SetStaysOnTop(bool staysOnTop) {
+  FStaysOnTop = staysOnTop;
+  LooksChanged();
+}
+
+void TDialogForm::SetFrame(std::shared_ptr<TFrame> frame) {
+  assert(!FFrame && frame);
+  FFrame = std::move(frame);
+  FFrame->FForm = this;
+}
+
+std::int32_t TDialogForm::ShowModal() {
+  assert(!FShowing);
+  const auto alive = weak_from_this().lock();
+  struct TEnd {
+    TDialogForm& form;
+    ~TEnd() { form.FModal = false; }
+  };
+  const TEnd end{*this};
+  FModalResult = ModalNone;
+  FModal = true;
+  FShowing = true;
+  RunModal();
+  return FModalResult;
+}
+
+void TDialogForm::Show() {
+  FShowing = true;
+  Shown();
+}
+
+void TDialogForm::Hide() {
+  if (!FShowing) return;
+  FShowing = false;
+  Hidden();
+}
+
+void TDialogForm::BringToFront() { CalledToFront(); }
+
+void TDialogForm::Close() {
+  const auto alive = weak_from_this().lock();
+  if (FModal) {
+    if (FModalResult == ModalNone) FModalResult = ModalCancel;
+    return;
+  }
+  TCloseAction action = TCloseAction::Hide;
+  if (OnClose) OnClose(*this, action);
+  if (action == TCloseAction::None) return;
+  Hide();
+  if (action != TCloseAction::Free) return;
+  Freed();
+  if (FFrame) FFrame->Detach();
+}
+
+void TDialogForm::SetModalResult(std::int32_t result) {
+  if (FModal) FModalResult = result;
+}
+
+}  // namespace algo::forms

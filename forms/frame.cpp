@@ -1,0 +1,51 @@
+#include "forms/frame.h"
+
+#include <algorithm>
+#include <cassert>
+
+namespace algo::forms {
+
+TFrameObserver::~TFrameObserver() = default;
+
+TFrame::TFrame(std::string className, std::string layoutName)
+    : FClassName(std::move(className)), FLayout(std::move(layoutName)) {
+  FLayout.FFrame = this;
+}
+
+TFrame::~TFrame() { FLayout.FFrame = nullptr; }
+
+TControl* TFrame::FindControl(std::string_view name) const {
+  const auto found = std::find_if(FControls.begin(), FControls.end(),
+                                  [name](const auto& control) { return control->Name() == name; });
+  return found == FControls.end() ? nullptr : found->get();
+}
+
+void TFrame::SetFocus(TControl* control) {
+  if (control == FFocused) return;
+  // The focus moves before the exit handler runs: a handler that fails must not trap the trader in the field.
+  TControl* left = std::exchange(FFocused, control);
+  Tell([](TFrameObserver& observer) { observer.FocusChanged(); });
+  if (left == nullptr) return;
+  if (auto* editor = dynamic_cast<TEditor*>(left)) editor->MoveCaretToEnd();
+  left->Commit();
+}
+
+void TFrame::AddObserver(TFrameObserver& observer) { FObservers.push_back(&observer); }
+
+void TFrame::RemoveObserver(TFrameObserver& observer) { std::erase(FObservers, &observer); }
+
+template <class TTell>
+void TFrame::Tell(TTell&& tell) {
+  // By index: an observer may add or remove observers while it is told.
+  for (std::size_t i = 0; i < FObservers.size(); ++i) tell(*FObservers[i]);
+}
+
+void TFrame::TellControlChanged(const TControl& control) {
+  Tell([&control](TFrameObserver& observer) { observer.ControlChanged(control); });
+}
+
+void TFrame::TellLayoutChanged() {
+  Tell([](TFrameObserver& observer) { observer.LayoutChanged(); });
+}
+
+}  // namespace algo::forms

@@ -1,0 +1,152 @@
+#include "forms/layout.h"
+
+#include <algorithm>
+#include <cassert>
+#include <utility>
+
+#include "forms/frame.h"
+
+namespace algo::forms {
+
+TCaptionStyle::TCaptionStyle(TLayoutControl& layout, std::string name)
+    : FLayout(layout), FName(std::move(name)) {}
+
+void TCaptionStyle::SetBold(bool bold) {
+  if (FFont.bold == bold) return;
+  FFont.bold = bold;
+  FLayout.Changed();
+}
+
+void TCaptionStyle::SetSize(std::int32_t size) {
+  if (FFont.size == size) return;
+  FFont.size = size;
+  FLayout.Changed();
+}
+
+TLayoutElement::TLayoutElement(TLayoutControl& layout, std::string name)
+    : FLayout(layout), FName(std::move(name)) {}
+
+TLayoutElement::~TLayoutElement() = default;
+
+void TLayoutElement::SetVisible(bool visible) {
+  if (FVisible == visible) return;
+  FVisible = visible;
+  FLayout.Changed();
+}
+
+void TLayoutElement::SetEnabled(bool enabled) {
+  if (FEnabled == enabled) return;
+  FEnabled = enabled;
+  FLayout.Changed();
+}
+
+bool TLayoutElement::Showing() const {
+  for (const TLayoutElement* element = this; element != nullptr; element = element->FParent) {
+    if (!element->FVisible) return false;
+  }
+  return true;
+}
+
+bool TLayoutElement::Usable() const {
+  for (const TLayoutElement* element = this; element != nullptr; element = element->FParent) {
+    if (!element->FEnabled) return false;
+  }
+  return true;
+}
+
+void TLayoutElement::SetCaption(std::string caption) {
+  if (FCaption == caption) return;
+  FCaption = std::move(caption);
+  FLayout.Changed();
+}
+
+const TFont& TLayoutElement::Font() const {
+  static const TFont plain;
+  return FStyle != nullptr ? FStyle->Font() : plain;
+}
+
+void TLayoutElement::SetStyle(const TCaptionStyle* style) {
+  if (FStyle == style) return;
+  FStyle = style;
+  FLayout.Changed();
+}
+
+TLayoutGroup::TLayoutGroup(TLayoutControl& layout, std::string name, TDirection direction)
+    : TLayoutElement(layout, std::move(name)), FDirection(direction) {}
+
+TLayoutGroup::~TLayoutGroup() = default;
+
+TLayoutItem::TLayoutItem(TLayoutControl& layout, std::string name, TControl& control)
+    : TLayoutElement(layout, std::move(name)), FControl(control) {}
+
+TLayoutItem::~TLayoutItem() = default;
+
+TLayoutControl::TLayoutControl(std::string name) : FName(std::move(name)) {}
+
+TLayoutControl::~TLayoutControl() = default;
+
+TLayoutGroup& TLayoutControl::AddGroup(std::string name, TLayoutGroup* parent, TDirection direction) {
+  assert(Find(name) == nullptr);
+  auto made = std::make_unique<TLayoutGroup>(*this, std::move(name), direction);
+  TLayoutGroup& group = *made;
+  FElements.push_back(std::move(made));
+  if (parent == nullptr) {
+    FTopGroups.push_back(&group);
+  } else {
+    Move(group, *parent);
+  }
+  return group;
+}
+
+TLayoutItem& TLayoutControl::AddItem(std::string name, TLayoutGroup& parent, TControl& control) {
+  assert(Find(name) == nullptr);
+  auto made = std::make_unique<TLayoutItem>(*this, std::move(name), control);
+  TLayoutItem& item = *made;
+  FElements.push_back(std::move(made));
+  control.FItem = &item;
+  Move(item, parent);
+  return item;
+}
+
+TCaptionStyle& TLayoutControl::AddStyle(std::string name) {
+  return *FStyles.emplace_back(std::make_unique<TCaptionStyle>(*this, std::move(name)));
+}
+
+void TLayoutControl::Move(TLayoutElement& element, TLayoutGroup& parent) {
+  if (element.FParent != nullptr) {
+    std::erase(element.FParent->FChildren, &element);
+  }
+  element.FParent = &parent;
+  parent.FChildren.push_back(&element);
+  Changed();
+}
+
+TLayoutElement* TLayoutControl::Find(std::string_view name) const {
+  const auto found = std::find_if(FElements.begin(), FElements.end(),
+                                  [name](const auto& element) { return element->Name() == name; });
+  return found == FElements.end() ? nullptr : found->get();
+}
+
+std::size_t TLayoutControl::Position(const TLayoutElement& element) const {
+  if (element.FParent == nullptr) {
+    return static_cast<std::size_t>(std::find(FTopGroups.begin(), FTopGroups.end(), &element) -
+                                    FTopGroups.begin());
+  }
+  const auto& siblings = element.FParent->FChildren;
+  return static_cast<std::size_t>(std::find(siblings.begin(), siblings.end(), &element) - siblings.begin());
+}
+
+void TLayoutControl::BeginUpdate() { ++FUpdateDepth; }
+
+void TLayoutControl::EndUpdate() {
+  assert(FUpdateDepth > 0);
+  --FUpdateDepth;
+  if (FUpdateDepth == 0 && FChangePending) Changed();
+}
+
+void TLayoutControl::Changed() {
+  FChangePending = FUpdateDepth > 0;
+  if (!FChangePending && FFrame != nullptr) FFrame->TellLayoutChanged();
+}
+
+}  // namespace algo::forms

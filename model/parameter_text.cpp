@@ -1,0 +1,140 @@
+#include "model/parameter_text.h"
+
+#include <algorithm>
+#include <array>
+#include <cstring>
+
+#include "text/number_text.h"
+#include "text/text.h"
+
+namespace algo::model {
+
+namespace {
+
+// Enough for the longest text: prefix and id, and twenty pieces of a key and the longest number each.
+constexpr std::size_t MaxPieces = 20;
+constexpr std::size_t MaxKey = 16;
+constexpr std::size_t TextCapacity = 64 + MaxPieces * (MaxKey + text::PlainNumberCapacity);
+
+/// Writes a text into a buffer that lies on the stack.
+class TWriter {
+ public:
+  void Put(std::string_view text) {
+    std::memcpy(FEnd, text.data(), text.size());
+    FEnd += text.size();
+  }
+  void PutKey(std::string_view key) {
+    *FEnd++ = ',';
+    Put(key);
+    *FEnd++ = '=';
+  }
+  void PutNumber(double number) { FEnd += text::WritePlainNumber(number, FEnd); }
+  void PutTime(text::TDateTime time) { FEnd += text::WriteCompactDateTime(time, FEnd); }
+  std::string Text() const { return {FBuffer.data(), static_cast<std::size_t>(FEnd - FBuffer.data())}; }
+
+ private:
+  std::array<char, TextCapacity> FBuffer;
+  char* FEnd = FBuffer.data();
+};
+
+void PutPiece(TWriter& writer, const TPiece& piece, const TParamValues& values) {
+  const TParamRow& row = ParamRow(piece.param);
+  switch (row.kind) {
+    case TValueKind::Number:
+      if (const auto number = values.Number(piece.param);
+          number && *number > piece.above && *number < piece.below) {
+        writer.PutKey(row.key);
+        writer.PutNumber(*number);
+      }
+      break;
+    case TValueKind::Choice:
+      if (const std::string_view text = ChoiceText(*row.codes, values.Choice(piece.param)); !text.empty()) {
+        writer.PutKey(row.key);
+        writer.Put(text);
+      }
+      break;
+    case TValueKind::Time:
+      if (const auto time = values.Time(piece.param)) {
+        writer.PutKey(row.key);
+        writer.PutTime(*time);
+      }
+      break;
+  }
+}
+
+constexpr std::array Steps{
+    TParam::STime,      TParam::ETime,       TParam::TimeOut,    TParam::VolPct,     TParam::AccuVol,
+    TParam::Opening,    TParam::Closing,     TParam::MinOrdAmt,  TParam::Style,      TParam::WPx,
+    TParam::ThrPx1,     TParam::ThrPx2,      TParam::ThrVolPct1, TParam::ThrVolPct2, TParam::Slices,
+    TParam::MaxVolPct,  TParam::OpenPct,     TParam::ClosePct,   TParam::CloseSim,   TParam::ShowQty,
+    TParam::MaxShowQty, TParam::RandPct,     TParam::ReloadPct,  TParam::Func,       TParam::AllInAuc,
+    TParam::StopLossPx, TParam::StopQty,     TParam::TickDiff,   TParam::Iceberg,    TParam::JoinThr,
+    TParam::JoinQty,    TParam::RandTimeOut, TParam::Ref,        TParam::DiffPct,    TParam::ServePct,
+    TParam::MinQty,     TParam::Join,
+};
+static_assert(Steps.size() == ParamCount);
+
+}  // namespace
+
+std::string ComposeText(bool marketChildren, std::string_view algoCode, const TAlgoRow* row,
+                        const TParamValues& values) {
+  TWriter writer;
+  writer.Put(marketChildren ? "TMMO:AlgoId=" : "TMLO:AlgoId=");
+  writer.Put(algoCode);
+  if (row != nullptr) {
+    for (const TPiece& piece : row->pieces) PutPiece(writer, piece, values);
+  }
+  writer.Put(";");
+  return writer.Text();
+}
+
+TSplitText SplitText(std::string_view text) {
+  std::string_view withId;
+  text::ForEachPiece(text, ';', [&withId](std::string_view part) {
+    if (text::ContainsNoCase(part, "ALGOID")) withId = part;
+  });
+  TSplitText split;
+  if (withId.empty()) return split;
+  text::ForEachPiece(withId, ',', [&split](std::string_view piece) { split.pieces.push_back(piece); });
+  const std::string_view first = split.pieces.front();
+  const std::size_t equals = first.find('=');
+  if (equals != std::string_view::npos) split.algoId = first.substr(equals + 1);
+  return split;
+}
+
+std::optional<std::string_view> PieceValue(std::span<const std::string_view> pieces, std::string_view key) {
+  for (const std::string_view piece : pieces) {
+    if (piece.size() > key.size() && piece[key.size()] == '=' && piece.starts_with(key)) {
+      return piece.substr(key.size() + 1);
+    }
+  }
+  return std::nullopt;
+}
+
+std::span<const TParam> LoadSteps() { return Steps; }
+
+TDecoded DecodeValue(TParam param, std::string_view value) {
+  const TParamRow& row = ParamRow(param);
+  TDecoded decoded;
+  switch (row.kind) {
+    case TValueKind::Number:
+      decoded.kind = TDecoded::TKind::Number;
+      decoded.number = text::NumberOr(value, 0);
+      break;
+    case TValueKind::Choice:
+      if (const auto index = ChoiceIndex(*row.codes, value)) {
+        decoded.kind = TDecoded::TKind::Choice;
+        decoded.choice = *index;
+      }
+      break;
+    case TValueKind::Time: {
+      const auto time = text::ParseCompactDateTime(value);
+      decoded.kind = time ? TDecoded::TKind::Time : TDecoded::TKind::Failure;
+      if (time) decoded.time = *time;
+      break;
+    }
+  }
+  return decoded;
+}
+
+}  // namespace algo::model

@@ -1,0 +1,45 @@
+// The module's entry: the one symbol that a host looks up after loading it.
+
+#include "plugin/host_contract/class_registry.h"
+#include "plugin/host_contract/module_entry.h"
+#include "plugin/view_provider.h"
+#include "views/entry/boundary.h"
+#include "views/work/available_quantity.h"
+
+namespace algo::plugin {
+
+namespace {
+
+int starts = 0;
+
+void Start() {
+  if (starts++ > 0) return;
+  host::TClassRegistry::GetInstance().Register(
+      ProviderClassName, [](const void* owner) { return std::make_unique<TIAlgoEntryOrder>(owner); });
+}
+
+void Stop() {
+  if (starts == 0 || --starts > 0) return;
+  host::TClassRegistry::GetInstance().Unregister(ProviderClassName);
+}
+
+bool SetOrderAlgo(host::TViewFrame& frame, host::TCustomClientOrder& order) {
+  const auto* entry = dynamic_cast<const views::TAlgoOrderEntryFrame*>(&frame);
+  if (entry == nullptr) return false;
+  return views::Cross(false, [&] {
+    entry->SetOrderAlgo(order);
+    return true;
+  });
+}
+
+double WorkParentAvailableQty(host::TCustomOrder* parent) {
+  return views::Cross(0.0, [parent] { return views::GetWorkParentOrderAvailableQty(parent); });
+}
+
+constexpr host::TModuleEntry Entry{host::ContractVersion, Start, Stop, SetOrderAlgo, WorkParentAvailableQty};
+
+}  // namespace
+
+}  // namespace algo::plugin
+
+extern "C" ALGO_SHARED const algo::host::TModuleEntry* AlgoOrderEntryModule() { return &algo::plugin::Entry; }

@@ -1,0 +1,120 @@
+#include "plugin/view_provider.h"
+
+#include "plugin/host_contract/config_manager.h"
+#include "plugin/host_contract/language_manager.h"
+#include "plugin/host_contract/user_app_profile.h"
+#include "views/entry/boundary.h"
+#include "views/entry/entry_frame.h"
+
+namespace algo::plugin {
+
+namespace {
+
+constexpr std::string_view ViewRight = "AlgoTabOrderEntry";
+
+// Where the view stands in the host's menu, level by level.
+struct TMenuRow {
+  std::int32_t id;
+  std::int32_t index;
+  std::string_view captionId;
+};
+constexpr TMenuRow MenuRows[] = {{101, 1100, "Res_Order"},
+                                 {views::AlgoEntryViewID, 1750, "Res_AlgoOrderEntry"}};
+constexpr TMenuRow NoMenuRow{-1, 0, {}};
+
+const TMenuRow& MenuRow(std::int32_t level) { return level == 0 || level == 1 ? MenuRows[level] : NoMenuRow; }
+
+std::string Resource(std::string_view id) {
+  return host::TCustomLanguageManager::GetInstance().GetText(host::Const_ResourceStringTag, id, 3, 0, 0);
+}
+
+}  // namespace
+
+TIAlgoEntryOrder::TIAlgoEntryOrder(const void* owner) : TIBaseView(owner) {
+  FRegistrations.Add(
+      [this] {
+        host::TCustomGlobalChannelManager::GetInstance().Subscribe(
+            host::OrderActionChannel,
+            [this](const void* sender, host::TChannelRecord* record) {
+              views::Cross([&] { TakeOrderAction(sender, record); });
+            },
+            this);
+      },
+      [this] {
+        host::TCustomGlobalChannelManager::GetInstance().Unsubscribe(host::OrderActionChannel, this);
+      });
+  auto& config = host::TCustomConfigManager::GetInstance();
+  const std::string model = config.ReadText(config.CurrentSection(), "ChangeOrderShowModel");
+  FShowChangeModally = !(model.starts_with('n') || model.starts_with('N'));
+}
+
+TIAlgoEntryOrder::~TIAlgoEntryOrder() {
+  views::Cross([this] { FRegistrations.ReleaseAll(); });
+  FChange.form.reset();
+  while (!FOpenChanges.empty()) {
+    // Out of the list first: closing calls back and looks for the form there.
+    const auto open = FOpenChanges.extract(FOpenChanges.begin());
+    views::Cross([&] { open.mapped().form->Close(); });
+  }
+  FWork.form.reset();
+  views::Cross([this] { CloseAllInstances(); });
+}
+
+std::string TIAlgoEntryOrder::GetName() { return "AlgoOrderEntry_" + std::to_string(views::AlgoEntryViewID); }
+
+std::int32_t TIAlgoEntryOrder::GetViewID() { return views::AlgoEntryViewID; }
+
+std::int32_t TIAlgoEntryOrder::GetMenuLevel() { return 2; }
+
+std::int32_t TIAlgoEntryOrder::GetMenuIndex(std::int32_t level) { return MenuRow(level).index; }
+
+std::int32_t TIAlgoEntryOrder::GetMenuID(std::int32_t level) { return MenuRow(level).id; }
+
+std::string TIAlgoEntryOrder::GetMenuCaption(std::int32_t level) {
+  return views::Cross(std::string(), [level] {
+    const std::string_view id = MenuRow(level).captionId;
+    return id.empty() ? std::string() : Resource(id);
+  });
+}
+
+std::int32_t TIAlgoEntryOrder::GetMenuGroupIndex(std::int32_t /*level*/) { return 0; }
+
+bool TIAlgoEntryOrder::GetIsVisible() {
+  return views::Cross(false, [] { return host::TCustomUserAppProfile::GetInstance().HasRight(ViewRight); });
+}
+
+bool TIAlgoEntryOrder::GetDefaultCaption(std::string& caption) {
+  return views::Cross(false, [&caption] {
+    caption = Resource("Res_AlgoOrderEntry");
+    return true;
+  });
+}
+
+bool TIAlgoEntryOrder::GetDefaultSize(std::int32_t& /*width*/, std::int32_t& /*height*/) { return true; }
+
+host::TInstanceHandle TIAlgoEntryOrder::OpenNewInstance() {
+  return views::Cross(host::TInstanceHandle{0}, [this] {
+    auto frame = std::make_shared<views::TAlgoOrderEntryFrame>();
+    const host::TInstanceHandle handle = host::HandleOf(*frame);
+    AddView(std::move(frame));
+    return handle;
+  });
+}
+
+void TIAlgoEntryOrder::CloseInstance(host::TInstanceHandle instance) {
+  views::Cross([&] { TIBaseView::CloseInstance(instance); });
+}
+
+bool TIAlgoEntryOrder::SetLanguage(host::TInstanceHandle instance, std::int32_t language) {
+  return views::Cross(false, [&] {
+    TIBaseView::SetLanguage(instance, language);
+    // A copy: what the frames set off may close a form.
+    for (const auto& [key, open] : std::map(FOpenChanges)) {
+      open.frame->SetLanguage(language);
+      if (open.frame->Form() != nullptr) open.frame->Form()->SetCaption(Resource("Res_Conf_ChangeOrder"));
+    }
+    return true;
+  });
+}
+
+}  // namespace algo::plugin

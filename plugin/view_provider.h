@@ -1,0 +1,76 @@
+#pragma once
+
+// The view provider: what the host sees of the module. It places the algo order entry view in the host's
+// menu, makes its instances, and answers the order actions that are posted on the order action channel for
+// orders of this module, with the confirmation, the change form or the work order form.
+
+#include <cstdint>
+#include <map>
+#include <memory>
+#include <string>
+#include <string_view>
+
+#include "plugin/host_contract/base_view.h"
+#include "plugin/host_contract/channel_manager.h"
+#include "views/change/change_frame.h"
+#include "views/entry/registrations.h"
+#include "views/work/work_order_frame.h"
+
+namespace algo::plugin {
+
+/// The name under which the class registry knows the provider.
+inline constexpr std::string_view ProviderClassName = "TIAlgoEntryOrder";
+
+class TIAlgoEntryOrder : public host::TIBaseView {
+ public:
+  /// Subscribes to the order action channel; throws what the host's services throw.
+  explicit TIAlgoEntryOrder(const void* owner);
+  ~TIAlgoEntryOrder() override;
+
+  std::string GetName() override;
+  std::int32_t GetViewID() override;
+  std::int32_t GetMenuLevel() override;
+  std::int32_t GetMenuIndex(std::int32_t level) override;
+  std::int32_t GetMenuID(std::int32_t level) override;
+  std::string GetMenuCaption(std::int32_t level) override;
+  std::int32_t GetMenuGroupIndex(std::int32_t level) override;
+  bool GetIsVisible() override;
+  bool GetDefaultCaption(std::string& caption) override;
+  bool GetDefaultSize(std::int32_t& width, std::int32_t& height) override;
+  host::TInstanceHandle OpenNewInstance() override;
+  void CloseInstance(host::TInstanceHandle instance) override;
+  bool SetLanguage(host::TInstanceHandle instance, std::int32_t language) override;
+
+ private:
+  using TFormPointer = std::shared_ptr<forms::TDialogForm>;
+
+  /// A dialog form with the frame inside it.
+  template <class TFrame>
+  struct THosted {
+    TFormPointer form;
+    std::shared_ptr<TFrame> frame;
+  };
+
+  void TakeOrderAction(const void* sender, host::TChannelRecord* record);
+  void AddOrder(host::TCustomClientOrder& order, host::TOrderTakeActionRecord& record);
+  void ChangeOrder(host::TCustomClientOrder& order, host::TOrderTakeActionRecord& record);
+  void AddWorkOrder(host::TCustomClientOrder& order, host::TOrderTakeActionRecord& record);
+  void CreateDefaultView();
+  void CreateDefaultWorkView();
+  void CreateNonShowModelView(host::TCustomClientOrder& order);
+  void OnCloseView(forms::TDialogForm& sender, forms::TCloseAction& action);
+  void WorkOrderAlgoTypeChange();
+
+  /// Shows the form until it has a result; true for OK.
+  template <class TFrame>
+  bool Confirmed(const THosted<TFrame>& dialog, std::string_view captionId);
+
+  THosted<views::TAlgoOrderChangeFrame> FChange;
+  THosted<views::TAlgoWorkOrderFrame> FWork;
+  std::map<std::string, THosted<views::TAlgoOrderChangeFrame>>
+      FOpenChanges;  ///< non-modal forms by order key
+  bool FShowChangeModally = true;
+  views::TRegistrations FRegistrations;
+};
+
+}  // namespace algo::plugin

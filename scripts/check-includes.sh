@@ -1,0 +1,99 @@
+#!/usr/bin/env bash
+# Fails on an include that goes against the arrows between the folders, and names file, line and rule.
+#
+#   scripts/check-includes.sh [ROOT]    (this project unless given)
+#
+# A folder may include its own headers and those of the folders in its row. Includes are written from the root of the
+# project. The folders of the module moreover take from outside nothing but the standard library.
+set -euo pipefail
+root=${1:-$(dirname "${BASH_SOURCE[0]}")/..}
+cd "$root"
+
+arrows='
+text                 ->
+model                -> text
+forms                -> text
+plugin/host_contract -> forms text
+views/entry          -> text model forms plugin/host_contract
+views/change         -> text model forms plugin/host_contract views/entry
+views/work           -> text model forms plugin/host_contract views/entry views/change
+plugin               -> text forms plugin/host_contract views/entry views/change views/work
+terminal/host        -> text forms plugin/host_contract
+terminal/drive       -> text forms plugin/host_contract terminal/host
+terminal/account     -> text forms plugin/host_contract terminal/host
+'
+
+mapfile -t files < <(
+  for folder in text model forms views plugin terminal; do
+    if [[ -d $folder ]]; then
+      find "$folder" -type f \( -name '*.h' -o -name '*.cpp' \)
+    fi
+  done | LC_ALL=C sort
+)
+if [[ ${#files[@]} -eq 0 ]]; then
+  echo "check-includes: no sources found" >&2
+  exit 1
+fi
+
+ARROWS=$arrows awk '
+  BEGIN {
+    rows = split(ENVIRON["ARROWS"], lines, "\n")
+    for (i = 1; i <= rows; i++) {
+      count = split(lines[i], words, " ")
+      if (count == 0) continue
+      rule[words[1]] = count > 2 ? "" : "nothing"
+      for (j = 3; j <= count; j++) {
+        allowed[words[1], words[j]] = 1
+        rule[words[1]] = rule[words[1]] (j > 3 ? ", " : "") words[j]
+      }
+    }
+  }
+
+  # The nearest folder above a path that has a row, or "" where there is none.
+  function FolderOf(path) {
+    while (sub(/\/[^\/]*$/, "", path)) {
+      if (path in rule) return path
+    }
+    return ""
+  }
+
+  function Complain(text) {
+    printf "%s:%d: %s\n", FILENAME, FNR, text
+    bad++
+  }
+
+  FNR == 1 {
+    folder = FolderOf(FILENAME)
+    if (folder == "") Complain("this folder has no row of its own in check-includes")
+  }
+
+  folder != "" && match($0, /^[ \t]*#[ \t]*include[ \t]*/) {
+    rest = substr($0, RLENGTH + 1)
+    mark = substr(rest, 1, 1)
+    if (mark == "\"") {
+      path = substr(rest, 2)
+      sub(/".*/, "", path)
+      target = path ~ /(^|\/)\.\.?\// ? "" : FolderOf(path)
+      if (target == "") {
+        Complain("\"" path "\" is not written from the root of the project, or its folder has no row")
+      } else if (target != folder && !((folder, target) in allowed)) {
+        Complain(folder " may not include " target " (allowed: " rule[folder] ")")
+      }
+    } else if (mark == "<") {
+      if (folder !~ /^terminal\// && rest !~ /^<[a-z_]+>/) {
+        Complain("the module includes the standard library alone, not " rest)
+      }
+    } else {
+      Complain("an include that a macro spells cannot be checked: " rest)
+    }
+  }
+
+  END {
+    if (bad) {
+      printf "check-includes: %d forbidden\n", bad
+      exit 1
+    }
+  }
+' "${files[@]}" >&2
+
+echo "check-includes: the includes of ${#files[@]} files follow the arrows"

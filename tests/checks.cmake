@@ -1,0 +1,11 @@
+# Properties of the build and of the sources that no test program can see from inside.
+
+set(scripts "${CMAKE_SOURCE_DIR}/scripts")
+
+add_test(NAME "includes follow the arrows" COMMAND "${scripts}/check-includes.sh")
+add_test(NAME "a forbidden include is found" COMMAND "${scripts}/test-check-includes.sh")
+
+if(TARGET algo_order_entry)
+  add_test(NAME "the module exports one symbol"
+    COMMAND "${scripts}/check-module-exports.sh" "${CMAKE_NM}" $<TARGET_FILE:algo_order_entry>)
+endif()

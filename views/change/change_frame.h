@@ -1,0 +1,92 @@
+#pragma once
+
+// The order change frame: the entry form around an order that exists already. It confirms a new order before
+// it is sent and changes a working one. The order's identity is locked; pressing the side button says OK.
+
+#include <cstdint>
+#include <string>
+#include <string_view>
+
+#include "plugin/host_contract/order_adapter.h"
+#include "views/entry/entry_frame.h"
+
+namespace algo::views {
+
+/// What the loaded order is to be used for.
+enum class TOperatorMode : std::int32_t { Add = 0, Change = 1, Work = 2 };
+
+class TAlgoOrderChangeFrame : public TAlgoOrderEntryFrame {
+ public:
+  explicit TAlgoOrderChangeFrame(std::string className = "TAlgoOrderChangeFrame");
+
+  /// Says whether the frame sits in a dialog that waits for the answer. If it does not, the frame owns a copy
+  /// of the order that it changes, sends the change itself and closes its form.
+  void SetShownModally(bool modal) { FIsChangeOrderShowModalView = modal; }
+
+  /// Loads a new order for confirmation. Throws what loading throws; the order is used until LetGoOfOrder.
+  void AddOrder(host::TCustomClientOrder* order);
+
+  /// Loads a working order to be changed; a frame that is not shown modally takes a copy.
+  void ChangeOrder(host::TCustomClientOrder* order);
+
+  /// Forgets the order; a copy of the frame's own is given back.
+  void LetGoOfOrder();
+
+  /// Checks the times and the chosen algorithm's fields; false when a rule failed, whose message has then
+  /// been shown. With no effect on the form and the order.
+  bool CheckOrderValid() const;
+
+  /// Whether the first comma-separated piece of `text` holds the code of an algorithm.
+  bool CheckOrder(std::string_view text) const;
+
+  /// Whether the order is one from which children are cut.
+  static bool GetWorkOrder(const host::TCustomOrder& order);
+
+  void Detach() override;
+
+ protected:
+  virtual void InitializeViewbyOrder(host::TCustomClientOrder& order);
+
+  /// Whether an order with these flags has a price that may be set.
+  static bool PriceMayBeSet(const host::TCustomOrder& order);
+
+  void btnBuyClick() override;
+  void btnSellClick() override;
+  void cbPopupClick() override;
+  void AlgoNotOffered() override;
+  bool FirstAlgoStandsIn() const override { return !FAlgoNotOffered; }
+  bool TakesCopies() const override { return FMyOrder == nullptr; }
+
+  host::TCustomClientOrder* FMyOrder = nullptr;
+  TOperatorMode FOrderOperatorMode = TOperatorMode::Add;
+
+ private:
+  void Confirm();
+  void SubmitChange();
+  void ShowIdentity(const host::TCustomClientOrder& order, const host::TMarketDataItem* item);
+  void LockIdentity();
+  void StepByLot(const host::TMarketDataItem* item, std::string_view symbol);
+  void SetChangeViewVisible(std::string_view algoId);
+  void SetConfirmViewVisible();
+  void EnableAmendable();
+  void ShowAlgoPart(host::TCustomClientOrder& order);
+
+  std::vector<std::string> FOrderConstList;  ///< the algorithms' codes
+  bool FIsChangeOrderShowModalView = false;
+  bool FAlgoNotOffered = false;
+  host::TOwnedOrder FOwnOrder;  ///< the copy that a non-modal change works on
+};
+
+/// Has a frame let go of its order at the end of the block, however it ends.
+class TOrderLoad {
+ public:
+  explicit TOrderLoad(TAlgoOrderChangeFrame& frame) : FFrame(frame) {}
+  ~TOrderLoad() { FFrame.LetGoOfOrder(); }
+  TOrderLoad(const TOrderLoad&) = delete;
+  TOrderLoad& operator=(const TOrderLoad&) = delete;
+
+ private:
+  TAlgoOrderChangeFrame& FFrame;
+};
+
+}  // namespace algo::views

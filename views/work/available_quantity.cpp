@@ -1,0 +1,46 @@
+#include "views/work/available_quantity.h"
+
+#include <algorithm>
+
+#include "plugin/host_contract/order_adapter.h"
+
+namespace algo::views {
+
+namespace {
+
+// The status codes in which what is unfilled of a child no longer counts: 3, 4 and 7 as a mask over 0 to 7,
+// and -1.
+constexpr std::uint32_t DoneStatuses = 0x98;
+
+bool IsDone(std::int32_t status) {
+  if (status == -1) return true;
+  return status >= 0 && status <= 7 && (DoneStatuses >> static_cast<std::uint32_t>(status) & 1U) != 0;
+}
+
+bool IsChildOf(const host::TCustomOrder& order, const host::TCustomOrder& parent) {
+  return order.parentNo == parent.orderNo && (order.flags & host::WorkChildMark) != 0 &&
+         order.orderNo != parent.orderNo;
+}
+
+double UsedByChildren(const host::TCustomOrder& parent) {
+  auto& store = host::TCustomOrderAdapter::GetInstance();
+  double used = 0;
+  const std::size_t count = store.OrderCount();
+  for (std::size_t i = 0; i < count; ++i) {
+    const host::TCustomOrder* order = store.OrderAt(i);
+    if (order == nullptr || !IsChildOf(*order, parent)) continue;
+    used += IsDone(order->status) ? order->filled : order->quantity;
+  }
+  return used;
+}
+
+}  // namespace
+
+double GetWorkParentOrderAvailableQty(const host::TCustomOrder* parent) {
+  if (parent == nullptr) return 0;
+  const bool workParent = (parent->flags & host::WorkParentMark) != 0;
+  const double used = workParent ? UsedByChildren(*parent) : parent->filled + parent->committed;
+  return std::max(parent->quantity - used, 0.0);
+}
+
+}  // namespace algo::views

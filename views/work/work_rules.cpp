@@ -1,0 +1,111 @@
+// What holds quantity, percentage and price of a child together, and what is checked before it is cut.
+
+#include <algorithm>
+#include <cmath>
+
+#include "model/order_types.h"
+#include "plugin/host_contract/account_adapter.h"
+#include "text/number_text.h"
+#include "views/work/available_quantity.h"
+#include "views/work/updating.h"
+#include "views/work/work_order_frame.h"
+
+namespace algo::views {
+
+namespace {
+
+constexpr double PriceLimit = 2000000000;
+
+bool Differs(double left, double right) { return std::abs(left - right) > model::PriceEpsilon; }
+
+}  // namespace
+
+bool TAlgoWorkOrderFrame::HoldsPrice() const {
+  return FMyOrder != nullptr && Check(TField::cbLockPrice).Checked() &&
+         std::abs(FMyOrder->price) > model::PriceEpsilon;
+}
+
+void TAlgoWorkOrderFrame::SetPriceMaxMinValue() {
+  auto& price = Spin(TField::edtPrice);
+  price.SetMin(-PriceLimit);
+  price.SetMax(PriceLimit);
+  if (!HoldsPrice()) return;
+  if (FMyOrder->side == host::SideSell) price.SetMin(FMyOrder->price);
+  if (FMyOrder->side == host::SideBuy) price.SetMax(FMyOrder->price);
+}
+
+void TAlgoWorkOrderFrame::ProcessPriceValueUpdate() {
+  if (!HoldsPrice()) return;
+  auto& editor = Spin(TField::edtPrice);
+  const double price = GetSpinEditValue(&editor);
+  const bool above = FMyOrder->side == host::SideBuy && price > FMyOrder->price;
+  const bool below = FMyOrder->side == host::SideSell && price < FMyOrder->price;
+  if (above || below) editor.SetValue(FMyOrder->price);
+}
+
+void TAlgoWorkOrderFrame::cbLockPriceChange() {
+  SetPriceMaxMinValue();
+  ProcessPriceValueUpdate();
+}
+
+double TAlgoWorkOrderFrame::GetSpinEditValue(const forms::TSpinEdit* editor) const {
+  return editor == nullptr ? 0.0 : editor->Value().value_or(0.0);
+}
+
+double TAlgoWorkOrderFrame::GetLotSize() const {
+  if (FMyOrder == nullptr) return 1.0;
+  const host::TMarketDataItem* item =
+      host::TCustomSubscribeAdapter::GetInstance().Subscribe(FMyOrder->symbol, host::PriceDataSet, true);
+  if (item == nullptr) return 1.0;
+  // The text form, unlike the symbol tracking, which rounds the number.
+  const std::int64_t lot = text::ParseWhole(item->FieldText(host::LotSizeField)).value_or(1);
+  return static_cast<double>(std::max<std::int64_t>(lot, 1));
+}
+
+void TAlgoWorkOrderFrame::edtQtyPropertiesChange() {
+  if (FIsUpdating || FMyOrder == nullptr) return;
+  const TUpdating updating(FIsUpdating);
+  if (FMyOrder->quantity == 0) return;
+  sedtPecentage->SetValue(GetSpinEditValue(&Spin(TField::edtQty)) * 100 / FMyOrder->quantity);
+}
+
+void TAlgoWorkOrderFrame::edtPecentagePropertiesChange() {
+  if (FIsUpdating || FMyOrder == nullptr) return;
+  const TUpdating updating(FIsUpdating);
+  const double lot = GetLotSize();
+  const double quantity = std::floor(FMyOrder->quantity * GetSpinEditValue(sedtPecentage) / 100);
+  Spin(TField::edtQty).SetValue(std::trunc(quantity / lot) * lot);
+}
+
+bool TAlgoWorkOrderFrame::CheckInput() {
+  const auto complaint = FirstComplaint();
+  if (complaint) Tell(*complaint);
+  return !complaint && CheckOrderValid();
+}
+
+std::optional<model::TComplaint> TAlgoWorkOrderFrame::FirstComplaint() const {
+  using enum model::TTold;
+  using TComplaint = model::TComplaint;
+  const std::string account = Edit(TField::edtAccount).Text();
+  if (account.empty()) return TComplaint{HostCode, "DC10013001"};
+  if (!host::TCustomAccountAdapter::GetInstance().IsKnown(account)) return TComplaint{HostCode, "DC10013002"};
+  if (Edit(TField::edtSymbol).Text().empty()) return TComplaint{HostCode, "DC1000001"};
+  const double quantity = GetSpinEditValue(&Spin(TField::edtQty));
+  if (quantity <= 0) return TComplaint{HostCode, "DC1004001"};
+  if (quantity > GetWorkParentOrderAvailableQty(FMyOrder)) return TComplaint{Resource, "Res_QuantityInvalid"};
+  if (FConfirmWorkOrdPri && Check(TField::cbLockPrice).Checked() && FMyOrder->price != 0) {
+    // A buying child may be cheaper than its parent; a selling one has the parent's price and no other.
+    const double price = GetSpinEditValue(&Spin(TField::edtPrice));
+    if (FMyOrder->side == host::SideBuy && price - FMyOrder->price > model::PriceEpsilon) {
+      return TComplaint{Resource, "Res_ChangeUpPrice"};
+    }
+    if (FMyOrder->side == host::SideSell && Differs(price, FMyOrder->price)) {
+      return TComplaint{Resource, "Res_ChangeDownPrice"};
+    }
+  }
+  const double lot = GetLotSize();
+  if (std::floor(quantity / lot) * lot != quantity) return TComplaint{Resource, "Res_WorkOddLotWarning"};
+  return std::nullopt;
+}
+
+}  // namespace algo::views
