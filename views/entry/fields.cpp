@@ -10,7 +10,9 @@ namespace {
 using enum TField;
 using enum TGroup;
 using enum TFieldKind;
-using enum TExitRule;
+using TExitRule::Bounds;
+using TExitRule::Zero;
+using TExitRule::ZeroOrMax;
 using enum forms::TDirection;
 
 // How figures are shown: percentages plain, all else with thousands separators; "7" with seven decimals at
@@ -74,9 +76,9 @@ constexpr TFieldRow Field(TFieldKind kind, TField field, std::string_view name, 
   return {.field = field, .name = name, .kind = kind, .item = item, .group = group, .captionId = captionId};
 }
 
-constexpr TFieldRow Date(TField field, std::string_view name, std::string_view item, TGroup group,
-                         std::string_view captionId) {
-  TFieldRow row = Field(TFieldKind::Date, field, name, item, group, captionId);
+constexpr TFieldRow DateTime(TField field, std::string_view name, std::string_view item, TGroup group,
+                             std::string_view captionId) {
+  TFieldRow row = Field(Date, field, name, item, group, captionId);
   row.clickSelectsAll = true;
   return row;
 }
@@ -118,8 +120,8 @@ constexpr std::array<TFieldRow, FieldCount> Fields{{
     Field(Button, btnWork, "btnWork", "liWork", lgSubmit),
     Field(SpeedButton, btnBuy, "btnBuy", "liBuy", lgBuy),
     Field(SpeedButton, btnSell, "btnSell", "liSell", lgSell),
-    Date(deSTime, "deSTime", "liSTime", lgTrading, "Res_Algo_STime"),
-    Date(deETime, "deETime", "liETime", lgTrading, "Res_Algo_ETime"),
+    DateTime(deSTime, "deSTime", "liSTime", lgTrading, "Res_Algo_STime"),
+    DateTime(deETime, "deETime", "liETime", lgTrading, "Res_Algo_ETime"),
     Number(edtVolPct, "edtVolPct", "liVolPct", lgVol, "Res_Algo_VolPct", Percent, TRange{0, 80}, ZeroOrMax, SelectsAll),
     Number(edtMaxVolPct, "edtMaxVolPct", "liMaxVolPct", lgVol, "Res_Algo_MaxVolPct", Percent, TRange{0, 100}, ZeroOrMax, SelectsAll),
     Field(Combo, cmbAccuVol, "cmbAccuVol", "liAccuVol", lgVol, "Res_Algo_AccuVol"),
