@@ -2,45 +2,15 @@
 
 #include <algorithm>
 
+#include "model/parameter_table.h"
 #include "model/pieces.h"
 #include "model/rule_tables.h"
+#include "model/visibility.h"
 #include "text/text.h"
 
 namespace algo::model {
 
 namespace {
-
-// What each algorithm shows and hides of the form. Groups that an algorithm does not name stay hidden; items
-// that it does not name stay shown.
-constexpr std::array<std::string_view, 6> TVOLGroups{"lgTrading", "lgVol",      "lgWOrder",
-                                                     "lgAuc",     "lgMinOrder", "lgStyle"};
-constexpr std::array<std::string_view, 4> TVOLHidden{"liAccuVol", "liMaxVolPct", "liOpenPct", "liClosePct"};
-constexpr std::array<std::string_view, 7> TVOLThresholdGroups{"lgVol",   "lgWOrder",  "lgAuc",   "lgMinOrder",
-                                                              "lgStyle", "lgTrading", "lgTVOLth"};
-constexpr std::array<std::string_view, 4> TVOLThresholdHidden{"liMaxVolPct", "liOpenPct", "liClosePct",
-                                                              "liAccuVol"};
-constexpr std::array<std::string_view, 7> WAPGroups{"lgTrading", "lgVol",    "lgWOrder", "lgMinOrder",
-                                                    "lgStyle",   "lgSlices", "lgAuc"};
-constexpr std::array<std::string_view, 5> TWAPHidden{"liAccuVol", "liVolPct", "liCloseSim", "liOpenPct",
-                                                     "liClosePct"};
-constexpr std::array<std::string_view, 3> VWAPHidden{"liAccuVol", "liVolPct", "liCloseSim"};
-constexpr std::array<std::string_view, 6> ICEBERGGroups{"lgTrading", "lgAuc",    "lgMinOrder",
-                                                        "lgICEBERG", "lgWOrder", "lgStyle"};
-constexpr std::array<std::string_view, 4> ICEBERGHidden{"liIceberg", "liAllInAuc", "liOpenPct", "liClosePct"};
-constexpr std::array<std::string_view, 2> STOPGroups{"lgTrading", "lgSTOP"};
-constexpr std::array<std::string_view, 10> PEGGroups{"lgTrading",  "lgPEG", "lgRef",   "lgTime",
-                                                     "lgICEBERG",  "lgVol", "lgStyle", "lgWOrder",
-                                                     "lgMinOrder", "lgAuc"};
-constexpr std::array<std::string_view, 7> PEGHidden{"lgExc",    "liOpenPct", "liClosePct", "liAccuVol",
-                                                    "liVolPct", "liOpening", "liCloseSim"};
-constexpr std::array<std::string_view, 7> MOCGroups{"lgTrading",  "lgVol",     "lgAuc",  "lgWOrder",
-                                                    "lgMinOrder", "lgICEBERG", "lgStyle"};
-constexpr std::array<std::string_view, 8> MOCHidden{"liAccuVol", "liVolPct",   "liOpening", "liOpenPct",
-                                                    "liClosing", "liCloseSim", "lgExc",     "liIceberg"};
-constexpr std::array<std::string_view, 4> SNIPERGroups{"lgTrading", "lgSNIPER", "lgTime", "lgStyle"};
-constexpr std::array<std::string_view, 1> SNIPERHidden{"liRandTimeOut"};
-constexpr std::array<std::string_view, 2> SHORTSELLGroups{"lgTrading", "lgRef"};
-constexpr std::array<std::string_view, 2> SHORTSELLHidden{"liTickDiff", "liDiffPct"};
 
 // The maximum of the volume percent differs between the algorithms, and stays where the last one that names
 // it put it.
@@ -48,87 +18,87 @@ constexpr std::array<TAlgoRow, AlgoCount> Rows{{
     {.algo = TAlgo::TVOL,
      .code = "TVOL",
      .resourceId = "Res_Algo_OrderType_TVOL",
-     .groups = TVOLGroups,
-     .hiddenItems = TVOLHidden,
+     .groups = visibility::TVOLGroups,
+     .hiddenItems = visibility::TVOLHidden,
      .refillsStyle = true,
-     .pieces = PiecesOf(TAlgo::TVOL),
-     .rules = RulesOf(TAlgo::TVOL)},
+     .pieces = pieces::TVOL,
+     .rules = rule_tables::TVOL},
     {.algo = TAlgo::TVOLThreshold,
      .code = "TVOL Threshold",
      .resourceId = "Res_Algo_OrderType_TVOLTH",
-     .groups = TVOLThresholdGroups,
-     .hiddenItems = TVOLThresholdHidden,
+     .groups = visibility::TVOLThresholdGroups,
+     .hiddenItems = visibility::TVOLThresholdHidden,
      .refillsStyle = true,
-     .pieces = PiecesOf(TAlgo::TVOLThreshold),
-     .rules = RulesOf(TAlgo::TVOLThreshold)},
+     .pieces = pieces::TVOLThreshold,
+     .rules = rule_tables::TVOLThreshold},
     {.algo = TAlgo::TWAP,
      .code = "TWAP",
      .resourceId = "Res_Algo_OrderType_TWAP",
-     .groups = WAPGroups,
-     .hiddenItems = TWAPHidden,
+     .groups = visibility::WAPGroups,
+     .hiddenItems = visibility::TWAPHidden,
      .maxVolPctMaximum = 75,
      .refillsStyle = true,
-     .pieces = PiecesOf(TAlgo::TWAP),
-     .rules = RulesOf(TAlgo::TWAP)},
+     .pieces = pieces::TWAP,
+     .rules = rule_tables::TWAP},
     {.algo = TAlgo::VWAP,
      .code = "VWAP",
      .resourceId = "Res_Algo_OrderType_VWAP",
-     .groups = WAPGroups,
-     .hiddenItems = VWAPHidden,
+     .groups = visibility::WAPGroups,
+     .hiddenItems = visibility::VWAPHidden,
      .maxVolPctMaximum = 75,
      .closingNotSet = true,
      .refillsStyle = true,
-     .pieces = PiecesOf(TAlgo::VWAP),
-     .rules = RulesOf(TAlgo::VWAP)},
+     .pieces = pieces::VWAP,
+     .rules = rule_tables::VWAP},
     {.algo = TAlgo::CLOSE, .code = "CLOSE", .resourceId = "Res_Algo_OrderType_CLOSE"},
     {.algo = TAlgo::OPEN, .code = "OPEN", .resourceId = "Res_Algo_OrderType_OPEN"},
     {.algo = TAlgo::ICEBERG,
      .code = "ICEBERG",
      .resourceId = "Res_Algo_OrderType_ICEBERG",
-     .groups = ICEBERGGroups,
-     .hiddenItems = ICEBERGHidden,
+     .groups = visibility::ICEBERGGroups,
+     .hiddenItems = visibility::ICEBERGHidden,
      .refillsStyle = true,
-     .pieces = PiecesOf(TAlgo::ICEBERG),
-     .rules = RulesOf(TAlgo::ICEBERG)},
+     .pieces = pieces::ICEBERG,
+     .rules = rule_tables::ICEBERG},
     {.algo = TAlgo::STOP,
      .code = "STOP",
      .resourceId = "Res_Algo_OrderType_STOP",
-     .groups = STOPGroups,
-     .pieces = PiecesOf(TAlgo::STOP),
-     .rules = RulesOf(TAlgo::STOP)},
+     .groups = visibility::STOPGroups,
+     .pieces = pieces::STOP,
+     .rules = rule_tables::STOP},
     {.algo = TAlgo::PEG,
      .code = "PEG",
      .resourceId = "Res_Algo_OrderType_PEG",
-     .groups = PEGGroups,
-     .hiddenItems = PEGHidden,
+     .groups = visibility::PEGGroups,
+     .hiddenItems = visibility::PEGHidden,
      .maxVolPctMaximum = 80,
      .groupsInRightColumn = true,
      .refillsStyle = true,
-     .pieces = PiecesOf(TAlgo::PEG),
-     .rules = RulesOf(TAlgo::PEG)},
+     .pieces = pieces::PEG,
+     .rules = rule_tables::PEG},
     {.algo = TAlgo::MOC,
      .code = "MOC",
      .resourceId = "Res_Algo_OrderType_MOC",
-     .groups = MOCGroups,
-     .hiddenItems = MOCHidden,
+     .groups = visibility::MOCGroups,
+     .hiddenItems = visibility::MOCHidden,
      .maxVolPctMaximum = 80,
      .refillsStyle = true,
-     .pieces = PiecesOf(TAlgo::MOC),
-     .rules = RulesOf(TAlgo::MOC)},
+     .pieces = pieces::MOC,
+     .rules = rule_tables::MOC},
     {.algo = TAlgo::SNIPER,
      .code = "SNIPER",
      .resourceId = "Res_Algo_OrderType_SNIPER",
-     .groups = SNIPERGroups,
-     .hiddenItems = SNIPERHidden,
+     .groups = visibility::SNIPERGroups,
+     .hiddenItems = visibility::SNIPERHidden,
      .refillsStyle = true,
-     .pieces = PiecesOf(TAlgo::SNIPER),
-     .rules = RulesOf(TAlgo::SNIPER)},
+     .pieces = pieces::SNIPER,
+     .rules = rule_tables::SNIPER},
     {.algo = TAlgo::SHORTSELL,
      .code = "SHORT SELL",
      .resourceId = "Res_Algo_OrderType_SHORTSELL",
-     .groups = SHORTSELLGroups,
-     .hiddenItems = SHORTSELLHidden,
-     .pieces = PiecesOf(TAlgo::SHORTSELL)},
+     .groups = visibility::SHORTSELLGroups,
+     .hiddenItems = visibility::SHORTSELLHidden,
+     .pieces = pieces::SHORTSELL},
 }};
 
 constexpr bool InOrderAndUnique() {
@@ -151,7 +121,30 @@ constexpr bool ShownGroupsAreReset() {
   return true;
 }
 
-static_assert(InOrderAndUnique() && ShownGroupsAreReset());
+// Bounds belong to numbers, and every number that is written has at least a lower one.
+constexpr bool BoundsFitTheKind(const TPiece& piece) {
+  constexpr double none = std::numeric_limits<double>::infinity();
+  const bool number = ParamTable[IndexOf(piece.param)].kind == TValueKind::Number;
+  return number ? piece.above > -none && piece.above < piece.below
+                : piece.above == -none && piece.below == none;
+}
+
+constexpr bool PiecesAreSound() {
+  return std::all_of(Rows.begin(), Rows.end(), [](const TAlgoRow& row) {
+    return row.pieces.size() <= MaxPieces &&
+           std::all_of(row.pieces.begin(), row.pieces.end(), BoundsFitTheKind);
+  });
+}
+
+constexpr bool RulesAreOnNumbers() {
+  return std::all_of(Rows.begin(), Rows.end(), [](const TAlgoRow& row) {
+    return std::all_of(row.rules.begin(), row.rules.end(), [](const TRule& rule) {
+      return ParamTable[IndexOf(rule.param)].kind == TValueKind::Number && !rule.message.empty();
+    });
+  });
+}
+
+static_assert(InOrderAndUnique() && ShownGroupsAreReset() && PiecesAreSound() && RulesAreOnNumbers());
 
 const TAlgoRow* FindBy(std::string_view TAlgoRow::*name, std::string_view wanted) {
   const auto found = std::find_if(Rows.begin(), Rows.end(),

@@ -32,6 +32,9 @@ enum class TAlgo : std::uint8_t {
 
 inline constexpr std::size_t AlgoCount = static_cast<std::size_t>(TAlgo::SHORTSELL) + 1;
 
+/// The most pieces that an algorithm's parameter text has.
+inline constexpr std::size_t MaxPieces = 18;
+
 /// A piece of the parameter text. Numbers are written only strictly between the bounds, times and choices
 /// when given.
 struct TPiece {

@@ -11,12 +11,10 @@ namespace algo::model {
 
 namespace {
 
-// Enough for the longest text: prefix and id, and twenty pieces of a key and the longest number each.
-constexpr std::size_t MaxPieces = 20;
-constexpr std::size_t MaxKey = 16;
-constexpr std::size_t TextCapacity = 64 + MaxPieces * (MaxKey + text::PlainNumberCapacity);
+// The longest piece: a comma, a key, an equals sign and a number of many digits.
+constexpr std::size_t PieceCapacity = 1 + MaxKeyLength + 1 + text::PlainNumberCapacity;
 
-/// Writes a text into a buffer that lies on the stack.
+/// Collects the pieces in a buffer on the stack, which holds the longest that the tables can ask for.
 class TWriter {
  public:
   void Put(std::string_view text) {
@@ -30,10 +28,10 @@ class TWriter {
   }
   void PutNumber(double number) { FEnd += text::WritePlainNumber(number, FEnd); }
   void PutTime(text::TDateTime time) { FEnd += text::WriteCompactDateTime(time, FEnd); }
-  std::string Text() const { return {FBuffer.data(), static_cast<std::size_t>(FEnd - FBuffer.data())}; }
+  std::string_view Text() const { return {FBuffer.data(), static_cast<std::size_t>(FEnd - FBuffer.data())}; }
 
  private:
-  std::array<char, TextCapacity> FBuffer;
+  std::array<char, MaxPieces * PieceCapacity> FBuffer;
   char* FEnd = FBuffer.data();
 };
 
@@ -78,14 +76,14 @@ static_assert(Steps.size() == ParamCount);
 
 std::string ComposeText(bool marketChildren, std::string_view algoCode, const TAlgoRow* row,
                         const TParamValues& values) {
-  TWriter writer;
-  writer.Put(marketChildren ? "TMMO:AlgoId=" : "TMLO:AlgoId=");
-  writer.Put(algoCode);
+  TWriter pieces;
   if (row != nullptr) {
-    for (const TPiece& piece : row->pieces) PutPiece(writer, piece, values);
+    for (const TPiece& piece : row->pieces) PutPiece(pieces, piece, values);
   }
-  writer.Put(";");
-  return writer.Text();
+  const std::string_view start = marketChildren ? "TMMO:AlgoId=" : "TMLO:AlgoId=";
+  std::string whole;
+  whole.reserve(start.size() + algoCode.size() + pieces.Text().size() + 1);
+  return whole.append(start).append(algoCode).append(pieces.Text()).append(1, ';');
 }
 
 TSplitText SplitText(std::string_view text) {

@@ -54,6 +54,9 @@ enum class TParam : std::uint8_t {
 
 inline constexpr std::size_t ParamCount = static_cast<std::size_t>(TParam::AllInAuc) + 1;
 
+/// The longest key that a parameter has.
+inline constexpr std::size_t MaxKeyLength = 11;
+
 constexpr std::size_t IndexOf(TParam param) { return static_cast<std::size_t>(param); }
 
 enum class TValueKind : std::uint8_t { Number, Choice, Time };

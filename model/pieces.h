@@ -7,9 +7,7 @@
 
 #include "model/algos.h"
 
-namespace algo::model {
-
-namespace pieces {
+namespace algo::model::pieces {
 
 using enum TParam;
 
@@ -82,36 +80,4 @@ inline constexpr std::array SNIPER{
     Given(STime), Given(ETime), Positive(TimeOut), Positive(MinQty), Between(0, ServePct, 100), Given(Style)};
 inline constexpr std::array SHORTSELL{Given(STime), Given(ETime), Given(Ref)};
 
-}  // namespace pieces
-
-/// The pieces of the algorithm; empty where the text is prefix and id alone.
-constexpr std::span<const TPiece> PiecesOf(TAlgo algo) {
-  switch (algo) {
-    case TAlgo::TVOL:
-      return pieces::TVOL;
-    case TAlgo::TVOLThreshold:
-      return pieces::TVOLThreshold;
-    case TAlgo::TWAP:
-      return pieces::TWAP;
-    case TAlgo::VWAP:
-      return pieces::VWAP;
-    case TAlgo::ICEBERG:
-      return pieces::ICEBERG;
-    case TAlgo::STOP:
-      return pieces::STOP;
-    case TAlgo::PEG:
-      return pieces::PEG;
-    case TAlgo::MOC:
-      return pieces::MOC;
-    case TAlgo::SNIPER:
-      return pieces::SNIPER;
-    case TAlgo::SHORTSELL:
-      return pieces::SHORTSELL;
-    case TAlgo::CLOSE:
-    case TAlgo::OPEN:
-      break;
-  }
-  return {};
-}
-
-}  // namespace algo::model
+}  // namespace algo::model::pieces

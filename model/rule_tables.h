@@ -8,9 +8,7 @@
 
 #include "model/algos.h"
 
-namespace algo::model {
-
-namespace rule_tables {
+namespace algo::model::rule_tables {
 
 using enum TParam;
 using enum TComparison;
@@ -85,35 +83,4 @@ inline constexpr std::array SNIPER{
     Fails(TimeOut, TTest{AtMost, 0}, "Res_TimeoutFalse"), Fails(MinQty, TTest{AtMost, 0}, "Res_MinQtyFalse"),
     Fails(ServePct, TTest{AtMost, 0}, TTest{AtLeast, 100}, "Res_ServePctFalse")};
 
-}  // namespace rule_tables
-
-/// The rules of the algorithm; empty where the common rules are all there is.
-constexpr std::span<const TRule> RulesOf(TAlgo algo) {
-  switch (algo) {
-    case TAlgo::TVOL:
-      return rule_tables::TVOL;
-    case TAlgo::TVOLThreshold:
-      return rule_tables::TVOLThreshold;
-    case TAlgo::TWAP:
-      return rule_tables::TWAP;
-    case TAlgo::VWAP:
-      return rule_tables::VWAP;
-    case TAlgo::ICEBERG:
-      return rule_tables::ICEBERG;
-    case TAlgo::STOP:
-      return rule_tables::STOP;
-    case TAlgo::PEG:
-      return rule_tables::PEG;
-    case TAlgo::MOC:
-      return rule_tables::MOC;
-    case TAlgo::SNIPER:
-      return rule_tables::SNIPER;
-    case TAlgo::CLOSE:
-    case TAlgo::OPEN:
-    case TAlgo::SHORTSELL:
-      break;
-  }
-  return {};
-}
-
-}  // namespace algo::model
+}  // namespace algo::model::rule_tables

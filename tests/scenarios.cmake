@@ -5,6 +5,8 @@ algo_program(algo-scenario scenario_runner.cpp nlohmann_json::nlohmann_json)
 if(TARGET algo-scenario AND TARGET algo-drive)
   set(root "${CMAKE_CURRENT_SOURCE_DIR}/scenarios")
   file(GLOB_RECURSE scenarios CONFIGURE_DEPENDS RELATIVE "${root}" "${root}/*.jsonl")
+  # What several stories begin with is included by them and is no story itself.
+  list(FILTER scenarios EXCLUDE REGEX "^common/")
   foreach(scenario IN LISTS scenarios)
     string(REGEX REPLACE "\\.jsonl$" "" sentence "${scenario}")
     string(REPLACE "-" " " sentence "${sentence}")

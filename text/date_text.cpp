@@ -1,5 +1,6 @@
 #include "text/date_text.h"
 
+#include <cassert>
 #include <cstdint>
 
 #include "text/text.h"
@@ -83,6 +84,7 @@ void WriteForm(TDateTime value, std::string_view form, char* out) {
                static_cast<std::int32_t>(time.hours().count()),
                static_cast<std::int32_t>(time.minutes().count()),
                static_cast<std::int32_t>(time.seconds().count())};
+  assert(parts.year >= 1 && parts.year <= 9999);
   // From the end, so that each part gives its last digit first.
   for (std::size_t i = form.size(); i-- > 0;) {
     std::int32_t* part = PartOf(parts, form[i]);

@@ -26,7 +26,7 @@ std::string PlainNumber(double value);
 std::string GroupedNumber(double value, std::int32_t maxDecimals);
 
 /// The number that the text shows: an optional sign, digits with at most one point, an optional exponent,
-/// blanks around them. Nothing for any other text and for a number too large to be finite.
+/// blanks around them. Nothing for any other text, and for a number too large or too near to zero to be told.
 std::optional<double> ParseNumber(std::string_view text);
 
 /// The number that the text shows, or `fallback`.

@@ -1,0 +1,54 @@
+#include "terminal/drive/driver.h"
+
+#include <istream>
+#include <ostream>
+#include <string>
+
+#include "terminal/drive/session.h"
+#include "text/text.h"
+
+namespace algo::terminal {
+
+namespace {
+
+// Commands nest for dialogs inside dialogs only. What is deeper could not be copied or written without
+// running out of stack.
+constexpr int DeepestNesting = 200;
+
+// The parser quotes what it last read, which may be the whole line.
+constexpr std::size_t LongestReason = 200;
+
+}  // namespace
+
+TCommandJson ParseCommand(std::string_view line) {
+  const auto checkDepth = [](int depth, TCommandJson::parse_event_t /*event*/, TCommandJson& /*parsed*/) {
+    if (depth > DeepestNesting) throw ECommandError("the line is nested too deeply");
+    return true;
+  };
+  TCommandJson command;
+  try {
+    command = TCommandJson::parse(line, checkDepth);
+  } catch (const TCommandJson::exception& error) {
+    throw ECommandError("the line is no JSON: " + std::string(error.what()).substr(0, LongestReason));
+  }
+  if (!command.is_object()) throw ECommandError("the line is no JSON object");
+  return command;
+}
+
+void Drive(TSession& session, std::istream& script, std::ostream& answers) {
+  std::string line;
+  while (std::getline(script, line)) {
+    if (text::Trim(line).empty()) continue;
+    TAnswerJson answer;
+    try {
+      answer = session.Execute(ParseCommand(line));
+    } catch (const ECommandError& error) {
+      answer = {{"ok", false}, {"error", error.what()}};
+    }
+    // Texts come from module and script as they are; what is no UTF-8 in them must not stop the run.
+    answers << answer.dump(-1, ' ', false, TAnswerJson::error_handler_t::replace) << '\n' << std::flush;
+    if (!answers) return;
+  }
+}
+
+}  // namespace algo::terminal

@@ -1,0 +1,45 @@
+#pragma once
+
+// What the host sees from the module, written down as the events of the command that is under way.
+
+#include "terminal/drive/dialogs.h"
+#include "terminal/drive/frame_names.h"
+#include "terminal/drive/run_stack.h"
+#include "terminal/host/host_events.h"
+
+namespace algo::terminal {
+
+class TEventLog final : public THostEvents {
+ public:
+  /// What is passed outlives the log.
+  TEventLog(TFrameNames& names, TRunStack& runs, TDialogs& dialogs);
+
+  void MessageShown(std::string_view text) override;
+  void ErrorCodeShown(std::string_view code) override;
+  void ActionTaken(const host::TCustomClientOrder& order, host::TOrderAction action, std::int32_t argument,
+                   bool answer) override;
+  void Posted(std::int32_t channel, const host::TChannelRecord& record) override;
+  void ViewNotified(const host::TViewFrame& view, std::int32_t code) override;
+  void Stored(std::string_view section, std::string_view key, std::string_view value,
+              bool writeThrough) override;
+  void Subscribed(std::string_view symbol, std::string_view dataSet, bool live) override;
+  void Unsubscribed(std::string_view symbol) override;
+  void EditorRegistered(TEditorKind kind, const forms::TControl& control, std::string_view groupId) override;
+  void EditorRemoved(TEditorKind kind, const forms::TControl& control) override;
+  void EditorSymbolSet(TEditorKind kind, const forms::TControl& control, std::string_view symbol) override;
+  void LayoutAccountSet(const forms::TControl& control, std::string_view account) override;
+  void FormShown(forms::TDialogForm& form) override;
+  void FormBroughtToFront(forms::TDialogForm& form) override;
+  void FormClosed(forms::TDialogForm& form) override;
+  void RunModal(forms::TDialogForm& form) override { FDialogs.Play(form); }
+
+ private:
+  TAnswerJson EditorEvent(std::string_view event, TEditorKind kind, const forms::TControl& control);
+  std::string LabelOf(const forms::TDialogForm& form);
+
+  TFrameNames& FNames;
+  TRunStack& FRuns;
+  TDialogs& FDialogs;
+};
+
+}  // namespace algo::terminal

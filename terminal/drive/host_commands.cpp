@@ -1,0 +1,46 @@
+// The host's data, and the module in it.
+
+#include <array>
+
+#include "terminal/drive/boundary.h"
+#include "terminal/drive/command_table.h"
+#include "terminal/drive/host_merge.h"
+#include "terminal/drive/session.h"
+
+namespace algo::terminal {
+
+namespace {
+
+void Host(TSession& session, const TArguments& arguments, TAnswerJson& /*answer*/) {
+  TCommandJson changes = arguments.All();
+  // What is left is what the command says of the host.
+  for (const char* common : {"do", "id", "modal"}) changes.erase(common);
+  MergeHostData(changes, session.Host().Data());
+}
+
+void ConfigChanged(TSession& session, const TArguments& /*arguments*/, TAnswerJson& /*answer*/) {
+  IntoModule([&] { session.Host().TellConfigChanged(); });
+}
+
+void Load(TSession& session, const TArguments& /*arguments*/, TAnswerJson& /*answer*/) { session.Load(); }
+
+void Unload(TSession& session, const TArguments& /*arguments*/, TAnswerJson& answer) {
+  const host::TLeftBehind left = session.Unload();
+  answer["left"] = {{"channels", left.channels},
+                    {"config_listeners", left.configListeners},
+                    {"market_listeners", left.marketListeners},
+                    {"subscriptions", left.subscriptions},
+                    {"editors", left.editors},
+                    {"skin_listeners", left.skinListeners},
+                    {"orders", left.orders},
+                    {"forms", left.forms}};
+}
+
+constexpr std::array Commands{TCommand{"host", Host}, TCommand{"config_changed", ConfigChanged},
+                              TCommand{"load", Load}, TCommand{"unload", Unload}};
+
+}  // namespace
+
+std::span<const TCommand> HostCommands() { return Commands; }
+
+}  // namespace algo::terminal

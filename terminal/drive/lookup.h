@@ -1,0 +1,28 @@
+#pragma once
+
+// What commands name: frames, controls and orders. Each look-up throws ECommandError when there is no such
+// thing.
+
+#include <memory>
+#include <string>
+
+#include "terminal/drive/arguments.h"
+#include "terminal/drive/session.h"
+
+namespace algo::terminal {
+
+using TFramePointer = std::shared_ptr<host::TViewFrame>;
+
+/// The frame that the argument `frame` names.
+TFramePointer FrameOf(TSession& session, const TArguments& arguments);
+
+/// The same, when it is the frame of a view that was opened by command.
+TFramePointer OpenedFrameOf(TSession& session, const TArguments& arguments);
+
+/// The control that the argument `control` names.
+forms::TControl& ControlOf(const forms::TFrame& frame, const TArguments& arguments);
+
+/// The stored order with the key; nullptr for the argument null.
+host::TCustomClientOrder* StoredOrderOf(TSession& session, const TArguments& arguments);
+
+}  // namespace algo::terminal

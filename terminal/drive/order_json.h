@@ -1,0 +1,20 @@
+#pragma once
+
+// Orders in commands, answers and events.
+
+#include "plugin/host_contract/orders.h"
+#include "terminal/drive/arguments.h"
+
+namespace algo::terminal {
+
+/// Every field of the order.
+TAnswerJson OrderJson(const host::TCustomOrder& order);
+
+/// The same, or null for no order.
+TAnswerJson OrderJson(const host::TCustomOrder* order);
+
+/// Writes the fields that the arguments name into the order. Throws ECommandError, with no effect on the
+/// order, for a field of the wrong type; arguments that are no field are passed over.
+void ApplyOrderFields(const TArguments& arguments, host::TCustomClientOrder& order);
+
+}  // namespace algo::terminal

@@ -1,0 +1,96 @@
+#include "terminal/drive/session.h"
+
+#include <utility>
+
+#include "terminal/drive/boundary.h"
+#include "terminal/drive/command_table.h"
+
+namespace algo::terminal {
+
+namespace {
+
+/// The scripts for the dialogs of a command. Throws ECommandError when they are no list of lists.
+std::vector<const TCommandJson*> DialogScripts(const TCommandJson& command) {
+  std::vector<const TCommandJson*> scripts;
+  const auto modal = command.find("modal");
+  if (modal == command.end()) return scripts;
+  if (!modal->is_array()) throw ECommandError("'modal' must be a list of lists of commands");
+  for (const auto& script : *modal) {
+    if (!script.is_array()) throw ECommandError("'modal' must be a list of lists of commands");
+    scripts.push_back(&script);
+  }
+  return scripts;
+}
+
+}  // namespace
+
+TSession::TSession(std::string moduleFile)
+    : FModuleFile(std::move(moduleFile)),
+      FDialogs(FNames, FRuns, [this](const TCommandJson& command) { return Execute(command); }),
+      FLog(FNames, FRuns, FDialogs),
+      FHost(FLog) {
+  // The module would catch a mere exception and go on, so the breach is noted where no module can lose it.
+  FStrict.OnViolation([this](const std::string& what) {
+    auto& violation = FRuns.Current().violation;
+    if (violation.empty()) violation = what;
+    throw EError("contract violated: " + what);
+  });
+}
+
+TSession::~TSession() {
+  try {
+    if (FModule) Unload();
+  } catch (...) {  // NOLINT(bugprone-empty-catch): the script has ended, nobody is left to tell
+  }
+}
+
+TAnswerJson TSession::Execute(const TCommandJson& command) {
+  TAnswerJson answer{{"ok", true}};
+  if (command.is_object() && command.contains("id")) answer["id"] = command["id"];
+  TRun run;
+  const TRunStack::TPush push(FRuns, run);
+  try {
+    if (!command.is_object()) throw ECommandError("a command must be a JSON object");
+    run.dialogScripts = DialogScripts(command);
+    const TArguments arguments(command);
+    const TCommand& found = FindCommand(arguments.Text("do"));
+    TAnswerJson told = TAnswerJson::object();
+    found.handler(*this, arguments, told);
+    answer.update(told);
+  } catch (const std::exception& error) {
+    answer["ok"] = false;
+    answer["error"] = error.what();
+  }
+  if (!run.violation.empty()) {
+    answer["ok"] = false;
+    answer["error"] = "contract violated: " + run.violation;
+  }
+  if (!run.dialogs.empty()) answer["modal"] = std::move(run.dialogs);
+  if (!run.events.empty()) answer["events"] = std::move(run.events);
+  FNames.DropGone();
+  return answer;
+}
+
+void TSession::Load() {
+  if (FModule) throw ECommandError("a module is loaded already");
+  const std::string setting = FHost.Data().Setting(FHost.Data().section, "ChangeOrderShowModel");
+  FChangesAreModal = !setting.starts_with('n') && !setting.starts_with('N');
+  FModule.emplace(FModuleFile, this);
+}
+
+host::TLeftBehind TSession::Unload() {
+  if (!FModule) throw ECommandError("no module is loaded");
+  if (FDialogs.Innermost() != nullptr) throw ECommandError("a modal dialog is showing");
+  IntoModule([this] { FModule->DropProvider(); });
+  const auto left = FStrict.LeftBehind();
+  if (left != host::TLeftBehind{}) FModule->KeepLoaded();
+  FModule.reset();
+  return left;
+}
+
+const TLoadedModule& TSession::Module() const {
+  if (!FModule) throw ECommandError("no module is loaded");
+  return *FModule;
+}
+
+}  // namespace algo::terminal

@@ -1,0 +1,106 @@
+// The trader: everything that comes in through keyboard and mouse.
+
+#include <algorithm>
+#include <array>
+
+#include "terminal/drive/boundary.h"
+#include "terminal/drive/command_table.h"
+#include "terminal/drive/lookup.h"
+
+namespace algo::terminal {
+
+namespace {
+
+using forms::TInputResult;
+
+/// Throws ECommandError for an input that the control did not take.
+void CheckTaken(TInputResult result, const forms::TControl& control) {
+  constexpr std::array<std::string_view, 6> Reasons{
+      "", " is not showing", " is disabled", " is read-only", " takes no such input", " has no such item"};
+  const auto reason = Reasons[static_cast<std::size_t>(result)];
+  if (!reason.empty()) throw ECommandError(control.Name() + std::string(reason));
+}
+
+void Type(TSession& session, const TArguments& arguments, TAnswerJson& /*answer*/) {
+  const auto frame = FrameOf(session, arguments);
+  auto& control = ControlOf(*frame, arguments);
+  const auto& text = arguments.Text("text");
+  CheckTaken(IntoModule([&] { return frame->InputText(control, text); }), control);
+}
+
+void Leave(TSession& session, const TArguments& arguments, TAnswerJson& /*answer*/) {
+  const auto frame = FrameOf(session, arguments);
+  IntoModule([&] { frame->InputLeave(); });
+}
+
+void Enter(TSession& session, const TArguments& arguments, TAnswerJson& answer) {
+  const auto frame = FrameOf(session, arguments);
+  forms::TControl* control = arguments.Has("control") ? &ControlOf(*frame, arguments) : frame->Focused();
+  if (control == nullptr) throw ECommandError("no control has the focus");
+  CheckTaken(IntoModule([&] { return frame->InputEnter(*control); }), *control);
+  answer["focus"] = frame->Focused() == nullptr ? std::string() : frame->Focused()->Name();
+}
+
+void Click(TSession& session, const TArguments& arguments, TAnswerJson& answer) {
+  const auto frame = FrameOf(session, arguments);
+  auto& control = ControlOf(*frame, arguments);
+  CheckTaken(IntoModule([&] { return frame->InputClick(control); }), control);
+  if (const auto* editor = dynamic_cast<const forms::TEditor*>(&control)) {
+    answer["selected"] = editor->SelectedText();
+  }
+}
+
+/// The place of the item that the arguments name, by place or by text. Throws ECommandError when they name
+/// none.
+std::int32_t ItemOf(const forms::TControl& control, const TArguments& arguments) {
+  if (arguments.Has("index") == arguments.Has("item")) {
+    throw ECommandError("either 'index' or 'item' must be given");
+  }
+  if (arguments.Has("index")) return arguments.Integer("index");
+  const auto& text = arguments.Text("item");
+  const auto* combo = dynamic_cast<const forms::TComboBox*>(&control);
+  if (combo == nullptr) return 0;
+  const auto found = std::ranges::find(combo->Items(), text);
+  if (found == combo->Items().end()) throw ECommandError(control.Name() + " has no item '" + text + "'");
+  return static_cast<std::int32_t>(found - combo->Items().begin());
+}
+
+void Pick(TSession& session, const TArguments& arguments, TAnswerJson& /*answer*/) {
+  const auto frame = FrameOf(session, arguments);
+  auto& control = ControlOf(*frame, arguments);
+  const auto index = ItemOf(control, arguments);
+  CheckTaken(IntoModule([&] { return frame->InputPick(control, index); }), control);
+}
+
+void Dismiss(TSession& session, const TArguments& arguments, TAnswerJson& /*answer*/) {
+  const auto result = arguments.Integer("result");
+  forms::TDialogForm* form = session.Dialogs().Innermost();
+  if (form == nullptr) throw ECommandError("no modal dialog is showing");
+  if (result == forms::ModalNone) throw ECommandError("'result' must be a number that ends a dialog, not 0");
+  form->SetModalResult(result);
+}
+
+void CloseForm(TSession& session, const TArguments& arguments, TAnswerJson& /*answer*/) {
+  const auto frame = FrameOf(session, arguments);
+  forms::TDialogForm* form = frame->Form();
+  if (form == nullptr || form->Modal() || !form->Showing()) {
+    throw ECommandError("'" + arguments.Text("frame") + "' sits in no form that shows beside others");
+  }
+  IntoModule([&] { form->Close(); });
+}
+
+constexpr std::array Commands{
+    TCommand{"type", Type},
+    TCommand{"leave", Leave},
+    TCommand{"enter", Enter},
+    TCommand{"click", Click},
+    TCommand{"pick", Pick},
+    TCommand{"dismiss", Dismiss},
+    TCommand{"close_form", CloseForm},
+};
+
+}  // namespace
+
+std::span<const TCommand> TraderCommands() { return Commands; }
+
+}  // namespace algo::terminal

@@ -1,0 +1,122 @@
+// The provider and its views: what a host asks before and after a view is opened.
+
+#include <array>
+
+#include "plugin/host_contract/order_adapter.h"
+#include "terminal/drive/boundary.h"
+#include "terminal/drive/command_table.h"
+#include "terminal/drive/lookup.h"
+
+namespace algo::terminal {
+
+namespace {
+
+TAnswerJson MenuLevel(host::TIBaseView& provider, std::int32_t level) {
+  return {{"id", provider.GetMenuID(level)},
+          {"index", provider.GetMenuIndex(level)},
+          {"group", provider.GetMenuGroupIndex(level)},
+          {"caption", provider.GetMenuCaption(level)}};
+}
+
+void Provider(TSession& session, const TArguments& /*arguments*/, TAnswerJson& answer) {
+  host::TIBaseView& provider = session.Provider();
+  TAnswerJson told;
+  IntoModule([&] {
+    told["name"] = provider.GetName();
+    told["view_id"] = provider.GetViewID();
+    told["menu_level"] = provider.GetMenuLevel();
+    told["menu"] = TAnswerJson::array();
+    for (const std::int32_t level : {0, 1, 2}) told["menu"].push_back(MenuLevel(provider, level));
+    told["visible"] = provider.GetIsVisible();
+    std::string caption;
+    const bool hasCaption = provider.GetDefaultCaption(caption);
+    told["default_caption"] = {{"result", hasCaption}, {"caption", caption}};
+    // What a view leaves untouched is the host's own.
+    std::int32_t width = 640;
+    std::int32_t height = 480;
+    const bool hasSize = provider.GetDefaultSize(width, height);
+    told["default_size"] = {{"result", hasSize}, {"width", width}, {"height", height}};
+  });
+  answer.update(told);
+}
+
+void AddSize(host::TViewFrame& frame, TAnswerJson& answer) {
+  IntoModule([&] {
+    answer["width"] = frame.GetWidth();
+    answer["height"] = frame.GetHeight();
+  });
+}
+
+void Open(TSession& session, const TArguments& arguments, TAnswerJson& answer) {
+  const auto& label = arguments.Text("frame");
+  host::TIBaseView& provider = session.Provider();
+  if (TFrameNames::IsReserved(label)) throw ECommandError("no view can be opened under '" + label + "'");
+  if (session.Names().Find(label)) throw ECommandError("'" + label + "' is open already");
+  const TFrameNames::TMaking making(session.Names(), label, {});
+  const auto handle = IntoModule([&] { return provider.OpenNewInstance(); });
+  const auto frame = provider.FindView(handle);
+  if (!frame) throw ECommandError("the view could not be opened");
+  session.Names().Name(frame, label);
+  AddSize(*frame, answer);
+}
+
+void Close(TSession& session, const TArguments& arguments, TAnswerJson& /*answer*/) {
+  const auto frame = OpenedFrameOf(session, arguments);
+  // The label goes first: events still know it, but from the module's point of view the instance is gone.
+  session.Names().Forget(arguments.Text("frame"));
+  IntoModule([&] { session.Provider().CloseInstance(host::HandleOf(*frame)); });
+}
+
+void Language(TSession& session, const TArguments& arguments, TAnswerJson& answer) {
+  const auto frame = OpenedFrameOf(session, arguments);
+  const auto language = arguments.Integer("language");
+  answer["result"] =
+      IntoModule([&] { return session.Provider().SetLanguage(host::HandleOf(*frame), language); });
+}
+
+void Skin(TSession& session, const TArguments& arguments, TAnswerJson& /*answer*/) {
+  const auto frame = OpenedFrameOf(session, arguments);
+  const auto& name = arguments.Text("name");
+  IntoModule([&] { session.Provider().SetSkin(host::HandleOf(*frame), name); });
+}
+
+void Group(TSession& session, const TArguments& arguments, TAnswerJson& answer) {
+  const auto frame = FrameOf(session, arguments);
+  const auto& id = arguments.Text("id");
+  answer["result"] = IntoModule([&] { return frame->SetGroupID(id); });
+  answer["group"] = IntoModule([&] { return frame->GetGroupID(); });
+}
+
+void Layout(TSession& session, const TArguments& arguments, TAnswerJson& answer) {
+  const auto frame = OpenedFrameOf(session, arguments);
+  const auto handle = host::HandleOf(*frame);
+  if (!arguments.Has("text")) {
+    answer["text"] = IntoModule([&] { return session.Provider().GetLayoutData(handle); });
+    return;
+  }
+  const auto& text = arguments.Text("text");
+  answer["result"] = IntoModule([&] { return session.Provider().SetLayoutData(handle, text); });
+}
+
+void Size(TSession& session, const TArguments& arguments, TAnswerJson& answer) {
+  AddSize(*FrameOf(session, arguments), answer);
+}
+
+void Compose(TSession& session, const TArguments& arguments, TAnswerJson& answer) {
+  const auto frame = OpenedFrameOf(session, arguments);
+  const auto order = host::MakeClientOrder();
+  IntoModule([&] { session.Module().Entry().setOrderAlgo(*frame, *order); });
+  answer["text"] = order->TextProperty(host::AlgoTextProperty);
+}
+
+constexpr std::array Commands{
+    TCommand{"provider", Provider}, TCommand{"open", Open}, TCommand{"close", Close},
+    TCommand{"language", Language}, TCommand{"skin", Skin}, TCommand{"group", Group},
+    TCommand{"layout", Layout},     TCommand{"size", Size}, TCommand{"compose", Compose},
+};
+
+}  // namespace
+
+std::span<const TCommand> ViewCommands() { return Commands; }
+
+}  // namespace algo::terminal

@@ -1,0 +1,85 @@
+#include "terminal/host/editor_service.h"
+
+#include <functional>
+#include <string>
+#include <utility>
+
+#include "text/text.h"
+
+namespace algo::terminal {
+
+void TMemoryEditorManager::RegisterAccountEditor(forms::TTextEdit& control, std::string_view groupId,
+                                                 std::int32_t /*mode*/, std::int32_t /*options*/) {
+  Register(TEditorKind::Account, control, groupId,
+           [&control] { control.SetText(std::string(text::Trim(control.Text()))); });
+}
+
+void TMemoryEditorManager::RegisterSymbolEditor(forms::TTextEdit& control, std::string_view groupId,
+                                                std::int32_t /*mode*/, std::int32_t /*options*/) {
+  Register(TEditorKind::Symbol, control, groupId, [this, &control] { LookUpSymbol(control); });
+}
+
+void TMemoryEditorManager::RegisterPriceEditor(forms::TSpinEdit& control, std::string_view groupId) {
+  Register(TEditorKind::Price, control, groupId, {});
+}
+
+void TMemoryEditorManager::RegisterQuantityEditor(forms::TSpinEdit& control, std::string_view groupId) {
+  Register(TEditorKind::Quantity, control, groupId, {});
+}
+
+void TMemoryEditorManager::RemoveAccountEditor(forms::TTextEdit& control) {
+  Remove(TEditorKind::Account, control);
+}
+
+void TMemoryEditorManager::RemoveSymbolEditor(forms::TTextEdit& control) {
+  Remove(TEditorKind::Symbol, control);
+}
+
+void TMemoryEditorManager::RemovePriceEditor(forms::TSpinEdit& control) {
+  Remove(TEditorKind::Price, control);
+}
+
+void TMemoryEditorManager::RemoveQuantityEditor(forms::TSpinEdit& control) {
+  Remove(TEditorKind::Quantity, control);
+}
+
+void TMemoryEditorManager::SetPriceSymbol(forms::TSpinEdit& control, std::string_view symbol) {
+  SetSymbol(TEditorKind::Price, control, symbol);
+}
+
+void TMemoryEditorManager::SetQuantitySymbol(forms::TSpinEdit& control, std::string_view symbol) {
+  SetSymbol(TEditorKind::Quantity, control, symbol);
+}
+
+void TMemoryEditorManager::SetAccountLayoutAccount(forms::TTextEdit& control, std::string_view account) {
+  FHost.events.LayoutAccountSet(control, account);
+  control.SetText(account);
+  control.Commit();
+}
+
+void TMemoryEditorManager::Register(TEditorKind kind, forms::TControl& control, std::string_view groupId,
+                                    std::function<void()> reaction) {
+  FHost.Check("editor.register");
+  control.SetHostEditor(std::move(reaction));
+  FHost.events.EditorRegistered(kind, control, groupId);
+}
+
+void TMemoryEditorManager::Remove(TEditorKind kind, forms::TControl& control) {
+  control.SetHostEditor({});
+  FHost.events.EditorRemoved(kind, control);
+}
+
+void TMemoryEditorManager::SetSymbol(TEditorKind kind, const forms::TControl& control,
+                                     std::string_view symbol) {
+  FHost.Check("editor.symbol");
+  FHost.events.EditorSymbolSet(kind, control, symbol);
+}
+
+void TMemoryEditorManager::LookUpSymbol(forms::TTextEdit& control) const {
+  const std::string symbol(text::Trim(control.Text()));
+  const bool known = FHost.data.instruments.contains(symbol);
+  if (known) control.SetText(symbol);
+  control.SetHint(known ? symbol : std::string());
+}
+
+}  // namespace algo::terminal

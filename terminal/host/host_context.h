@@ -1,0 +1,20 @@
+#pragma once
+
+// What every service of the host works on: the host's data, and whom it tells what it sees.
+
+#include <string_view>
+
+#include "terminal/host/host_data.h"
+#include "terminal/host/host_events.h"
+
+namespace algo::terminal {
+
+struct THostContext {
+  THostData& data;
+  THostEvents& events;
+
+  /// See TFaults::Check. Every operation that can be told to fail asks this before it does anything.
+  void Check(std::string_view operation) const { data.faults.Check(operation); }
+};
+
+}  // namespace algo::terminal

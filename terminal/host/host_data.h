@@ -1,0 +1,48 @@
+#pragma once
+
+// What the host knows, as plain values. Whoever drives the host edits them at any time; the services read
+// them anew at each call.
+
+#include <cstdint>
+#include <map>
+#include <set>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "forms/control.h"
+#include "plugin/host_contract/market_data.h"
+#include "terminal/host/faults.h"
+
+namespace algo::terminal {
+
+/// Texts by key, and such tables by section or tag.
+using TTextTable = std::map<std::string, std::string, std::less<>>;
+using TTextTables = std::map<std::string, TTextTable, std::less<>>;
+
+/// The user of the terminal.
+struct TProfile {
+  std::int32_t kind = 0;
+  bool flag = false;
+  std::string account;
+  std::string user;
+};
+
+struct THostData {
+  std::string section = "USER";  ///< the section of the user's own settings
+  TTextTables config;            ///< settings by section and key
+  TTextTables texts;             ///< texts by tag and id
+  std::set<std::string, std::less<>> rights = {"AlgoTabOrderEntry"};
+  TProfile profile;
+  std::set<std::string, std::less<>> accounts;                         ///< the known account codes
+  std::map<std::string, std::vector<std::string>, std::less<>> lists;  ///< list-valued settings
+  std::map<std::string, host::TInstrument, std::less<>> instruments;   ///< known instruments by symbol
+  std::map<std::int32_t, forms::TColor> colors;                        ///< skin colours by index
+  bool accept = true;  ///< what order actions are answered with
+  TFaults faults;
+
+  /// The setting under the key; empty when there is none.
+  std::string Setting(std::string_view wantedSection, std::string_view key) const;
+};
+
+}  // namespace algo::terminal

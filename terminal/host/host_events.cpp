@@ -1,0 +1,7 @@
+#include "terminal/host/host_events.h"
+
+namespace algo::terminal {
+
+THostEvents::~THostEvents() = default;
+
+}  // namespace algo::terminal

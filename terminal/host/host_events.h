@@ -1,0 +1,61 @@
+#pragma once
+
+// What the host sees of the module, told as it happens to whoever runs the host. A service call that fails is
+// not told. References are good for the duration of the call; a frame may be in the middle of being made or
+// of going away, so that it is no more than an identity with a class name.
+
+#include <cstdint>
+#include <string_view>
+
+#include "forms/control.h"
+#include "forms/dialog_form.h"
+#include "plugin/host_contract/channel_manager.h"
+#include "plugin/host_contract/orders.h"
+#include "plugin/host_contract/view_frame.h"
+
+namespace algo::terminal {
+
+/// The kinds of shared field editors.
+enum class TEditorKind : std::uint8_t { Account, Symbol, Price, Quantity };
+
+class THostEvents {
+ public:
+  virtual ~THostEvents();
+
+  virtual void MessageShown(std::string_view text) = 0;
+  virtual void ErrorCodeShown(std::string_view code) = 0;
+
+  /// An order action was asked for and answered. `order` is as it was at the call.
+  virtual void ActionTaken(const host::TCustomClientOrder& order, host::TOrderAction action,
+                           std::int32_t argument, bool answer) = 0;
+
+  /// The module posted; every subscriber has had the record.
+  virtual void Posted(std::int32_t channel, const host::TChannelRecord& record) = 0;
+
+  virtual void ViewNotified(const host::TViewFrame& view, std::int32_t code) = 0;
+
+  virtual void Stored(std::string_view section, std::string_view key, std::string_view value,
+                      bool writeThrough) = 0;
+
+  virtual void Subscribed(std::string_view symbol, std::string_view dataSet, bool live) = 0;
+  virtual void Unsubscribed(std::string_view symbol) = 0;
+
+  virtual void EditorRegistered(TEditorKind kind, const forms::TControl& control,
+                                std::string_view groupId) = 0;
+  virtual void EditorRemoved(TEditorKind kind, const forms::TControl& control) = 0;
+  /// A price or quantity editor was told which symbol it serves.
+  virtual void EditorSymbolSet(TEditorKind kind, const forms::TControl& control, std::string_view symbol) = 0;
+  /// An account from a layout is put into an account editor; told before the editor takes it up.
+  virtual void LayoutAccountSet(const forms::TControl& control, std::string_view account) = 0;
+
+  /// A form shows beside the others, is called to the front, or has closed again. Modal forms are not told
+  /// here.
+  virtual void FormShown(forms::TDialogForm& form) = 0;
+  virtual void FormBroughtToFront(forms::TDialogForm& form) = 0;
+  virtual void FormClosed(forms::TDialogForm& form) = 0;
+
+  /// Plays the trader while the form shows modally. Must give the form a modal result before it returns.
+  virtual void RunModal(forms::TDialogForm& form) = 0;
+};
+
+}  // namespace algo::terminal

@@ -1,0 +1,27 @@
+#include "terminal/host/market_item.h"
+
+#include <algorithm>
+
+#include "text/number_text.h"
+
+namespace algo::terminal {
+
+double TMemoryItem::FieldNumber(std::int32_t field) const {
+  const auto found = FFields.find(field);
+  return found == FFields.end() ? 0 : found->second.number;
+}
+
+std::string_view TMemoryItem::FieldText(std::int32_t field) const {
+  const auto found = FFields.find(field);
+  return found == FFields.end() ? std::string_view() : found->second.text;
+}
+
+void TMemoryItem::SetField(std::int32_t field, std::string_view text) {
+  FFields.insert_or_assign(field, TField{std::string(text), text::NumberOr(text, 0)});
+}
+
+bool TSpreadCodes::Contains(std::string_view code) const {
+  return std::find(FCodes.begin(), FCodes.end(), code) != FCodes.end();
+}
+
+}  // namespace algo::terminal

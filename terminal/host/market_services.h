@@ -1,0 +1,54 @@
+#pragma once
+
+// The market-data services: live items by symbol, instruments, and spread tables.
+
+#include <map>
+#include <memory>
+#include <span>
+#include <string>
+#include <string_view>
+
+#include "plugin/host_contract/market_data.h"
+#include "terminal/host/host_context.h"
+#include "terminal/host/listeners.h"
+#include "terminal/host/market_item.h"
+
+namespace algo::terminal {
+
+class TMemorySubscribeAdapter final : public host::TCustomSubscribeAdapter {
+ public:
+  explicit TMemorySubscribeAdapter(const THostContext& host) : FHost(host) {}
+
+  /// All data sets hold the same items, and an item once made stays.
+  host::TMarketDataItem* Subscribe(std::string_view symbol, std::string_view dataSet, bool live) override;
+  void AddListener(host::TMarketDataItem* item, TListener listener, host::TOwner owner) override;
+  void Unsubscribe(host::TMarketDataItem* item, host::TOwner owner) override;
+
+  /// The item of the symbol, made in state 0 if need be.
+  TMemoryItem& Item(std::string_view symbol);
+
+  /// Tells the listeners of `item` the news, which need not be of that item.
+  void Tell(TMemoryItem& item, const host::TItemDictionary& news) { item.Listeners().Tell(this, &news); }
+
+ private:
+  const THostContext& FHost;
+  std::map<std::string, std::unique_ptr<TMemoryItem>, std::less<>> FItems;
+};
+
+class TMemoryMarketAdapter final : public host::TCustomMarketAdapter {
+ public:
+  explicit TMemoryMarketAdapter(const THostContext& host) : FHost(host) {}
+
+  const host::TInstrument* FindInstrument(std::string_view symbol) override;
+  void AddSpreadListener(TSpreadListener listener, host::TOwner owner) override;
+  void RemoveSpreadListener(host::TOwner owner) override;
+
+  /// Tells the listeners that the spread tables with these codes changed.
+  void Tell(std::span<const std::string> codes);
+
+ private:
+  const THostContext& FHost;
+  TListeners<const void*, const host::TSpreadDictionary*> FListeners;
+};
+
+}  // namespace algo::terminal

@@ -1,0 +1,16 @@
+#pragma once
+
+// How the texts of settings are read as other values.
+
+#include <cstdint>
+#include <string_view>
+
+namespace algo::terminal {
+
+/// Whether the text stands for true: "Y", "y", "1", "true" or "True".
+bool IsTrueText(std::string_view text);
+
+/// The whole number of 32 bits that the text shows; 0 for any other text.
+std::int32_t WholeNumberOf(std::string_view text);
+
+}  // namespace algo::terminal

@@ -1,0 +1,44 @@
+#pragma once
+
+// A session that tests talk to line by line, without a process in between.
+
+#include <gtest/gtest.h>
+
+#include <sstream>
+#include <string>
+#include <vector>
+
+#include "terminal/drive/driver.h"
+#include "terminal/drive/session.h"
+
+namespace algo::terminal {
+
+class TPlay : public testing::Test {
+ protected:
+  /// The answers to the lines of the script.
+  std::vector<TAnswerJson> Play(const std::string& script) {
+    std::istringstream in(script);
+    std::ostringstream out;
+    Drive(session, in, out);
+    std::vector<TAnswerJson> answers;
+    std::istringstream lines(out.str());
+    for (std::string line; std::getline(lines, line);) answers.push_back(TAnswerJson::parse(line));
+    return answers;
+  }
+
+  /// The answer to one line.
+  TAnswerJson Ask(const std::string& line) {
+    const auto answers = Play(line + "\n");
+    return answers.size() == 1 ? answers[0] : TAnswerJson("not one answer but " + std::to_string(answers.size()));
+  }
+
+  /// The error of a line that has to be refused; says so when it was not.
+  std::string Refusal(const std::string& line) {
+    const auto answer = Ask(line);
+    return answer["ok"] == false ? answer["error"].get<std::string>() : "it was not refused";
+  }
+
+  TSession session{"/nowhere/module.so"};
+};
+
+}  // namespace algo::terminal
