@@ -18,19 +18,10 @@ if(ALGO_WERROR)
   target_compile_options(algo_flags INTERFACE -Werror)
 endif()
 
-if(CMAKE_CXX_COMPILER_ID STREQUAL "GNU" AND CMAKE_CXX_COMPILER_VERSION VERSION_LESS 13)
-  # This compiler takes plain concatenation of a literal and a std::string for overlapping memory when optimising.
-  target_compile_options(algo_flags INTERFACE -Wno-restrict)
-endif()
-
 if(ALGO_SANITIZE)
   set(sanitizers "-fsanitize=${ALGO_SANITIZE}" -fno-sanitize-recover=all)
   target_compile_options(algo_flags INTERFACE ${sanitizers} -fno-omit-frame-pointer)
   target_link_options(algo_flags INTERFACE ${sanitizers})
-  if(CMAKE_CXX_COMPILER_ID STREQUAL "GNU")
-    # The instrumented code hides from the compiler that an optional is engaged where it is read.
-    target_compile_options(algo_flags INTERFACE -Wno-maybe-uninitialized)
-  endif()
 endif()
 
 if(ALGO_COVERAGE)

@@ -83,7 +83,8 @@ std::string ComposeText(bool marketChildren, std::string_view algoCode, const TA
   const std::string_view start = marketChildren ? "TMMO:AlgoId=" : "TMLO:AlgoId=";
   std::string whole;
   whole.reserve(start.size() + algoCode.size() + pieces.Text().size() + 1);
-  return whole.append(start).append(algoCode).append(pieces.Text()).append(1, ';');
+  whole.append(start).append(algoCode).append(pieces.Text()).append(1, ';');
+  return whole;
 }
 
 TSplitText SplitText(std::string_view text) {

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <map>
 #include <string>
+#include <utility>
 #include <vector>
 
 #include "plugin/host_contract/account_adapter.h"
@@ -181,6 +182,9 @@ class TNullViews final : public TCustomViewService {
   }
   void Notify(TViewFrame& /*view*/, std::int32_t /*code*/) override {}
 
+  // Out of the list first: a frame that goes with its form may close others.
+  void DropForms() { const TShownForms dropped = std::exchange(*FShown, {}); }
+
  private:
   std::shared_ptr<TShownForms> FShown = std::make_shared<TShownForms>();
 };
@@ -200,12 +204,11 @@ struct TNullHost::TServices {
   TInstalledService<TNullSubscriptions> subscriptions;
   TInstalledService<TNullMarket> market;
   TInstalledService<TNullEditors> editors;
-  // Last, so that the forms that still show go while the other services are there for their frames.
   TInstalledService<TNullViews> views;
 };
 
 TNullHost::TNullHost() : FServices(std::make_unique<TServices>()) {}
 
-TNullHost::~TNullHost() = default;
+TNullHost::~TNullHost() { FServices->views->DropForms(); }
 
 }  // namespace algo::host

@@ -18,11 +18,12 @@ TEST_F(HostData, StartsAsANewHost) {
 }
 
 TEST_F(HostData, TakesEveryKeyOfTheTable) {
-  const auto answer = Ask(R"({"do":"host","id":3,"modal":[],"section":"S","config":{"S":{"k":"v"}},)"
-                          R"("texts":{"Res":{"a":"A"}},"rights":["R"],)"
-                          R"("profile":{"kind":2,"flag":true,"account":"A1","user":"U"},)"
-                          R"("accounts":["A1","A2"],"lists":{"L":["x","y"]},"instruments":{"I":{"lot":"100"}},)"
-                          R"("colors":{"7":"#0a0B0c"},"accept":false,"throw":["config.read"]})");
+  const auto answer =
+      Ask(R"({"do":"host","id":3,"modal":[],"section":"S","config":{"S":{"k":"v"}},)"
+          R"("texts":{"Res":{"a":"A"}},"rights":["R"],)"
+          R"("profile":{"kind":2,"flag":true,"account":"A1","user":"U"},)"
+          R"("accounts":["A1","A2"],"lists":{"L":["x","y"]},"instruments":{"I":{"lot":"100"}},)"
+          R"("colors":{"7":"#0a0B0c"},"accept":false,"throw":["config.read"]})");
   EXPECT_EQ(answer.dump(), R"({"ok":true,"id":3})");
   EXPECT_EQ(Data().section, "S");
   EXPECT_EQ(Data().config["S"]["k"], "v");

@@ -95,13 +95,18 @@ TEST_F(Inside, ThePostsRecordIsHandedOverAndItsResultTold) {
   OnPost([&](host::TOrderTakeActionRecord& record) {
     const bool stored = record.order == session.Host().Orders().Find("K1");
     const bool client = dynamic_cast<host::TCustomClientOrder*>(record.order) != nullptr;
-    seen.push_back(std::to_string(record.action) + (stored ? " stored" : client ? " copy" : record.order ? " foreign" : " none") +
+    seen.push_back(std::to_string(record.action) +
+                   (stored         ? " stored"
+                    : client       ? " copy"
+                    : record.order ? " foreign"
+                                   : " none") +
                    " view " + std::to_string(record.viewId));
     record.result = record.action == 2;
   });
   EXPECT_EQ(Ask(R"({"do":"post","channel":18011,"order":"K1","action":2,"view":7})").dump(),
             R"({"ok":true,"result":true})");
-  EXPECT_EQ(Ask(R"({"do":"post","channel":18011,"order":"K1","action":1})").dump(), R"({"ok":true,"result":false})");
+  EXPECT_EQ(Ask(R"({"do":"post","channel":18011,"order":"K1","action":1})").dump(),
+            R"({"ok":true,"result":false})");
   Ask(R"({"do":"post","channel":18011,"order":"K1","action":42})");
   Ask(R"({"do":"post","channel":18011,"order":"K1","action":42,"foreign":true})");
   Ask(R"({"do":"post","channel":18011,"order":null,"action":9})");
@@ -113,17 +118,18 @@ TEST_F(Inside, ADialogIsDismissedWhenNobodySaysOtherwise) {
   OnPost([this](host::TOrderTakeActionRecord& record) {
     record.result = MakeDialog("TAlgoOrderChangeFrame")->ShowModal() == forms::ModalCancel;
   });
-  EXPECT_EQ(Ask(Post).dump(),
-            R"({"ok":true,"result":true,"modal":[{"frame":"change","caption":"Sure?","width":300,"height":200.5,)"
-            R"("answers":[],"result":2}]})");
+  EXPECT_EQ(
+      Ask(Post).dump(),
+      R"({"ok":true,"result":true,"modal":[{"frame":"change","caption":"Sure?","width":300,"height":200.5,)"
+      R"("answers":[],"result":2}]})");
 }
 
 TEST_F(Inside, ADialogCarriesOutItsCommandsAlsoAfterItsResult) {
   OnPost([this](host::TOrderTakeActionRecord&) { MakeDialog("TAlgoWorkOrderFrame")->ShowModal(); });
-  const auto answer =
-      Ask(R"({"do":"post","channel":18011,"order":null,"action":1,"modal":[[)"
-          R"({"do":"type","frame":"work","control":"edtText","text":"a","id":1},{"do":"dismiss","result":1},17,)"
-          R"({"do":"unload"},{"do":"read","frame":"work","controls":["edtText"]},{"do":"fly"}]]})");
+  const auto answer = Ask(
+      R"({"do":"post","channel":18011,"order":null,"action":1,"modal":[[)"
+      R"({"do":"type","frame":"work","control":"edtText","text":"a","id":1},{"do":"dismiss","result":1},17,)"
+      R"({"do":"unload"},{"do":"read","frame":"work","controls":["edtText"]},{"do":"fly"}]]})");
   const auto& dialog = answer["modal"][0];
   EXPECT_EQ(answer["ok"], true);
   EXPECT_EQ(dialog["frame"], "work");
@@ -172,7 +178,8 @@ TEST_F(Inside, CommandsForDialogsHaveToBeListsOfLists) {
   bool posted = false;
   OnPost([&posted](host::TOrderTakeActionRecord&) { posted = true; });
   for (const char* modal : {"{}", "1", "[1]", "[{\"do\":\"dismiss\",\"result\":1}]"}) {
-    EXPECT_EQ(Refusal(R"({"do":"post","channel":18011,"order":null,"action":1,"modal":)" + std::string(modal) + "}"),
+    EXPECT_EQ(Refusal(R"({"do":"post","channel":18011,"order":null,"action":1,"modal":)" +
+                      std::string(modal) + "}"),
               "'modal' must be a list of lists of commands");
   }
   EXPECT_FALSE(posted);
@@ -193,10 +200,12 @@ TEST_F(Inside, AFormBesideOthersIsKnownUntilItCloses) {
   Play(R"({"do":"host","config":{"USER":{"ChangeOrderShowModel":"No"}}})"
        "\n"
        R"({"do":"order","key":"K1"})");
-  session.SetChangesAreModal(false);
+  // How changes are shown is settled when the module is loaded, here as far as that goes without one.
+  Ask(R"({"do":"load"})");
   const auto answer = Ask(R"({"do":"post","channel":18011,"order":"K1","action":2})");
-  EXPECT_EQ(answer["events"].dump(),
-            R"([{"event":"show","frame":"change:K1","caption":"Sure?","on_top":true,"width":300,"height":200.5}])");
+  EXPECT_EQ(
+      answer["events"].dump(),
+      R"([{"event":"show","frame":"change:K1","caption":"Sure?","on_top":true,"width":300,"height":200.5}])");
   EXPECT_EQ(Ask(R"({"do":"read","frame":"change:K1"})")["form"]["on_top"], true);
   EXPECT_EQ(Refusal(R"({"do":"read","frame":"change"})"), "there is no frame 'change'");
   EXPECT_EQ(Ask(R"({"do":"close_form","frame":"change:K1"})")["events"].dump(),

@@ -15,10 +15,18 @@ TEST_F(Lines, AreAnsweredInOrderAndBlankOnesArePassedOver) {
 }
 
 TEST_F(Lines, ThatCannotBeReadAreRefusedAndTheRunGoesOn) {
-  const std::vector<std::string> broken{
-      "{",       "nonsense",           "[]",     "17",     "\"do\"",
-      "null",    "{\"do\":\"orders\"", "{}",     "\xFF\xFE", std::string("{\"do\":\0\"orders\"}", 16),
-      "{\"do\":1e999}", "{\"do\":\"\xC3\"}"};
+  const std::vector<std::string> broken{"{",
+                                        "nonsense",
+                                        "[]",
+                                        "17",
+                                        "\"do\"",
+                                        "null",
+                                        "{\"do\":\"orders\"",
+                                        "{}",
+                                        "\xFF\xFE",
+                                        std::string("{\"do\":\0\"orders\"}", 16),
+                                        "{\"do\":1e999}",
+                                        "{\"do\":\"\xC3\"}"};
   for (const auto& line : broken) {
     const auto answers = Play(line + "\n{\"do\":\"orders\"}\n");
     ASSERT_EQ(answers.size(), 2U) << line;
@@ -46,7 +54,8 @@ TEST_F(Lines, ThatNestTooDeeplyAreRefused) {
   EXPECT_EQ(Refusal("{\"do\":\"orders\",\"id\":" + open), "the line is nested too deeply");
   EXPECT_EQ(Refusal("{\"do\":\"orders\",\"id\":" + open + std::string(1000000, ']') + "}"),
             "the line is nested too deeply");
-  EXPECT_EQ(Ask("{\"do\":\"orders\",\"id\":" + std::string(100, '[') + std::string(100, ']') + "}")["ok"], true);
+  EXPECT_EQ(Ask("{\"do\":\"orders\",\"id\":" + std::string(100, '[') + std::string(100, ']') + "}")["ok"],
+            true);
 }
 
 TEST_F(Lines, MayBeVeryLong) {
@@ -97,7 +106,8 @@ TEST_F(Lines, AskForAModuleWhereOneIsNeeded) {
 
 TEST_F(Lines, NameTheFrameThatIsNotThere) {
   for (const char* command : {"close", "size", "read", "leave", "enter", "close_form", "layout", "compose"}) {
-    EXPECT_EQ(Refusal("{\"do\":\"" + std::string(command) + "\",\"frame\":\"e9\"}"), "there is no frame 'e9'");
+    EXPECT_EQ(Refusal("{\"do\":\"" + std::string(command) + "\",\"frame\":\"e9\"}"),
+              "there is no frame 'e9'");
     EXPECT_EQ(Refusal("{\"do\":\"" + std::string(command) + "\"}"), "'frame' is missing");
     EXPECT_EQ(Refusal("{\"do\":\"" + std::string(command) + "\",\"frame\":[]}"), "'frame' must be a text");
   }

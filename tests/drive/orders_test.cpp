@@ -17,11 +17,12 @@ TEST_F(Orders, TakeEveryField) {
   Ask(R"({"do":"order","key":"K1","order_no":"O","parent_no":"P","account":"A","symbol":"S","exchange":"E","side":1,)"
       R"("quantity":1000,"filled":10.5,"committed":1,"price":0.015,"stop_price":9,"status":-3,"type_flags":2048,)"
       R"("auction_flags":4096,"algo_flags":32768,"flags":4294967295,"algo_text":"T","original":"AlgoEntry","user":"U"})");
-  EXPECT_EQ(Ask(R"({"do":"orders","key":"K1"})")["orders"].dump(),
-            R"([{"key":"K1","order_no":"O","parent_no":"P","account":"A","symbol":"S","exchange":"E","side":1,)"
-            R"("quantity":1000,"filled":10.5,"committed":1,"price":0.015,"stop_price":9,"status":-3,)"
-            R"("type_flags":2048,"auction_flags":4096,"algo_flags":32768,"flags":4294967295,"algo_text":"T",)"
-            R"("original":"AlgoEntry","user":"U"}])");
+  EXPECT_EQ(
+      Ask(R"({"do":"orders","key":"K1"})")["orders"].dump(),
+      R"([{"key":"K1","order_no":"O","parent_no":"P","account":"A","symbol":"S","exchange":"E","side":1,)"
+      R"("quantity":1000,"filled":10.5,"committed":1,"price":0.015,"stop_price":9,"status":-3,)"
+      R"("type_flags":2048,"auction_flags":4096,"algo_flags":32768,"flags":4294967295,"algo_text":"T",)"
+      R"("original":"AlgoEntry","user":"U"}])");
 }
 
 TEST_F(Orders, ChangeInTheFieldsThatAreNamed) {
@@ -40,7 +41,8 @@ TEST_F(Orders, ChangeInTheFieldsThatAreNamed) {
 
 TEST_F(Orders, AreAsTheyWereAfterARefusedCommand) {
   Ask(R"({"do":"order","key":"K1","account":"A"})");
-  EXPECT_EQ(Refusal(R"({"do":"order","key":"K1","account":"B","quantity":"7"})"), "'quantity' must be a number");
+  EXPECT_EQ(Refusal(R"({"do":"order","key":"K1","account":"B","quantity":"7"})"),
+            "'quantity' must be a number");
   EXPECT_EQ(Refusal(R"({"do":"order","key":"K1","account":"B","flags":-1})"),
             "'flags' must be a number that fits 32 bits");
   EXPECT_EQ(Refusal(R"({"do":"order","key":"K2","side":0.5})"), "'side' must be a whole number");

@@ -29,7 +29,8 @@ class TPlay : public testing::Test {
   /// The answer to one line.
   TAnswerJson Ask(const std::string& line) {
     const auto answers = Play(line + "\n");
-    return answers.size() == 1 ? answers[0] : TAnswerJson("not one answer but " + std::to_string(answers.size()));
+    return answers.size() == 1 ? answers[0]
+                               : TAnswerJson("not one answer but " + std::to_string(answers.size()));
   }
 
   /// The error of a line that has to be refused; says so when it was not.

@@ -26,7 +26,6 @@ TEST(Allocation, IsTheResultAloneWhenATextIsComposed) {
     const std::size_t taken = AllocationCount() - before;
     EXPECT_EQ(taken, 1U) << row.code;
     EXPECT_EQ(LastAllocationSize(), text.capacity() + 1) << row.code;
-    EXPECT_LT(text.capacity(), 2 * text.size() + 16) << row.code;
   }
 }
 
