@@ -115,6 +115,8 @@ TCaptionStyle& TLayoutControl::AddStyle(std::string name) {
 void TLayoutControl::Move(TLayoutElement& element, TLayoutGroup& parent) {
   if (element.FParent != nullptr) {
     std::erase(element.FParent->FChildren, &element);
+  } else {
+    std::erase(FTopGroups, &element);
   }
   element.FParent = &parent;
   parent.FChildren.push_back(&element);

@@ -30,13 +30,7 @@ constexpr bool KeysAreShort() {
                      [](const TParamRow& row) { return row.key.size() <= MaxKeyLength; });
 }
 
-constexpr bool ChoicesAloneHaveCodes() {
-  return std::all_of(ParamTable.begin(), ParamTable.end(), [](const TParamRow& row) {
-    return (row.codes != nullptr) == (row.kind == TValueKind::Choice);
-  });
-}
-
-static_assert(InOrder() && NamesAreUnique() && KeysAreShort() && ChoicesAloneHaveCodes());
+static_assert(InOrder() && NamesAreUnique() && KeysAreShort());
 
 }  // namespace
 

@@ -10,6 +10,7 @@
 //   {"expect_no_event":"take_action"}      an event that must not be in it, by name
 //   {"expect_error":true}                  the command has to be refused; with a text, the error has to hold
 //   that text
+//   {"include":"common/open.jsonl"}        the lines of another file, named from this file's folder
 //
 // An expected object is held by an answer that has each of its keys with a value that holds the expected one;
 // an expected list by a list of the same length, element by element; other values have to be equal (numbers
@@ -25,6 +26,7 @@
 #include <csignal>
 #include <cstdio>
 #include <exception>
+#include <filesystem>
 #include <fstream>
 #include <iostream>
 #include <nlohmann/json.hpp>
@@ -150,23 +152,10 @@ bool IsRefused(const json& answer, const json& wanted) {
 
 class TScenario {
  public:
-  TScenario(const char* driver, const char* file) : FFile(file), FText(file), FDriver(driver) {
-    if (!FText) throw EScenario(FFile + ": there is no such file");
-  }
+  explicit TScenario(const char* driver) : FDriver(driver) {}
 
-  void Play() {
-    std::string text;
-    while (std::getline(FText, text)) {
-      ++FLine;
-      if (text.find_first_not_of(" \t\r") == std::string::npos || text.front() == '#') continue;
-      const json line = json::parse(text, nullptr, false);
-      if (line.is_object() && !line.empty() && line.begin().key().starts_with("expect")) {
-        Check(line);
-      } else {
-        CheckOk();
-        Send(text);
-      }
-    }
+  void Play(const std::filesystem::path& file) {
+    PlayFile(file, 0);
     CheckOk();
     const int status = FDriver.Finish();
     if (!WIFEXITED(status) || WEXITSTATUS(status) != 0) Fail("the driver ends with status 0", "it does not");
@@ -175,16 +164,39 @@ class TScenario {
  private:
   /// One command with its answer, while its expectations are read.
   struct TAnswered {
-    int line = 0;
+    std::string place;
     json answer;
     bool okWasJudged = false;
   };
+
+  // Files that include each other in a ring would go on for ever.
+  static constexpr int DeepestInclude = 10;
+
+  void PlayFile(const std::filesystem::path& file, int depth) {
+    std::ifstream lines(file);
+    if (!lines || depth > DeepestInclude) throw EScenario(FPlace + ": cannot include " + file.string());
+    int number = 0;
+    for (std::string text; std::getline(lines, text);) {
+      FPlace = file.string() + ":" + std::to_string(++number);
+      if (text.find_first_not_of(" \t\r") == std::string::npos || text.front() == '#') continue;
+      const json line = json::parse(text, nullptr, false);
+      const std::string first = line.is_object() && !line.empty() ? line.begin().key() : std::string();
+      if (first == "include") {
+        PlayFile(file.parent_path() / line.at("include").get<std::string>(), depth + 1);
+      } else if (first.starts_with("expect")) {
+        Check(line);
+      } else {
+        CheckOk();
+        Send(text);
+      }
+    }
+  }
 
   void Send(const std::string& command) {
     FDriver.Send(command);
     const auto text = FDriver.Receive();
     if (!text) Fail("an answer", "the driver has ended");
-    FAnswered = TAnswered{FLine, json::parse(*text, nullptr, false), false};
+    FAnswered = TAnswered{FPlace, json::parse(*text, nullptr, false), false};
     if (!FAnswered->answer.is_object()) Fail("an answer", *text);
   }
 
@@ -192,7 +204,7 @@ class TScenario {
   void CheckOk() {
     if (!FAnswered || FAnswered->okWasJudged) return;
     if (FAnswered->answer.value("ok", false)) return;
-    FLine = FAnswered->line;
+    FPlace = FAnswered->place;
     Fail("\"ok\":true", FAnswered->answer.dump());
   }
 
@@ -219,15 +231,12 @@ class TScenario {
   }
 
   [[noreturn]] void Fail(const std::string& expected, const std::string& got) const {
-    throw EScenario(FFile + ":" + std::to_string(FLine) + "\n  expected: " + expected +
-                    "\n  got:      " + got);
+    throw EScenario(FPlace + "\n  expected: " + expected + "\n  got:      " + got);
   }
 
-  std::string FFile;
-  std::ifstream FText;
   TDriver FDriver;
+  std::string FPlace;  ///< file and line that is played
   std::optional<TAnswered> FAnswered;
-  int FLine = 0;
 };
 
 }  // namespace
@@ -240,7 +249,7 @@ int main(int argc, char** argv) {
   // A driver that ends early is told of as such.
   std::signal(SIGPIPE, SIG_IGN);
   try {
-    TScenario(argv[1], argv[2]).Play();
+    TScenario(argv[1]).Play(argv[2]);
   } catch (const std::exception& error) {
     std::cerr << error.what() << '\n';
     return 1;

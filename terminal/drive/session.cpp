@@ -82,6 +82,8 @@ host::TLeftBehind TSession::Unload() {
   if (!FModule) throw ECommandError("no module is loaded");
   if (FDialogs.Innermost() != nullptr) throw ECommandError("a modal dialog is showing");
   IntoModule([this] { FModule->DropProvider(); });
+  // Even a pointer to a frame that is gone has its last bookkeeping in the module's code.
+  FNames.DropGone();
   const auto left = FStrict.LeftBehind();
   if (left != host::TLeftBehind{}) FModule->KeepLoaded();
   FModule.reset();

@@ -152,8 +152,8 @@ TEST_F(LanguageTest, AnExchangeThatWentAwayMeanwhileUnlocksTheTypeLists) {
   EXPECT_EQ(frame.Combo(TField::cmbOrderType).Text(), "Res_Algo_OrderType_VWAP");
 }
 
-// The fixed figures are 0.6 times the font size a character and 1.2 times in height; a button is 72 by 26, of
-// which 12 are kept free each way, so that the height alone allows 11.
+// The fixed figures are 0.6 times the font size a character and 1.2 times in height. Of a button of 72 by 26,
+// 12 are kept free each way, so that the height alone allows 11.
 TEST_F(LanguageTest, TheSellCaptionSetsTheFontOfBothSideButtons) {
   struct TRow {
     std::string sell;
@@ -164,6 +164,7 @@ TEST_F(LanguageTest, TheSellCaptionSetsTheFontOfBothSideButtons) {
       {"123456789", 11},  // 9 × 6.6 = 59.4 of 60
       {"1234567890", 10}, {"12345678901", 9}, {"1234567890123456789012345", 4}, {std::string(100, 'x'), 1}};
   auto& frame = Open();
+  frame.Control(TField::btnSell).SetSize({72, 26});
   Data().texts["Res"]["Res_Side_Buy"] = "B";
   for (const TRow& row : rows) {
     Speak(row.sell);
@@ -174,6 +175,7 @@ TEST_F(LanguageTest, TheSellCaptionSetsTheFontOfBothSideButtons) {
 
 TEST_F(LanguageTest, ALongBuyCaptionShrinksNothing) {
   auto& frame = Open();
+  frame.Control(TField::btnSell).SetSize({72, 26});
   Speak("S");
   Data().texts["Res"]["Res_Side_Buy"] = "a buy caption that is far too long";
   EXPECT_TRUE(frame.SetLanguage(1));

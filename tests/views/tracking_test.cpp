@@ -225,7 +225,7 @@ TEST_F(Tracking, GoesOverToTheItemThatTheNewsBring) {
 }
 
 TEST_F(Tracking, ListensToTheSpreadTableOfItsItemAlone) {
-  TSpreadFeed feed;
+  TSpreadFeed spreads;
   auto& frame = Open();
   const std::vector<std::string> others{"02", "03"};
   const std::vector<std::string> own{"02", "01"};
@@ -234,7 +234,7 @@ TEST_F(Tracking, ListensToTheSpreadTableOfItsItemAlone) {
   EnterSymbol(frame, "0005");
   SetItem("0005", 1, {});
   Host().TellSpread(others);
-  feed.tell(nullptr, nullptr);
+  spreads.tell(nullptr, nullptr);
   EXPECT_EQ(Spin(frame, "edtQty").Value(), std::nullopt);
   Host().TellSpread(own);
   EXPECT_EQ(Spin(frame, "edtQty").Value(), 400);
