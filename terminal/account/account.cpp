@@ -109,6 +109,9 @@ void TAccount::AddLine(std::string_view line) {
 }
 
 void TAccount::AddAnswer(const json& answer) {
+  // A script gives a command a text for an id to say what it is about.
+  const auto id = answer.find("id");
+  if (id != answer.end() && id->is_string()) FOut << '\n' << id->get_ref<const std::string&>() << '\n';
   // A dialog closes before the command that led to it goes on and finishes the order.
   for (const auto& dialog : MemberList(answer, "modal")) {
     for (const auto& inner : MemberList(dialog, "answers")) AddAnswer(inner);
@@ -117,6 +120,11 @@ void TAccount::AddAnswer(const json& answer) {
          << (result == "1" ? " was confirmed\n" : " was dismissed\n");
   }
   for (const auto& event : MemberList(answer, "events")) AddEvent(event);
+  if (answer.contains("quantity")) {
+    const std::string available = MemberText(answer, "quantity", TWriting::Quantity);
+    FOut << "Available: " << (available.empty() ? "nothing" : available) << '\n';
+  }
+  if (const std::string text = MemberText(answer, "text"); !text.empty()) FOut << "Text: " << text << '\n';
   if (MemberFlag(answer, "ok")) return;
   ++FRefused;
   FOut << "Refused: line " << FLines << ": " << MemberText(answer, "error") << '\n';

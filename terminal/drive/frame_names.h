@@ -31,6 +31,9 @@ class TFrameNames {
   /// Forgets the frames that are gone, so that another one may come to stand at the same address.
   void DropGone();
 
+  /// Whether no frame is known at all.
+  bool Empty() const { return FLabels.empty() && FFrames.empty(); }
+
   /// Whether the label is one that frames get by themselves, so that no view can be opened under it.
   static bool IsReserved(std::string_view label);
 

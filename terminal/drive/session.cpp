@@ -85,7 +85,10 @@ host::TLeftBehind TSession::Unload() {
   // Even a pointer to a frame that is gone has its last bookkeeping in the module's code.
   FNames.DropGone();
   const auto left = FStrict.LeftBehind();
-  if (left != host::TLeftBehind{}) FModule->KeepLoaded();
+  // The module's code has to outlive whatever the host still holds of it; even the mere names of frames that
+  // are gone lead back into it.
+  FNames.DropGone();
+  if (left != host::TLeftBehind{} || !FNames.Empty()) FModule->KeepLoaded();
   FModule.reset();
   return left;
 }
