@@ -15,6 +15,8 @@ namespace algo::terminal {
 
 class TPlay : public testing::Test {
  protected:
+  explicit TPlay(const std::string& moduleFile = "/nowhere/module.so") : session(moduleFile) {}
+
   /// The answers to the lines of the script.
   std::vector<TAnswerJson> Play(const std::string& script) {
     std::istringstream in(script);
@@ -39,7 +41,7 @@ class TPlay : public testing::Test {
     return answer["ok"] == false ? answer["error"].get<std::string>() : "it was not refused";
   }
 
-  TSession session{"/nowhere/module.so"};
+  TSession session;
 };
 
 }  // namespace algo::terminal

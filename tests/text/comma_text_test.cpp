@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include <random>
 #include <string>
 #include <vector>
 
@@ -53,10 +54,61 @@ TEST(CommaText, TakesAnUnclosedQuoteToTheEnd) {
   EXPECT_EQ(Read("\""), (TItems{""}));
 }
 
+TEST(CommaText, QuotesEveryBlankAndEveryControlCharacterAndNothingElse) {
+  for (int code = 0; code < 256; ++code) {
+    const std::string item{'a', static_cast<char>(code), 'b'};
+    const bool quoted = code <= 0x20 || code == 0x7F || code == ',';
+    std::string expected = quoted ? "\"" + item + "\"" : item;
+    if (code == '"') expected = "\"a\"\"b\"";
+    EXPECT_EQ(Write({item}), expected) << code;
+  }
+}
+
+TEST(CommaText, KeepsBlanksInsideAnItemThatStandsInNoQuotes) {
+  EXPECT_EQ(Read(" a  b ,c\td"), (TItems{"a  b", "c\td"}));
+}
+
+TEST(CommaText, KeepsBlanksThatStandInQuotes) { EXPECT_EQ(Read(" \" a \" ,\"\t\""), (TItems{" a ", "\t"})); }
+
+TEST(CommaText, TakesAQuoteInsideAnItemAsACharacter) {
+  EXPECT_EQ(Read("a\"b,c\"d,e\""), (TItems{"a\"b", "c\"d", "e\""}));
+}
+
+TEST(CommaText, ReadsTwoQuotesInQuotesAsOne) {
+  EXPECT_EQ(Read("\"\"\"\",\"a\"\"\",\"\"\"\"\"\""), (TItems{"\"", "a\"", "\"\""}));
+}
+
+TEST(CommaText, ReadsAnEmptyItemInQuotes) { EXPECT_EQ(Read("\"\",a,\"\""), (TItems{"", "a", ""})); }
+
+TEST(CommaText, KeepsBytesThatAreNoTextAsTheyAre) {
+  const TItems items{"\xC3\x28", "\xFF\xFE", std::string("\0", 1), std::string("a\0b", 3), "\xED\xA0\x80"};
+  EXPECT_EQ(Read(Write(items)), items);
+}
+
 TEST(CommaText, ReadsBackWhateverItWrote) {
   const TItems items{"plain", "",      "with blank", "a,b",       "\"",
                      "\"\"",  " lead", "trail ",     "k=\"v\",w", "\xC3\xA9"};
   EXPECT_EQ(Read(Write(items)), items);
+}
+
+TEST(CommaText, ReadsBackRandomListsOfRandomItems) {
+  std::mt19937 random(20240115);
+  for (int i = 0; i < 10000; ++i) {
+    TItems items(1 + random() % 8);
+    for (std::string& item : items) {
+      for (auto length = random() % 6; length > 0; --length) item += "ab,\"\" \t\n\x7F\xFF="[random() % 11];
+    }
+    ASSERT_EQ(Read(Write(items)), items) << Write(items);
+  }
+}
+
+TEST(CommaText, ReadsAMillionItems) {
+  std::string line;
+  for (int i = 0; i < 1'000'000; ++i) AppendCommaItem(line, i % 2 == 0 ? "a" : "b c");
+  const TItems items = Read(line);
+  ASSERT_EQ(items.size(), 1'000'000U);
+  EXPECT_EQ(items.front(), "a");
+  EXPECT_EQ(items.back(), "b c");
 }
 
 }  // namespace

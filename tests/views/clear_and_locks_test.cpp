@@ -194,8 +194,9 @@ TEST_F(ClearAndLocksTest, EachLockBoxDisablesItsOwnFieldForAsLongAsItIsChecked) 
 TEST_F(ClearAndLocksTest, ClearOnAFormWithoutListsLeavesNothingChosen) {
   Data().lists.clear();
   auto& frame = Open();
-  FillAlgoFields(frame);
+  for (const TField number : Numbers) frame.Spin(number).SetValue(7);
   Click(frame, "btnClear");
+  ExpectAlgoFieldsEmpty(frame, -1, "without lists");
   for (const TField combo : {TField::cmbExch, TField::cmbOrderType, TField::cmbMType}) {
     EXPECT_EQ(frame.Combo(combo).Index(), -1) << frame.Combo(combo).Name();
   }

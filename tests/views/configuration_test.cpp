@@ -177,6 +177,8 @@ TEST_F(ConfigurationTest, ANewFrameHasNoSideAndThePriceZero) {
   auto& frame = Open();
   EXPECT_EQ(frame.Spin(TField::edtPrice).Text(), "0");
   EXPECT_EQ(frame.Spin(TField::edtQty).Text(), "");
+  EXPECT_EQ(frame.Date(TField::deSTime).Text(), "");
+  EXPECT_EQ(frame.Date(TField::deETime).Text(), "");
   EXPECT_FALSE(frame.SideButton(TField::btnBuy).Pressed());
   EXPECT_FALSE(frame.SideButton(TField::btnSell).Pressed());
   for (const TField box : {TField::cbLockAcct, TField::cbLockSymbol, TField::cbLockPrice, TField::cbLockQty,

@@ -60,7 +60,7 @@ class TRandomForm {
   }
 
   std::string Account() {
-    constexpr string_view characters("aZ09,,\"\"==  \t\n\x01\x7F\0;\xC3\xA9'", 22);
+    constexpr string_view characters("aZ09,,\"\"==  \t\n\x01\x7F\0;\xC3\xA9'", 21);
     std::string account;
     for (std::uint64_t length = Below(12); length > 0; --length) {
       account += characters[Below(characters.size())];

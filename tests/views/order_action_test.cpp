@@ -231,6 +231,7 @@ TEST_F(OrderActionTest, OnlyALeadingNMakesChangesNonModal) {
     EXPECT_EQ(LeftBehind(), host::TLeftBehind()) << row.setting;
   }
   Data().config.clear();
+  Forget();
   Provider();
   PostWith(&order, 2, false);
   EXPECT_EQ(Seen("show_modal").size(), 1U) << "without the setting";

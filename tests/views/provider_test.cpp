@@ -187,19 +187,6 @@ TEST_F(ProviderTest, ClosesWhatIsOpenWhenItGoes) {
   EXPECT_EQ(LeftBehind(), host::TLeftBehind());
 }
 
-TEST_F(ProviderTest, AViewThatWasClosedHearsNothingAnyMore) {
-  auto& provider = Provider();
-  const auto handle = provider.OpenNewInstance();
-  const auto frame = provider.FindView(handle);  // held on to, as a handler that runs would
-  provider.CloseInstance(handle);
-  Data().config["USER"]["ClearOrd"] = "Y";
-  Host().TellConfigChanged();
-  Forget();
-  Host().TellSkinChanged("Dark");
-  EXPECT_FALSE(dynamic_cast<forms::TCheckBox&>(Named(*frame, "cbClear")).Checked());
-  EXPECT_TRUE(Seen("view_notify").empty());
-}
-
 TEST_F(ProviderTest, TheModuleMakesItsClassKnownForAsLongAsItIsStarted) {
   auto& registry = host::TClassRegistry::GetInstance();
   const auto* module = AlgoOrderEntryModule();

@@ -55,7 +55,7 @@ class TAlgoOrderChangeFrame : public TAlgoOrderEntryFrame {
   void cbPopupClick() override;
   void AlgoNotOffered() override;
   bool FirstAlgoStandsIn() const override { return !FAlgoNotOffered; }
-  bool TakesCopies() const override { return FMyOrder == nullptr; }
+  bool TakesCopies() const override { return false; }
 
   host::TCustomClientOrder* FMyOrder = nullptr;
   TOperatorMode FOrderOperatorMode = TOperatorMode::Add;

@@ -4,6 +4,7 @@
 #include <array>
 #include <cmath>
 #include <limits>
+#include <utility>
 
 #include "model/order_types.h"
 #include "plugin/host_contract/editor_manager.h"
@@ -53,20 +54,23 @@ double TAlgoOrderEntryFrame::PriceForOrder(double shown, const host::TMarketData
 }
 
 void TAlgoOrderEntryFrame::UnfollowSymbol() {
-  if (FCurrentItem == nullptr) return;
-  Subscriptions().Unsubscribe(FCurrentItem, this);
-  FCurrentItem = nullptr;
+  // Let go of first: an item that the host refuses to take back must not serve the next symbol.
+  FCurrentSymbol.clear();
+  host::TMarketDataItem* item = std::exchange(FCurrentItem, nullptr);
+  if (item != nullptr) Subscriptions().Unsubscribe(item, this);
 }
 
 void TAlgoOrderEntryFrame::SetSymbol(std::string_view symbol) {
   if (symbol != FCurrentSymbol) {
     UnfollowSymbol();
-    FCurrentSymbol = symbol;
     if (!symbol.empty()) {
-      host::TMarketDataItem* item = Subscriptions().Subscribe(FCurrentSymbol, host::PriceDataSet, true);
-      Subscriptions().AddListener(item, Handler(&TAlgoOrderEntryFrame::SymbolUpdate), this);
+      host::TMarketDataItem* item = Subscriptions().Subscribe(symbol, host::PriceDataSet, true);
+      if (item != nullptr)
+        Subscriptions().AddListener(item, Handler(&TAlgoOrderEntryFrame::SymbolUpdate), this);
       FCurrentItem = item;
     }
+    // Last, so that a symbol at which the host failed can be entered again.
+    FCurrentSymbol = symbol;
     auto& editor = Edit(TField::edtSymbol);
     if (editor.Hint() != FCurrentSymbol) {
       editor.SetText(FCurrentSymbol);
@@ -105,7 +109,9 @@ void TAlgoOrderEntryFrame::PrefillQuantity() {
   // Set first, so that an item without a lot size is not asked again until the symbol is entered anew.
   FQtySet = true;
   if (!FCurrentItem->HasField(host::LotSizeField)) return;
-  FLotSize = WholeLot(FCurrentItem->FieldNumber(host::LotSizeField)).value_or(FLotSize);
+  const auto lot = WholeLot(FCurrentItem->FieldNumber(host::LotSizeField));
+  if (!lot) return;
+  FLotSize = *lot;
   auto& quantity = Spin(TField::edtQty);
   if (quantity.Enabled()) quantity.SetValue(FLotSize);
   for (const TField field : QuantityFields) Spin(field).MoveCaretToEnd();

@@ -1,0 +1,101 @@
+// What the trader and the host do with an open form while one of the host's services fails. Each failure is
+// told once.
+
+#include <array>
+#include <string>
+
+#include "plugin/host_contract/channel_manager.h"
+#include "tests/views/host_faults.h"
+
+namespace algo::tests {
+namespace {
+
+class FaultyActions : public HostFaults {};
+
+TEST_F(FaultyActions, AreToldOnceWhenTheFormIsCleared) {
+  const TTexts fails{"profile.data", "editor.symbol", "subscribe.remove", "language.text"};
+  AtEachFault(fails, [this](auto& frame) { Click(frame, "btnClear"); }, {"subscribe.remove"});
+}
+
+TEST_F(FaultyActions, AreToldOnceWhenTheLanguageChanges) {
+  AtEachFault({"language.text", "orders.list", "profile.right"},
+              [this](auto& frame) { Provider().SetLanguage(host::HandleOf(frame), 1); });
+}
+
+TEST_F(FaultyActions, AreToldOnceWhenTheSkinChanges) {
+  AtEachFault({"skin.color", "view.notify"},
+              [this](auto& frame) { Provider().SetSkin(host::HandleOf(frame), "dark"); });
+  AtEachFault({"skin.color", "view.notify"}, [this](auto&) { Host().TellSkinChanged("dark"); });
+}
+
+TEST_F(FaultyActions, AreToldOnceWhenTheGroupChanges) {
+  AtEachFault({"profile.data", "editor.register", "editor.symbol"},
+              [this](auto& frame) { Provider().SetGroupID(host::HandleOf(frame), "G1"); });
+}
+
+TEST_F(FaultyActions, AreToldOnceWhenTheMarketMoves) {
+  AtEachFault({}, [this](auto&) {
+    Host().SetMarket("0005", 1, {{3, "61"}}, true, false);
+    Host().TellSpread(std::array<std::string, 1>{"01"});
+  });
+}
+
+TEST_F(FaultyActions, AreToldOnceWhenTheSettingsChange) {
+  AtEachFault({"config.read"}, [this](auto&) { Host().TellConfigChanged(); });
+}
+
+TEST_F(FaultyActions, AreToldOnceWhenABoxIsClicked) {
+  AtEachFault({"config.store"}, [this](auto& frame) { Click(frame, "cbClear"); });
+}
+
+TEST_F(FaultyActions, AreToldOnceWhenAnOrderIsCopied) {
+  AtEachFault({"profile.data", "profile.right", "editor.symbol", "subscribe.add", "subscribe.remove",
+               "orders.list", "language.text", "view.notify"},
+              [this](auto&) { PostCopy(18010); }, {"subscribe.remove"});
+}
+
+TEST_F(FaultyActions, AreToldOnceWhenAPriceIsCopied) {
+  AtEachFault({"editor.symbol", "subscribe.add", "subscribe.remove"}, [this](auto&) { PostCopy(18016); },
+              {"subscribe.remove"});
+}
+
+TEST_F(FaultyActions, AreToldOnceWhenASymbolIsEntered) {
+  AtEachFault({"editor.symbol", "subscribe.add", "subscribe.remove"},
+              [this](auto& frame) {
+                Type(frame, "edtSymbol", "0700");
+                Leave(frame);
+              },
+              {"subscribe.remove"});
+}
+
+TEST_F(FaultyActions, AreToldOnceWhenAChoiceChanges) {
+  AtEachFault({"view.notify", "language.text"},
+              [this](auto& frame) { Pick(frame, "cmbOrderType", "Res_Algo_OrderType_VWAP"); });
+  AtEachFault({"orders.list", "profile.right", "language.text", "view.notify"},
+              [this](auto& frame) { Pick(frame, "cmbExch", "US"); });
+  AtEachFault({}, [this](auto& frame) { Pick(frame, "cmbMType", "Res_OrderType_Market"); });
+}
+
+TEST_F(FaultyActions, LetNoOldInstrumentServeTheSymbolThatFollows) {
+  Prepare();
+  Host().SetMarket("0005", 1, {{1504, "100"}}, false, false);
+  for (const char* fault : {"subscribe.remove", "subscribe.add"}) {
+    SCOPED_TRACE(fault);
+    auto& frame = OpenFilled();
+    Data().faults.Set({fault});
+    Type(frame, "edtSymbol", "0700");
+    Leave(frame);
+    Data().faults.Set({});
+    Forget();
+    Click(frame, "btnSubmit");
+    EXPECT_EQ(Told(), TTexts{"DC1000001"});
+    EXPECT_TRUE(Seen("take_action").empty());
+    Type(frame, "edtSymbol", "0700");
+    Leave(frame);
+    Click(frame, "btnSubmit");
+    EXPECT_EQ(TakenOrder().price, 300);
+  }
+}
+
+}  // namespace
+}  // namespace algo::tests
