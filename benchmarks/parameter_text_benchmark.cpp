@@ -164,7 +164,7 @@ BENCHMARK(ComposeInAStraightLine);
 // Both in turn, so that whatever else the machine does weighs on both alike; the ratio is the number to look
 // at.
 void ComposeAgainstTheStraightLine(benchmark::State& state) {
-  constexpr std::int32_t turns = 1000;
+  constexpr std::int32_t Turns = 1000;
   TEntries entries;
   const auto values = Values(entries);
   const auto* row = algo::model::FindAlgoByCode("PEG");
@@ -172,11 +172,11 @@ void ComposeAgainstTheStraightLine(benchmark::State& state) {
   std::clock_t straight = 0;
   for ([[maybe_unused]] auto turn : state) {
     const auto start = std::clock();
-    for (std::int32_t i = 0; i < turns; ++i) {
+    for (std::int32_t i = 0; i < Turns; ++i) {
       benchmark::DoNotOptimize(algo::model::ComposeText(false, row->code, row, values));
     }
     const auto middle = std::clock();
-    for (std::int32_t i = 0; i < turns; ++i) {
+    for (std::int32_t i = 0; i < Turns; ++i) {
       benchmark::DoNotOptimize(entries);
       benchmark::DoNotOptimize(StraightLine(entries));
     }

@@ -27,7 +27,6 @@ inline constexpr std::int32_t ModalCancel = 2;
 class ALGO_SHARED TDialogForm : public std::enable_shared_from_this<TDialogForm> {
  public:
   TDialogForm();
-  /// Gives back what the frame inside still holds of the host.
   virtual ~TDialogForm();
   TDialogForm(const TDialogForm&) = delete;
   TDialogForm& operator=(const TDialogForm&) = delete;
@@ -46,7 +45,8 @@ class ALGO_SHARED TDialogForm : public std::enable_shared_from_this<TDialogForm>
   bool Showing() const { return FShowing; }
   bool Modal() const { return FModal; }
 
-  /// Shows the form and returns its modal result once it has one.
+  /// Shows the form and returns its modal result once it has one. The form stays in sight until it is hidden,
+  /// so that its owner may look at it first.
   std::int32_t ShowModal();
   /// Shows the form beside the others and returns at once.
   void Show();

@@ -32,12 +32,21 @@ void TFrame::SetFocus(TControl* control) {
 
 void TFrame::AddObserver(TFrameObserver& observer) { FObservers.push_back(&observer); }
 
-void TFrame::RemoveObserver(TFrameObserver& observer) { std::erase(FObservers, &observer); }
+void TFrame::RemoveObserver(TFrameObserver& observer) {
+  // Its place stays while observers are told, so that none of the others is passed over.
+  std::replace(FObservers.begin(), FObservers.end(), &observer, static_cast<TFrameObserver*>(nullptr));
+  if (FTelling == 0) std::erase(FObservers, nullptr);
+}
 
 template <class TTell>
 void TFrame::Tell(TTell&& tell) {
-  // By index: an observer may add or remove observers while it is told.
-  for (std::size_t i = 0; i < FObservers.size(); ++i) tell(*FObservers[i]);
+  ++FTelling;
+  // By index, because an observer may add another while it is told.
+  // NOLINTNEXTLINE(modernize-loop-convert)
+  for (std::size_t i = 0; i < FObservers.size(); ++i) {
+    if (FObservers[i] != nullptr) tell(*FObservers[i]);
+  }
+  if (--FTelling == 0) std::erase(FObservers, nullptr);
 }
 
 void TFrame::TellControlChanged(const TControl& control) {

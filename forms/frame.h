@@ -124,7 +124,8 @@ class ALGO_SHARED TFrame : public std::enable_shared_from_this<TFrame> {
   std::string FClassName;
   TLayoutControl FLayout;
   std::vector<std::unique_ptr<TControl>> FControls;
-  std::vector<TFrameObserver*> FObservers;
+  std::vector<TFrameObserver*> FObservers;  ///< nullptr where one was removed while observers are told
+  std::int32_t FTelling = 0;
   TControl* FFocused = nullptr;
   TDialogForm* FForm = nullptr;
 };

@@ -1,7 +1,7 @@
 #!/usr/bin/env bash
 # Runs clang-tidy over our sources, two at a time; every finding is an error.
 #
-#   scripts/check-tidy.sh [FILE...]     (all sources unless given)
+#   scripts/check-tidy.sh [FILE...]     (all sources but tests, benchmarks and fuzz targets unless given)
 set -euo pipefail
 cd "$(dirname "${BASH_SOURCE[0]}")/.."
 
@@ -11,7 +11,8 @@ commands=build/tidy/compile_commands.json
 sources=("$@")
 if [[ ${#sources[@]} -eq 0 ]]; then
   # The compile commands name exactly the sources that are built, so none is checked with made-up flags.
-  mapfile -t sources < <(sed -n 's/^ *"file": "\(.*\)",\{0,1\}$/\1/p' "$commands" | sort -u)
+  mapfile -t sources < <(sed -n 's/^ *"file": "\(.*\)",\{0,1\}$/\1/p' "$commands" |
+    grep -vE "^$PWD/(tests|benchmarks|fuzz)/" | sort -u)
 fi
 if [[ ${#sources[@]} -eq 0 ]]; then
   echo "check-tidy: no sources found" >&2

@@ -30,6 +30,9 @@ class ALGO_SHARED TIBaseView {
   TIBaseView(const TIBaseView&) = delete;
   TIBaseView& operator=(const TIBaseView&) = delete;
 
+  /// The host component that keeps the provider; nullptr for none.
+  const void* Owner() const { return FOwner; }
+
   // The view in the host's menu. Levels count from 0, the menu bar.
   virtual std::string GetName() = 0;
   virtual std::int32_t GetViewID() = 0;

@@ -6,25 +6,10 @@
 namespace algo::tests {
 namespace {
 
-using forms::TInputResult;
 using host::TCustomClientOrder;
 using host::TOrderAction;
 
 class ChangeForms : public TOrderDialogTest {};
-
-TEST_F(ChangeForms, ShowOnTopWithTheirCaptionAndSize) {
-  TCustomClientOrder order = OrderWith("TMLO:AlgoId=PEG;");
-  const auto form = OpenChange(order);
-  TChangeFrame& frame = FrameIn(*form);
-  EXPECT_TRUE(form->Showing());
-  EXPECT_FALSE(form->Modal());
-  EXPECT_TRUE(form->StaysOnTop());
-  EXPECT_EQ(form->Caption(), "Res_Conf_ChangeOrder");
-  EXPECT_EQ(form->ClientSize().width, frame.GetWidth());
-  EXPECT_EQ(form->ClientSize().height, frame.GetHeight());
-  EXPECT_FALSE(Element(frame, "liPopup").Visible());
-  EXPECT_TRUE(Seen("show_modal").empty());
-}
 
 TEST_F(ChangeForms, SendTheirCopyAndClose) {
   TCustomClientOrder order = OrderWith("TMLO:AlgoId=TVOL,VolPct=20;");

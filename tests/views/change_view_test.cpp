@@ -186,6 +186,22 @@ TEST_F(ChangeView, TakesAnOrderForAWorkParentByBothMarks) {
   }
 }
 
+TEST_F(ChangeView, FitTheDialogToItsFrame) {
+  TCustomClientOrder order = OrderWith("TMLO:AlgoId=CLOSE;");
+  forms::TSize small;
+  Confirm(order, [&](forms::TDialogForm& form, TChangeFrame& frame) {
+    small = form.ClientSize();
+    EXPECT_EQ(small.width, frame.GetWidth());
+    EXPECT_EQ(small.height, frame.GetHeight());
+  });
+  order = OrderWith("TMLO:AlgoId=PEG;");
+  Confirm(order, [&](forms::TDialogForm& form, TChangeFrame& frame) {
+    EXPECT_EQ(form.ClientSize().width, frame.GetWidth());
+    EXPECT_EQ(form.ClientSize().height, frame.GetHeight());
+    EXPECT_GT(form.ClientSize().width, small.width);
+  });
+}
+
 TEST_F(ChangeView, KnowsTheTextOfAnAlgorithmByItsFirstPiece) {
   struct TRow {
     const char* text;

@@ -1,10 +1,5 @@
 // Orders, forms, views and the provider itself that go while something of them still runs.
 
-#include <stdexcept>
-
-#include "plugin/host_contract/installed_service.h"
-#include "plugin/host_contract/message_box.h"
-#include "plugin/host_contract/order_action_manager.h"
 #include "tests/views/order_dialogs.h"
 
 namespace algo::tests {
@@ -12,35 +7,6 @@ namespace {
 
 using host::TCustomClientOrder;
 using host::TOrderAction;
-
-constexpr TOrderAction AllActions[] = {TOrderAction::New, TOrderAction::Change, TOrderAction::Work};
-
-/// A host that does something of its own while it takes an action.
-class TBusyActions : public host::TCustomOrderActionManager {
- public:
-  bool TakeAction(const void* /*sender*/, TCustomClientOrder* order, TOrderAction /*action*/,
-                  std::int32_t /*argument*/) override {
-    keys.push_back(order->key);
-    if (meanwhile) meanwhile();
-    return true;
-  }
-
-  std::vector<std::string> keys;
-  std::function<void()> meanwhile;
-};
-
-/// A host that does something of its own while it shows a message.
-class TBusyMessages : public host::TCustomMessageBoxCtrl {
- public:
-  void ShowText(std::string_view /*text*/) override {
-    ++shown;
-    if (meanwhile) meanwhile();
-  }
-  void ShowErrorCode(std::string_view code) override { ShowText(code); }
-
-  int shown = 0;
-  std::function<void()> meanwhile;
-};
 
 class Lifetimes : public TOrderDialogTest {
  protected:
@@ -217,70 +183,6 @@ TEST_F(Lifetimes, TheProviderLeavesNothingBehind) {
   kept->Close();
   FrameIn(*kept).InputClick(Named(FrameIn(*kept), "btnBuy"));
   EXPECT_TRUE(Told().empty());
-}
-
-TEST_F(Lifetimes, AFormMayBeClosedWhileItsOwnActionIsTaken) {
-  for (const bool provider : {false, true}) {
-    host::TInstalledService<TBusyActions> actions;
-    TCustomClientOrder order = OrderWith("TMLO:AlgoId=TVOL;");
-    OpenChange(order);
-    auto& frame = FrameIn(*Shown().front());
-    actions->meanwhile = [&] {
-      const auto form = Shown().front();
-      Shown().clear();
-      provider ? DropProvider() : form->Close();
-    };
-    frame.InputClick(Named(frame, "btnBuy"));
-    EXPECT_EQ(actions->keys, std::vector<std::string>{"K1"});
-    EXPECT_TRUE(Told().empty());
-    EXPECT_EQ(LeftBehind().orders, 0U);
-    EXPECT_EQ(LeftBehind().forms, 0U);
-  }
-}
-
-TEST_F(Lifetimes, TheProviderMayGoWhileAnActionIsTaken) {
-  for (const TOrderAction action : AllActions) {
-    host::TInstalledService<TBusyActions> actions;
-    actions->meanwhile = [this] { DropProvider(); };
-    TCustomClientOrder order = ParentOrder();
-    Provider();
-    InDialogs({[](forms::TDialogForm& form) { form.SetModalResult(forms::ModalOk); }});
-    EXPECT_EQ(Post(&order, action), action == TOrderAction::New);
-    EXPECT_EQ(actions->keys, std::vector<std::string>{"P1"});
-    EXPECT_EQ(LeftBehind(), host::TLeftBehind());
-  }
-}
-
-TEST_F(Lifetimes, AFormMayBeClosedWhileItsMessageShows) {
-  host::TInstalledService<TBusyMessages> messages;
-  TCustomClientOrder order = OrderWith("TMLO:AlgoId=TVOL;");
-  OpenChange(order);
-  auto& frame = FrameIn(*Shown().front());
-  Spin(frame, "edtVolPct").SetValue(80);
-  messages->meanwhile = [&] {
-    const auto form = Shown().front();
-    Shown().clear();
-    form->Close();
-  };
-  frame.InputClick(Named(frame, "btnBuy"));
-  EXPECT_EQ(messages->shown, 1);
-  EXPECT_TRUE(Seen("take_action").empty());
-  EXPECT_EQ(LeftBehind().orders, 0U);
-  EXPECT_EQ(LeftBehind().forms, 0U);
-}
-
-TEST_F(Lifetimes, AFormMayBeClosedByAnEditorOfItsOwn) {
-  TCustomClientOrder order = OrderWith("TMLO:AlgoId=TVOL;");
-  OpenChange(order);
-  auto& frame = FrameIn(*Shown().front());
-  Named(frame, "edtQty").OnChange = [form = std::weak_ptr(Shown().front())] {
-    if (const auto open = form.lock()) open->Close();
-  };
-  Shown().clear();
-  frame.InputText(Named(frame, "edtQty"), "70");
-  frame.InputClick(Named(frame, "btnBuy"));
-  EXPECT_TRUE(Seen("take_action").empty());
-  EXPECT_EQ(LeftBehind().forms, 0U);
 }
 
 TEST_F(Lifetimes, AModalDialogKeepsItsAnswerWhenItIsClosed) {

@@ -33,7 +33,6 @@ class NewOrderRules : public TTerminalTest {
 };
 
 struct TRule {
-  const char* name;
   const char* algo;
   const char* editor;
   std::vector<double> fail;
@@ -42,59 +41,59 @@ struct TRule {
 };
 
 const std::vector<TRule> Rules{
-    {"T1", "TVOL", "edtVolPct", {0}, "Res_VolPctMiss", {}},
-    {"T2", "TVOL", "edtVolPct", {-0.001, -1, 80, 80.5}, "Res_VolumePctFalse", {0.001, 79, 79.999}},
-    {"T3", "TVOL", "edtWPx", {0, -0.001}, "Res_WpxFalse", {0.001}},
-    {"T4", "TVOL", "edtMinOrdAmt", {0, -1}, "Res_MinordamtFalse", {1}},
-    {"H1", "TVOL Threshold", "edtVolPct", {0}, "Res_VolPctMiss", {}},
-    {"H2", "TVOL Threshold", "edtVolPct", {-0.001, 80}, "Res_VolumePctFalse", {0.001, 79.999}},
-    {"H3", "TVOL Threshold", "edtWPx", {-0.001}, "Res_WpxFalse", {0, 0.001}},
-    {"H4", "TVOL Threshold", "edtMinOrdAmt", {-1}, "Res_MinordamtFalse", {0, 1}},
-    {"H5", "TVOL Threshold", "edtThrPx1", {0}, "Res_ThrPx1Miss", {}},
-    {"H6", "TVOL Threshold", "edtThrPx1", {-0.001}, "Res_ThrPx1False", {0.001}},
-    {"H7", "TVOL Threshold", "edtThrVolPct1", {0}, "Res_ThrVolPct1Miss", {}},
-    {"H8", "TVOL Threshold", "edtThrVolPct1", {-0.001, 100}, "Res_ThrVolPct1False", {0.001, 99.999}},
-    {"H9", "TVOL Threshold", "edtThrPx2", {-0.001}, "Res_Thrpx2False", {0, 0.001}},
-    {"H10", "TVOL Threshold", "edtThrVolPct2", {-0.001, 100}, "Res_ThrVolPct2False", {0, 99.999}},
-    {"W1", "VWAP", "edtWPx", {0, -0.001}, "Res_WpxFalse", {0.001}},
-    {"W1", "TWAP", "edtWPx", {0, -0.001}, "Res_WpxFalse", {0.001}},
-    {"W2", "VWAP", "edtMinOrdAmt", {0, -1}, "Res_MinordamtFalse", {1}},
-    {"W2", "TWAP", "edtMinOrdAmt", {0, -1}, "Res_MinordamtFalse", {1}},
-    {"W3", "VWAP", "edtMaxVolPct", {0, -0.001, 75, 80}, "Res_MaxVolPctFalse", {0.001, 74.999}},
-    {"W3", "TWAP", "edtMaxVolPct", {0, -0.001, 75, 80}, "Res_MaxVolPctFalse", {0.001, 74.999}},
-    {"W4", "VWAP", "edtOpenPct", {0, -0.001, 100}, "Res_OpenPctFalse", {0.001, 99.999}},
-    {"W4 of VWAP only", "TWAP", "edtOpenPct", {}, "", {0, -1, 100}},
-    {"W5", "VWAP", "edtClosePct", {0, -0.001, 100}, "Res_ClosePctFalse", {0.001, 99.999}},
-    {"W5 of VWAP only", "TWAP", "edtClosePct", {}, "", {0, -1, 100}},
-    {"W6", "VWAP", "edtSlices", {0, -1}, "Res_SlicesFalse", {1}},
-    {"W6", "TWAP", "edtSlices", {0, -1}, "Res_SlicesFalse", {1}},
-    {"I1", "ICEBERG", "edtMinOrdAmt", {0, -1}, "Res_MinordamtFalse", {1}},
-    {"I2", "ICEBERG", "edtShowQty", {0, -0.001}, "Res_ShowQtyFalse", {0.001}},
-    {"I3", "ICEBERG", "edtMaxShowQty", {0, -1}, "Res_MaxShowQtyFalse", {1}},
-    {"I4", "ICEBERG", "edtRandPct", {0, -0.001, 100}, "Res_RandPctFalse", {0.001, 99.999}},
-    {"I5", "ICEBERG", "edtReloadPct", {0, -0.001, 100}, "Res_ReloadPctFalse", {0.001, 99.999}},
-    {"I6", "ICEBERG", "edtWPx", {0, -0.001}, "Res_WpxFalse", {0.001}},
-    {"S1", "STOP", "edtStopLossPx", {0}, "Res_StopLossPxMiss", {}},
-    {"S2", "STOP", "edtStopLossPx", {-0.001}, "Res_StopLossFalse", {0.001}},
-    {"S3", "STOP", "edtStopQty", {-1}, "Res_StopQtyFalse", {0, 1}},
-    {"P1", "PEG", "edtMaxVolPct", {0, -0.001, 80}, "Res_MaxVolPctFalse", {0.001, 75, 79.999}},
-    {"P2", "PEG", "edtJoinThr", {0, -0.001}, "Res_JoinThrFalse", {0.001}},
-    {"P3", "PEG", "edtShowQty", {0, -0.001}, "Res_ShowQtyFalse", {0.001}},
-    {"P4", "PEG", "edtRandTimeOut", {0, -0.001, 100}, "Res_RandTimeoutFalse", {0.001, 99.999}},
-    {"P5", "PEG", "edtJoinQty", {0, -1}, "Res_JoinQtyFalse", {1}},
-    {"P6", "PEG", "edtDiffPct", {-100, 100, -101}, "Res_DiffPctFalse", {-99.999, -99, 0, 99.999}},
-    {"P7", "PEG", "edtTickDiff", {-500, 500, 501}, "Res_TickDiffFalse", {-499, 0, 499}},
-    {"P8", "PEG", "edtTimeOut", {0, -1}, "Res_TimeoutFalse", {1}},
-    {"P9", "PEG", "edtWPx", {0, -0.001}, "Res_WpxFalse", {0.001}},
-    {"P10", "PEG", "edtMinOrdAmt", {0, -1}, "Res_MinordamtFalse", {1}},
-    {"M1", "MOC", "edtMaxVolPct", {0, -0.001, 80}, "Res_MaxVolPctFalse", {0.001, 75, 79.999}},
-    {"M2", "MOC", "edtWPx", {0, -0.001}, "Res_WpxFalse", {0.001}},
-    {"M3", "MOC", "edtMinOrdAmt", {0, -1}, "Res_MinordamtFalse", {1}},
-    {"M4", "MOC", "edtClosePct", {0, -0.001, 100}, "Res_ClosePctFalse", {0.001, 99.999}},
-    {"M5", "MOC", "edtShowQty", {0, -0.001}, "Res_ShowQtyFalse", {0.001}},
-    {"N1", "SNIPER", "edtTimeOut", {0, -1}, "Res_TimeoutFalse", {1}},
-    {"N2", "SNIPER", "edtMinQty", {0, -0.001}, "Res_MinQtyFalse", {0.001}},
-    {"N3", "SNIPER", "edtServePct", {0, -0.001, 100}, "Res_ServePctFalse", {0.001, 99.999}},
+    {"TVOL", "edtVolPct", {0}, "Res_VolPctMiss", {}},
+    {"TVOL", "edtVolPct", {-0.001, -1, 80, 80.5}, "Res_VolumePctFalse", {0.001, 79, 79.999}},
+    {"TVOL", "edtWPx", {0, -0.001}, "Res_WpxFalse", {0.001}},
+    {"TVOL", "edtMinOrdAmt", {0, -1}, "Res_MinordamtFalse", {1}},
+    {"TVOL Threshold", "edtVolPct", {0}, "Res_VolPctMiss", {}},
+    {"TVOL Threshold", "edtVolPct", {-0.001, 80}, "Res_VolumePctFalse", {0.001, 79.999}},
+    {"TVOL Threshold", "edtWPx", {-0.001}, "Res_WpxFalse", {0, 0.001}},
+    {"TVOL Threshold", "edtMinOrdAmt", {-1}, "Res_MinordamtFalse", {0, 1}},
+    {"TVOL Threshold", "edtThrPx1", {0}, "Res_ThrPx1Miss", {}},
+    {"TVOL Threshold", "edtThrPx1", {-0.001}, "Res_ThrPx1False", {0.001}},
+    {"TVOL Threshold", "edtThrVolPct1", {0}, "Res_ThrVolPct1Miss", {}},
+    {"TVOL Threshold", "edtThrVolPct1", {-0.001, 100}, "Res_ThrVolPct1False", {0.001, 99.999}},
+    {"TVOL Threshold", "edtThrPx2", {-0.001}, "Res_Thrpx2False", {0, 0.001}},
+    {"TVOL Threshold", "edtThrVolPct2", {-0.001, 100}, "Res_ThrVolPct2False", {0, 99.999}},
+    {"VWAP", "edtWPx", {0, -0.001}, "Res_WpxFalse", {0.001}},
+    {"TWAP", "edtWPx", {0, -0.001}, "Res_WpxFalse", {0.001}},
+    {"VWAP", "edtMinOrdAmt", {0, -1}, "Res_MinordamtFalse", {1}},
+    {"TWAP", "edtMinOrdAmt", {0, -1}, "Res_MinordamtFalse", {1}},
+    {"VWAP", "edtMaxVolPct", {0, -0.001, 75, 80}, "Res_MaxVolPctFalse", {0.001, 74.999}},
+    {"TWAP", "edtMaxVolPct", {0, -0.001, 75, 80}, "Res_MaxVolPctFalse", {0.001, 74.999}},
+    {"VWAP", "edtOpenPct", {0, -0.001, 100}, "Res_OpenPctFalse", {0.001, 99.999}},
+    {"TWAP", "edtOpenPct", {}, "", {0, -1, 100}},
+    {"VWAP", "edtClosePct", {0, -0.001, 100}, "Res_ClosePctFalse", {0.001, 99.999}},
+    {"TWAP", "edtClosePct", {}, "", {0, -1, 100}},
+    {"VWAP", "edtSlices", {0, -1}, "Res_SlicesFalse", {1}},
+    {"TWAP", "edtSlices", {0, -1}, "Res_SlicesFalse", {1}},
+    {"ICEBERG", "edtMinOrdAmt", {0, -1}, "Res_MinordamtFalse", {1}},
+    {"ICEBERG", "edtShowQty", {0, -0.001}, "Res_ShowQtyFalse", {0.001}},
+    {"ICEBERG", "edtMaxShowQty", {0, -1}, "Res_MaxShowQtyFalse", {1}},
+    {"ICEBERG", "edtRandPct", {0, -0.001, 100}, "Res_RandPctFalse", {0.001, 99.999}},
+    {"ICEBERG", "edtReloadPct", {0, -0.001, 100}, "Res_ReloadPctFalse", {0.001, 99.999}},
+    {"ICEBERG", "edtWPx", {0, -0.001}, "Res_WpxFalse", {0.001}},
+    {"STOP", "edtStopLossPx", {0}, "Res_StopLossPxMiss", {}},
+    {"STOP", "edtStopLossPx", {-0.001}, "Res_StopLossFalse", {0.001}},
+    {"STOP", "edtStopQty", {-1}, "Res_StopQtyFalse", {0, 1}},
+    {"PEG", "edtMaxVolPct", {0, -0.001, 80}, "Res_MaxVolPctFalse", {0.001, 75, 79.999}},
+    {"PEG", "edtJoinThr", {0, -0.001}, "Res_JoinThrFalse", {0.001}},
+    {"PEG", "edtShowQty", {0, -0.001}, "Res_ShowQtyFalse", {0.001}},
+    {"PEG", "edtRandTimeOut", {0, -0.001, 100}, "Res_RandTimeoutFalse", {0.001, 99.999}},
+    {"PEG", "edtJoinQty", {0, -1}, "Res_JoinQtyFalse", {1}},
+    {"PEG", "edtDiffPct", {-100, 100, -101}, "Res_DiffPctFalse", {-99.999, -99, 0, 99.999}},
+    {"PEG", "edtTickDiff", {-500, 500, 501}, "Res_TickDiffFalse", {-499, 0, 499}},
+    {"PEG", "edtTimeOut", {0, -1}, "Res_TimeoutFalse", {1}},
+    {"PEG", "edtWPx", {0, -0.001}, "Res_WpxFalse", {0.001}},
+    {"PEG", "edtMinOrdAmt", {0, -1}, "Res_MinordamtFalse", {1}},
+    {"MOC", "edtMaxVolPct", {0, -0.001, 80}, "Res_MaxVolPctFalse", {0.001, 75, 79.999}},
+    {"MOC", "edtWPx", {0, -0.001}, "Res_WpxFalse", {0.001}},
+    {"MOC", "edtMinOrdAmt", {0, -1}, "Res_MinordamtFalse", {1}},
+    {"MOC", "edtClosePct", {0, -0.001, 100}, "Res_ClosePctFalse", {0.001, 99.999}},
+    {"MOC", "edtShowQty", {0, -0.001}, "Res_ShowQtyFalse", {0.001}},
+    {"SNIPER", "edtTimeOut", {0, -1}, "Res_TimeoutFalse", {1}},
+    {"SNIPER", "edtMinQty", {0, -0.001}, "Res_MinQtyFalse", {0.001}},
+    {"SNIPER", "edtServePct", {0, -0.001, 100}, "Res_ServePctFalse", {0.001, 99.999}},
 };
 
 TEST_F(NewOrderRules, FailAtTheirBoundWithOneMessageAndSendNothing) {
@@ -103,9 +102,9 @@ TEST_F(NewOrderRules, FailAtTheirBoundWithOneMessageAndSendNothing) {
     ChooseAlgo(frame, rule.algo);
     for (const double value : rule.fail) {
       Spin(frame, rule.editor).SetValue(value);
-      EXPECT_EQ(Submit(frame), TTexts{rule.message}) << rule.name << " at " << value;
-      EXPECT_FALSE(Sent()) << rule.name << " at " << value;
-      EXPECT_EQ(Spin(frame, rule.editor).Value(), value) << rule.name;
+      EXPECT_EQ(Submit(frame), TTexts{rule.message}) << rule.algo << " " << rule.editor << " at " << value;
+      EXPECT_FALSE(Sent()) << rule.algo << " " << rule.editor << " at " << value;
+      EXPECT_EQ(Spin(frame, rule.editor).Value(), value) << rule.algo << " " << rule.editor;
     }
     Spin(frame, rule.editor).SetValue(std::nullopt);
   }
@@ -119,8 +118,9 @@ TEST_F(NewOrderRules, PassJustInsideAndWhereNothingIsGiven) {
     values.insert(values.end(), rule.pass.begin(), rule.pass.end());
     for (const auto& value : values) {
       Spin(frame, rule.editor).SetValue(value);
-      EXPECT_EQ(Submit(frame), TTexts{}) << rule.name << " at " << value.value_or(-999);
-      EXPECT_EQ(Seen("take_action").size(), 1U) << rule.name << " at " << value.value_or(-999);
+      EXPECT_EQ(Submit(frame), TTexts{}) << rule.algo << " " << rule.editor << " at " << value.value_or(-999);
+      EXPECT_EQ(Seen("take_action").size(), 1U)
+          << rule.algo << " " << rule.editor << " at " << value.value_or(-999);
     }
     Spin(frame, rule.editor).SetValue(std::nullopt);
   }

@@ -99,6 +99,7 @@ TEST_F(OpenChangesTest, ClosingOneFormLeavesTheOthersListed) {
   auto& second = Made("K2");
   Change(first);
   Change(second);
+  ASSERT_EQ(Forms().size(), 2U);
   Forms()[0]->Close();
   ASSERT_EQ(Forms().size(), 1U);
   Change(second);

@@ -15,6 +15,10 @@
 
 namespace algo::tests {
 
+/// The actions that bring up a dialog.
+inline constexpr host::TOrderAction AllActions[] = {host::TOrderAction::New, host::TOrderAction::Change,
+                                                    host::TOrderAction::Work};
+
 /// A working buy order of this module: 1000 of 0005 at 60.5 for A1, on HK, with that algo parameter text.
 inline host::TCustomClientOrder OrderWith(std::string_view algoText, std::string_view key = "K1") {
   host::TCustomClientOrder order;

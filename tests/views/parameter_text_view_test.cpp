@@ -5,9 +5,7 @@
 #include <utility>
 #include <vector>
 
-#include "forms/dialog_form.h"
 #include "tests/views/terminal_fixture.h"
-#include "text/errors.h"
 
 namespace algo::tests {
 namespace {
@@ -239,37 +237,6 @@ TEST_F(ParameterTextOfTheForm, LeavesOutWhatLiesOnOrBeyondABound) {
               std::string("TMLO:AlgoId=") + row.algo + row.piece + ";")
         << row.spin << " " << row.value;
   }
-}
-
-TEST_F(ParameterTextOfTheForm, IsNotStoredWithoutAnAlgorithm) {
-  auto& frame = OpenFilled();
-  Combo(frame, "cmbOrderType").SetIndex(-1);
-  host::TCustomClientOrder order;
-  order.SetTextProperty(440, "kept");
-  EXPECT_THROW(frame.SetOrderAlgo(order), EListIndexError);
-  EXPECT_EQ(order.TextProperty(440), "kept");
-}
-
-TEST_F(ParameterTextOfTheForm, FailsOnceAndSendsNothingForAnOrderWhoseAlgorithmIsNotOffered) {
-  host::TCustomClientOrder order;
-  order.key = "K1";
-  order.symbol = "0005";
-  order.quantity = 800;
-  order.SetNamedText("Original", "AlgoEntry");
-  order.SetTextProperty(440, "TMLO:AlgoId=NOSUCH,VolPct=20;");
-  auto& stored = Store(order);
-  Provider();
-  InDialogs({[this](forms::TDialogForm& form) {
-    EXPECT_EQ(Combo(*form.Frame(), "cmbOrderType").Index(), -1);
-    Click(*form.Frame(), "btnBuy");
-    EXPECT_EQ(Told(), TTexts{"List index out of bounds (-1)"});
-    EXPECT_EQ(form.ModalResult(), forms::ModalNone);
-  }});
-  Post(&stored, host::TOrderAction::Change);
-  EXPECT_EQ(Seen("show_modal").size(), 1U);
-  EXPECT_EQ(Told().size(), 1U);
-  EXPECT_TRUE(Seen("take_action").empty());
-  EXPECT_EQ(stored.TextProperty(440), "TMLO:AlgoId=NOSUCH,VolPct=20;");
 }
 
 }  // namespace

@@ -68,6 +68,19 @@ TEST_F(WorkHost, AsksWhichTimesInForceTheUserMayUse) {
   }
 }
 
+TEST_F(WorkHost, FitsItsDialogToTheAlgorithm) {
+  TCustomClientOrder parent = ParentOrder();
+  Work(parent, [&](forms::TDialogForm& form, TChangeFrame& frame) {
+    EXPECT_EQ(form.ClientSize().height, frame.GetHeight());
+    Pick(frame, "cmbOrderType", "Res_Algo_OrderType_CLOSE");
+    const forms::TSize small = form.ClientSize();
+    Pick(frame, "cmbOrderType", "Res_Algo_OrderType_PEG");
+    EXPECT_GT(form.ClientSize().width, small.width);
+    EXPECT_EQ(form.ClientSize().width, frame.GetWidth());
+    EXPECT_EQ(form.ClientSize().height, frame.GetHeight());
+  });
+}
+
 TEST_F(WorkHost, TellsTheHostThatItsViewChanged) {
   TCustomClientOrder parent = ParentOrder();
   Work(parent, [](forms::TDialogForm&, TChangeFrame&) {});

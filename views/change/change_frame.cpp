@@ -81,7 +81,8 @@ void TAlgoOrderChangeFrame::SubmitChange() {
     host::TCustomOrderActionManager::GetInstance().TakeAction(nullptr, FMyOrder, host::TOrderAction::Change,
                                                               1);
     LetGoOfOrder();
-    Form()->Close();
+    // The host may have closed the form while it took the action.
+    if (Form() != nullptr) Form()->Close();
   }
   FMyOrder = nullptr;
   if (Form() != nullptr) Form()->SetModalResult(forms::ModalOk);
