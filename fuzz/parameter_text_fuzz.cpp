@@ -11,7 +11,18 @@
 
 namespace {
 
-using namespace algo::model;
+using algo::model::AlgoRows;
+using algo::model::ComposeText;
+using algo::model::DecodeValue;
+using algo::model::LoadSteps;
+using algo::model::ParamRow;
+using algo::model::PieceValue;
+using algo::model::SplitText;
+using algo::model::TAlgoRow;
+using algo::model::TDecoded;
+using algo::model::TParam;
+using algo::model::TParamValues;
+using algo::model::TSplitText;
 
 /// Loads the pieces as the form does. A time that cannot be read ends the loading.
 TParamValues Load(const TSplitText& split) {

@@ -123,10 +123,10 @@ constexpr bool ShownGroupsAreReset() {
 
 // Bounds belong to numbers, and every number that is written has at least a lower one.
 constexpr bool BoundsFitTheKind(const TPiece& piece) {
-  constexpr double none = std::numeric_limits<double>::infinity();
+  constexpr double None = std::numeric_limits<double>::infinity();
   const bool number = ParamTable[IndexOf(piece.param)].kind == TValueKind::Number;
-  return number ? piece.above > -none && piece.above < piece.below
-                : piece.above == -none && piece.below == none;
+  return number ? piece.above > -None && piece.above < piece.below
+                : piece.above == -None && piece.below == None;
 }
 
 constexpr bool PiecesAreSound() {

@@ -82,8 +82,8 @@ std::optional<std::int64_t> ParseWhole(std::string_view text) {
 }
 
 std::int64_t TruncateToWhole(double value) {
-  constexpr double beyond = 9223372036854775808.0;  // 2 to the 63rd, the first that does not fit
-  if (!(value >= -beyond && value < beyond)) return 0;
+  constexpr double Beyond = 9223372036854775808.0;  // 2 to the 63rd, the first that does not fit
+  if (!(value >= -Beyond && value < Beyond)) return 0;
   return static_cast<std::int64_t>(value);
 }
 

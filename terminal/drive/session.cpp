@@ -82,8 +82,6 @@ host::TLeftBehind TSession::Unload() {
   if (!FModule) throw ECommandError("no module is loaded");
   if (FDialogs.Innermost() != nullptr) throw ECommandError("a modal dialog is showing");
   IntoModule([this] { FModule->DropProvider(); });
-  // Even a pointer to a frame that is gone has its last bookkeeping in the module's code.
-  FNames.DropGone();
   const auto left = FStrict.LeftBehind();
   // The module's code has to outlive whatever the host still holds of it; even the mere names of frames that
   // are gone lead back into it.

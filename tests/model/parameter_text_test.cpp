@@ -59,11 +59,11 @@ TEST(ParameterText, GivesNothingWithoutAnId) {
 }
 
 TEST(ParameterText, ComesApartInTimeProportionalToItsLength) {
-  constexpr std::size_t length = 10'000'000;
-  const std::vector<std::string> hostile{std::string(length, ';'), std::string(length, 'A'),
-                                         "AlgoId=1" + std::string(length, ','), std::string(length, '='), [] {
+  constexpr std::size_t Length = 10'000'000;
+  const std::vector<std::string> hostile{std::string(Length, ';'), std::string(Length, 'A'),
+                                         "AlgoId=1" + std::string(Length, ','), std::string(Length, '='), [] {
                                            std::string text;
-                                           while (text.size() < length) text += "ALGOI;ALGOID=;";
+                                           while (text.size() < Length) text += "ALGOI;ALGOID=;";
                                            return text;
                                          }()};
   const auto start = std::chrono::steady_clock::now();

@@ -50,9 +50,9 @@ class TRandomValues {
 
   // Any second between the years 1 and 9999.
   text::TDateTime Time() {
-    constexpr std::int64_t first = -62135596800;
-    constexpr std::uint64_t seconds = 315537897600;
-    return text::TDateTime(std::chrono::seconds(first + static_cast<std::int64_t>(Below(seconds))));
+    constexpr std::int64_t First = -62135596800;
+    constexpr std::uint64_t Seconds = 315537897600;
+    return text::TDateTime(std::chrono::seconds(First + static_cast<std::int64_t>(Below(Seconds))));
   }
 
   std::mt19937_64 FRandom;

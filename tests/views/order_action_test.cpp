@@ -3,7 +3,6 @@
 #include <array>
 #include <string>
 #include <string_view>
-#include <utility>
 #include <vector>
 
 #include "plugin/host_contract/orders.h"
@@ -178,20 +177,24 @@ TEST_F(OrderActionTest, TheModalFormsAreMadeOnFirstUseAndUsedAgain) {
   Provider();
   auto& order = Made("K1", WorkParent);
   std::vector<forms::TDialogForm*> shown;
-  std::vector<std::pair<std::int32_t, std::size_t>> steps{{1, 1}, {2, 1}, {42, 2}, {1, 2}, {42, 2}, {2, 2}};
+  struct TStep {
+    std::int32_t action;
+    std::size_t forms;  ///< how many there are afterwards
+  };
+  const std::array<TStep, 6> steps{{{1, 1}, {2, 1}, {42, 2}, {1, 2}, {42, 2}, {2, 2}}};
   EXPECT_EQ(LeftBehind().forms, 0U);
-  for (const auto& [action, forms] : steps) {
+  for (const TStep& step : steps) {
     InDialogs({[&](forms::TDialogForm& form) {
       shown.push_back(&form);
       const auto& frame = dynamic_cast<host::TViewFrame&>(*form.Frame());
       EXPECT_TRUE(form.Modal());
       EXPECT_EQ(form.ClientSize(), (forms::TSize{static_cast<double>(frame.GetWidth()),
                                                  static_cast<double>(frame.GetHeight())}));
-      EXPECT_EQ(frame.ClassName(), action == 42 ? "TAlgoWorkOrderFrame" : "TAlgoOrderChangeFrame");
+      EXPECT_EQ(frame.ClassName(), step.action == 42 ? "TAlgoWorkOrderFrame" : "TAlgoOrderChangeFrame");
       EXPECT_TRUE(Provider().ContainView(host::HandleOf(frame)));
     }});
-    PostWith(&order, action, false);
-    EXPECT_EQ(LeftBehind().forms, forms) << action;
+    PostWith(&order, step.action, false);
+    EXPECT_EQ(LeftBehind().forms, step.forms) << step.action;
     EXPECT_FALSE(shown.back()->Showing());
   }
   ASSERT_EQ(shown.size(), 6U);

@@ -1,9 +1,11 @@
 // What each algorithm shows of the form, element by element, whatever was shown before it.
 
+#include <algorithm>
 #include <array>
 #include <set>
 #include <string>
 #include <string_view>
+#include <vector>
 
 #include "tests/views/terminal_fixture.h"
 
