@@ -73,6 +73,8 @@ void TDialogForm::Close() {
   if (action == TCloseAction::None) return;
   Hide();
   if (action != TCloseAction::Free) return;
+  // Whoever holds the form still may close it again, when the one who answered is gone.
+  OnClose = nullptr;
   Freed();
   if (FFrame) FFrame->Detach();
 }

@@ -62,7 +62,7 @@ class ALGO_SHARED TDialogForm : public std::enable_shared_from_this<TDialogForm>
   std::int32_t ModalResult() const { return FModalResult; }
   void SetModalResult(std::int32_t result);
 
-  /// Asked when the form is closed; the handler sets what becomes of it.
+  /// Asked when the form is closed; the handler sets what becomes of it. A form that is freed asks no more.
   std::function<void(TDialogForm& sender, TCloseAction& action)> OnClose;
 
  protected:

@@ -250,6 +250,7 @@ class TAlgoOrderEntryFrame : public host::TViewFrame {
   void InitializeList();
   void InitExchangeList();
   void InitializeOrderType(std::int32_t exchangeIndex);
+  void OfferNothing();
   void RefillOrderLists();
   TPickList AlgoTypesOf(const std::string& exchange) const;
   TPickList OrderTypesOf(const std::string& exchange) const;

@@ -205,6 +205,12 @@ void TAlgoOrderEntryFrame::InitializeOrderType(std::int32_t exchangeIndex) {
   refill.Announce();
 }
 
+void TAlgoOrderEntryFrame::OfferNothing() {
+  for (auto* list : {&FAlgoTypeList, &FOrderTypeConstList, &FOrderTypeList}) list->clear();
+  for (const TField combo : {TField::cmbOrderType, TField::cmbMType}) Combo(combo).Refill({}, -1);
+  ResetView();
+}
+
 void TAlgoOrderEntryFrame::RefillOrderLists() {
   TRefill refill(*this);
   InitExchangeList();
@@ -249,7 +255,13 @@ void TAlgoOrderEntryFrame::cmbExchChange() {
   if (index < 0) return;
   Check(TField::cbLockMOrder).SetChecked(false);
   Check(TField::cbLockOrderType).SetChecked(false);
-  InitializeOrderType(index);
+  try {
+    InitializeOrderType(index);
+  } catch (...) {
+    // Better nothing to choose from than what another exchange offers.
+    OfferNothing();
+    throw;
+  }
 }
 
 void TAlgoOrderEntryFrame::cmbOrderTypeChange() {

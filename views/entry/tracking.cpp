@@ -77,12 +77,13 @@ void TAlgoOrderEntryFrame::SetSymbol(std::string_view symbol) {
       editor.Commit();
     }
   }
+  // Before the editors are told, where the host may fail: what the former symbol filled in is not this one's.
+  FPriceSet = false;
+  FQtySet = false;
   auto& editors = host::TEditorManager::GetInstance();
   editors.SetPriceSymbol(Spin(TField::edtPrice), FCurrentSymbol);
   for (const TField field : QuantityFields) editors.SetQuantitySymbol(Spin(field), FCurrentSymbol);
   for (const TField field : AlgoPriceFields) editors.SetPriceSymbol(Spin(field), FCurrentSymbol);
-  FPriceSet = false;
-  FQtySet = false;
   UpdateSymbolInfo();
 }
 
