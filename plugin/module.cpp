@@ -1,5 +1,7 @@
 // The module's entry: the one symbol that a host looks up after loading it.
 
+#include <memory>
+
 #include "plugin/host_contract/class_registry.h"
 #include "plugin/host_contract/module_entry.h"
 #include "plugin/view_provider.h"
@@ -12,10 +14,15 @@ namespace {
 
 int starts = 0;
 
+std::unique_ptr<host::TIBaseView> MakeProvider(const void* owner) {
+  return views::Cross(std::unique_ptr<host::TIBaseView>(), [owner]() -> std::unique_ptr<host::TIBaseView> {
+    return std::make_unique<TIAlgoEntryOrder>(owner);
+  });
+}
+
 void Start() {
   if (starts++ > 0) return;
-  host::TClassRegistry::GetInstance().Register(
-      ProviderClassName, [](const void* owner) { return std::make_unique<TIAlgoEntryOrder>(owner); });
+  host::TClassRegistry::GetInstance().Register(ProviderClassName, MakeProvider);
 }
 
 void Stop() {

@@ -16,7 +16,8 @@ namespace algo::host {
 
 class ALGO_SHARED TClassRegistry {
  public:
-  /// Makes a provider; `owner` is the host component that keeps it.
+  /// Makes a provider; `owner` is the host component that keeps it. A module that cannot make one tells the
+  /// trader why and gives nullptr.
   using TFactory = std::function<std::unique_ptr<TIBaseView>(const void* owner)>;
 
   /// The registry of the process.

@@ -94,7 +94,7 @@ TEST(ComposedRanges, HoldANumberStrictlyInsideAlone) {
     const std::string start = "TMLO:AlgoId=" + std::string(range.code);
     const std::string without = start + ";";
     const auto with = [&](const std::string& number) {
-      return start + "," + std::string(range.key) + "=" + number + ";";
+      return std::string(start).append(",").append(range.key).append("=").append(number).append(";");
     };
     EXPECT_EQ(text(range.low - 1), without);
     EXPECT_EQ(text(range.low), without);

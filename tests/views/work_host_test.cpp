@@ -5,6 +5,7 @@
 #include "plugin/host_contract/installed_service.h"
 #include "plugin/host_contract/user_app_profile.h"
 #include "tests/views/order_dialogs.h"
+#include "views/work/work_order_frame.h"
 
 namespace algo::tests {
 namespace {
@@ -79,6 +80,24 @@ TEST_F(WorkHost, FitsItsDialogToTheAlgorithm) {
     EXPECT_EQ(form.ClientSize().width, frame.GetWidth());
     EXPECT_EQ(form.ClientSize().height, frame.GetHeight());
   });
+}
+
+TEST_F(WorkHost, NeedsNoDialogAndNoListenerForItsSize) {
+  const auto frame = std::make_shared<views::TAlgoWorkOrderFrame>();
+  EXPECT_EQ(Spin(*frame, "sedtPecentage").Max(), 100.0);
+  EXPECT_EQ(Combo(*frame, "cbSide").Index(), 0);
+  TCustomClientOrder parent = ParentOrder();
+  frame->WorkOrder(&parent);
+  EXPECT_EQ(Spin(*frame, "edtQty").Value(), 10000.0);
+  Pick(*frame, "cmbOrderType", "Res_Algo_OrderType_PEG");
+  Click(*frame, "btnSubmit");
+  EXPECT_TRUE(Told().empty());
+  EXPECT_EQ(parent.TextProperty(440), "TMLO:AlgoId=PEG,Closing=0,Closing=0;");
+  frame->LetGoOfOrder();
+  Click(*frame, "btnSubmit");
+  EXPECT_TRUE(Told().empty());
+  frame->Detach();
+  EXPECT_EQ(LeftBehind(), host::TLeftBehind());
 }
 
 TEST_F(WorkHost, TellsTheHostThatItsViewChanged) {
