@@ -119,6 +119,8 @@ void TIAlgoEntryOrder::CreateNonShowModelView(host::TCustomClientOrder& order) {
   };
   made.form->SetFrame(made.frame);
   made.frame->ChangeOrder(&order);
+  // Loading calls into the host, which may have asked for the same order meanwhile.
+  if (FOpenChanges.contains(key)) return;
   made.form->SetCaption(Resource("Res_Conf_ChangeOrder"));
   FitToFrame(*made.form, *made.frame);
   made.form->SetStaysOnTop(true);

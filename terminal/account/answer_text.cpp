@@ -60,9 +60,9 @@ std::string MemberText(const nlohmann::json& object, std::string_view name, TWri
 }
 
 const nlohmann::json& MemberList(const nlohmann::json& object, std::string_view name) {
-  static const nlohmann::json None = nlohmann::json::array();
+  static const nlohmann::json none = nlohmann::json::array();
   const nlohmann::json* member = Find(object, name);
-  return member != nullptr && member->is_array() ? *member : None;
+  return member != nullptr && member->is_array() ? *member : none;
 }
 
 bool MemberFlag(const nlohmann::json& object, std::string_view name) {

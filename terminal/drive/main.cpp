@@ -11,7 +11,6 @@
 #include "terminal/drive/session.h"
 
 int main(int argc, char** argv) {
-  using namespace algo::terminal;
   constexpr int UnusableArguments = 2;
 
   CLI::App app{
@@ -20,7 +19,7 @@ int main(int argc, char** argv) {
       "object a line, and writes an answer to each to standard output."};
   app.name("algo-drive");
   app.footer("Use: algo-drive [--module FILE] < script.jsonl > answers.jsonl");
-  std::string module = ModuleBesideProgram();
+  std::string module = algo::terminal::ModuleBesideProgram();
   app.add_option("--module", module, "The module to load; the one built with this program unless given")
       ->type_name("FILE")
       ->take_last();
@@ -39,8 +38,8 @@ int main(int argc, char** argv) {
 #endif
   std::ios::sync_with_stdio(false);
   try {
-    TSession session(module);
-    Drive(session, std::cin, std::cout);
+    algo::terminal::TSession session(module);
+    algo::terminal::Drive(session, std::cin, std::cout);
   } catch (const std::exception& error) {
     std::cerr << "algo-drive: " << error.what() << '\n';
     return 1;

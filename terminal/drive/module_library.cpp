@@ -35,7 +35,7 @@ TModuleLibrary::TModuleLibrary(const std::string& file)
     throw EError("the module was built for another contract");
   }
   FEntry->start();
-  loaded.release();
+  static_cast<void>(loaded.release());
 }
 
 TModuleLibrary::~TModuleLibrary() {

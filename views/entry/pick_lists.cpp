@@ -128,7 +128,7 @@ void TAlgoOrderEntryFrame::FillRefList() {
     std::string_view id;
     std::string_view level;
   };
-  static constexpr std::array<TRefText, model::RefList.size()> texts{{
+  static constexpr std::array<TRefText, model::RefList.size()> RefTexts{{
       {"Res_OrderSide", ""},
       {"Res_Opposite", ""},
       {"Res_Last", ""},
@@ -149,7 +149,7 @@ void TAlgoOrderEntryFrame::FillRefList() {
       {"Res_NA", ""},
   }};
   std::vector<std::string> items;
-  for (const TRefText& text : texts) {
+  for (const TRefText& text : RefTexts) {
     items.push_back(GetResource(text.id));
     if (!text.level.empty()) items.back() += GetResource(text.level);
   }
@@ -160,6 +160,7 @@ void TAlgoOrderEntryFrame::FillRefList() {
 
 void TAlgoOrderEntryFrame::FillStyleList() {
   std::vector<std::string> items;
+  items.reserve(model::StyleList.size());
   for (const std::string_view id : model::StyleList) items.push_back(GetResource(id));
   FStyleList = Texts(model::StyleList);
   const std::int32_t last = static_cast<std::int32_t>(items.size()) - 1;
@@ -178,7 +179,8 @@ void TAlgoOrderEntryFrame::InitExchangeList() {
   for (const std::string& code : codes) {
     const std::string name =
         host::TCustomLanguageManager::GetInstance().GetText(host::ExchangeTag, code, 3, 0, 0);
-    items.push_back(name.empty() ? code : code + "(" + name + ")");
+    items.push_back(code);
+    if (!name.empty()) items.back().append("(").append(name).append(")");
   }
   const std::int32_t index = IndexOrFirst(codes, remembered);
   FAlgoExchList = std::move(codes);

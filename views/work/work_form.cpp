@@ -58,7 +58,7 @@ void TAlgoWorkOrderFrame::MakeWorkForm() {
 }
 
 std::function<void()> TAlgoWorkOrderFrame::EnterLeadsTo(forms::TControl& next) {
-  return [this, focus = Handler(&TAlgoWorkOrderFrame::FocusFrom), &next] { focus(&next); };
+  return [focus = Handler(&TAlgoWorkOrderFrame::FocusFrom), &next] { focus(&next); };
 }
 
 void TAlgoWorkOrderFrame::FocusFrom(forms::TControl* next) {

@@ -99,8 +99,12 @@ void TAlgoWorkOrderFrame::UpdateOrder() {
 
 void TAlgoWorkOrderFrame::btnClearClick() {
   const TUpdating updating(FIsUpdating);
-  // The type first, because choosing one may fill the price.
+  // The type first, because choosing one may fill the price. Whether there is a price to set was settled by
+  // the parent.
+  const bool priceMayBeSet = Control(TField::edtPrice).Enabled();
   Combo(TField::cmbMType).SelectFirst();
+  Control(TField::edtPrice).SetEnabled(priceMayBeSet);
+  Control(TField::cbLockPrice).SetEnabled(priceMayBeSet);
   for (forms::TSpinEdit* editor : {&Spin(TField::edtQty), sedtPecentage, &Spin(TField::edtPrice)}) {
     editor->SetValue(std::nullopt);
   }
