@@ -21,6 +21,10 @@ plugin               -> text forms plugin/host_contract views/entry views/change
 terminal/host        -> text forms plugin/host_contract
 terminal/drive       -> text forms plugin/host_contract terminal/host
 terminal/account     -> text forms plugin/host_contract terminal/host
+terminal/storage     -> text forms plugin/host_contract terminal/host
+terminal/paper       -> text forms plugin/host_contract terminal/host
+terminal/render      -> text forms
+terminal/desk        -> text forms plugin/host_contract terminal/host terminal/storage terminal/paper terminal/render terminal/drive
 '
 
 mapfile -t files < <(

@@ -14,10 +14,11 @@
 namespace algo::terminal {
 
 struct TMemoryHost::TServices {
-  explicit TServices(THostEvents& events) : context{data, events} {}
+  TServices(THostEvents& events, TKeeper& keeper) : ledger(orders, keeper), context{data, events, keeper} {}
 
   THostData data;
   TOrderStore orders;
+  TOrderLedger ledger;
   THostContext context;
 
   host::TInstalledService<TMemoryConfigManager> config{context};
@@ -28,20 +29,34 @@ struct TMemoryHost::TServices {
   host::TInstalledService<TMemoryLookAndFeelService> skins{context};
   host::TInstalledService<TMemoryChannelManager> channels{context};
   host::TInstalledService<TMemoryOrderAdapter> adapter{context, orders};
-  host::TInstalledService<TMemoryOrderActionManager> actions{context, orders};
+  host::TInstalledService<TMemoryOrderActionManager> actions{context, ledger};
   host::TInstalledService<TMemorySubscribeAdapter> subscriptions{context};
   host::TInstalledService<TMemoryMarketAdapter> market{context};
   host::TInstalledService<TMemoryEditorManager> editors{context};
   host::TInstalledService<TMemoryViewService> views{context};
 };
 
-TMemoryHost::TMemoryHost(THostEvents& events) : FServices(std::make_unique<TServices>(events)) {}
+namespace {
+
+TKeeper& KeepsNothing() {
+  static TKeeper nothing;
+  return nothing;
+}
+
+}  // namespace
+
+TMemoryHost::TMemoryHost(THostEvents& events) : TMemoryHost(events, KeepsNothing()) {}
+
+TMemoryHost::TMemoryHost(THostEvents& events, TKeeper& keeper)
+    : FServices(std::make_unique<TServices>(events, keeper)) {}
 
 TMemoryHost::~TMemoryHost() { FServices->views->DropForms(); }
 
 THostData& TMemoryHost::Data() { return FServices->data; }
 
 TOrderStore& TMemoryHost::Orders() { return FServices->orders; }
+
+TOrderLedger& TMemoryHost::Ledger() { return FServices->ledger; }
 
 void TMemoryHost::TellConfigChanged() { FServices->config->Tell(); }
 

@@ -14,6 +14,8 @@
 #include "plugin/host_contract/channel_manager.h"
 #include "terminal/host/host_data.h"
 #include "terminal/host/host_events.h"
+#include "terminal/host/keeper.h"
+#include "terminal/host/order_ledger.h"
 #include "terminal/host/order_store.h"
 
 namespace algo::terminal {
@@ -23,8 +25,10 @@ using TFieldChanges = std::map<std::int32_t, std::optional<std::string>>;
 
 class TMemoryHost {
  public:
-  /// Installs all services. `events` outlives the host.
+  /// Installs all services, which keep nothing beyond the host's life. `events` outlives the host.
   explicit TMemoryHost(THostEvents& events);
+  /// The same, but what changes for good goes to the keeper first. Both outlive the host.
+  TMemoryHost(THostEvents& events, TKeeper& keeper);
   /// Lets go of the forms that still show, then puts back the services that were installed before.
   ~TMemoryHost();
   TMemoryHost(const TMemoryHost&) = delete;
@@ -32,6 +36,8 @@ class TMemoryHost {
 
   THostData& Data();
   TOrderStore& Orders();
+  /// Through which the terminal itself, a market for one, changes orders.
+  TOrderLedger& Ledger();
 
   /// Tells every listener for settings that they changed.
   void TellConfigChanged();

@@ -1,10 +1,27 @@
 #include "terminal/host/order_services.h"
 
 #include <memory>
+#include <string>
 
 #include "terminal/host/order_rules.h"
 
 namespace algo::terminal {
+
+namespace {
+
+std::string_view NameOf(host::TOrderAction action) {
+  switch (action) {
+    case host::TOrderAction::New:
+      return "new";
+    case host::TOrderAction::Change:
+      return "change";
+    case host::TOrderAction::Work:
+      return "work";
+  }
+  return "unknown";
+}
+
+}  // namespace
 
 bool TMemoryOrderAdapter::GetListSetting(std::string_view key, std::vector<std::string>& values) {
   FHost.Check("orders.list");
@@ -42,23 +59,27 @@ bool TMemoryOrderActionManager::TakeAction(const void* /*sender*/, host::TCustom
   FHost.Check("action.take");
   if (order == nullptr) return false;
   const bool answer = FHost.data.accept;
-  if (answer) CarryOut(*order, action);
+  if (answer) {
+    CarryOut(*order, action);
+  } else {
+    FLedger.Note({FHost.data.profile.user, std::string(NameOf(action)), "refused"}, *order);
+  }
   FHost.events.ActionTaken(*order, action, argument, answer);
   return answer;
 }
 
 void TMemoryOrderActionManager::CarryOut(const host::TCustomClientOrder& order, host::TOrderAction action) {
-  const auto add = [this](const host::TCustomClientOrder& added) {
-    FOrders.Add(std::make_unique<host::TCustomClientOrder>(added));
-  };
+  const TOrderEvent event{FHost.data.profile.user, std::string(NameOf(action)), "accepted"};
+  TOrderStore& orders = FLedger.Orders();
   switch (action) {
     case host::TOrderAction::New:
-      return add(AsNewOrder(order, FOrders.NextFreeKey()));
+      return FLedger.Record(event, AsNewOrder(order, orders.NextFreeKey()));
     case host::TOrderAction::Change:
-      if (host::TCustomClientOrder* stored = FOrders.Find(order.key)) stored->AssignContent(order);
-      return;
+      // An order that is not the host's own was accepted for somebody else to carry out.
+      if (orders.Find(order.key) == nullptr) return FLedger.Note(event, order);
+      return FLedger.Record(event, order);
     case host::TOrderAction::Work:
-      return add(AsChildOrder(order, FOrders.NextFreeKey()));
+      return FLedger.Record(event, AsChildOrder(order, orders.NextFreeKey()));
   }
 }
 

@@ -11,7 +11,7 @@
 #include "plugin/host_contract/order_action_manager.h"
 #include "plugin/host_contract/order_adapter.h"
 #include "terminal/host/host_context.h"
-#include "terminal/host/order_store.h"
+#include "terminal/host/order_ledger.h"
 
 namespace algo::terminal {
 
@@ -30,11 +30,11 @@ class TMemoryOrderAdapter final : public host::TCustomOrderAdapter {
   TOrderStore& FOrders;
 };
 
-/// Answers what the host data says, and carries out in the store what it accepts: a new order is added, a
-/// change replaces the order of that key where there is one, a work order adds a child.
+/// Answers what the host data says, and records what it accepts: a new order is added, a change replaces the
+/// order of that key where there is one, a work order adds a child. What it refuses is noted.
 class TMemoryOrderActionManager final : public host::TCustomOrderActionManager {
  public:
-  TMemoryOrderActionManager(const THostContext& host, TOrderStore& orders) : FHost(host), FOrders(orders) {}
+  TMemoryOrderActionManager(const THostContext& host, TOrderLedger& ledger) : FHost(host), FLedger(ledger) {}
 
   bool TakeAction(const void* sender, host::TCustomClientOrder* order, host::TOrderAction action,
                   std::int32_t argument) override;
@@ -43,7 +43,7 @@ class TMemoryOrderActionManager final : public host::TCustomOrderActionManager {
   void CarryOut(const host::TCustomClientOrder& order, host::TOrderAction action);
 
   const THostContext& FHost;
-  TOrderStore& FOrders;
+  TOrderLedger& FLedger;
 };
 
 }  // namespace algo::terminal
