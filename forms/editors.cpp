@@ -28,6 +28,13 @@ void TEditor::SetPlaceholder(std::string placeholder) {
   LooksChanged();
 }
 
+bool TEditor::AcceptsText(std::string_view text) const {
+  for (std::size_t i = 0; i < text.size(); ++i) {
+    if (!Accepts(text.substr(0, i), text[i])) return false;
+  }
+  return true;
+}
+
 void TEditor::SelectAll() {
   FAllSelected = true;
   LooksChanged();

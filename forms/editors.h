@@ -26,6 +26,9 @@ class ALGO_SHARED TEditor : public TControl {
   const std::string& Placeholder() const { return FPlaceholder; }
   void SetPlaceholder(std::string placeholder);
 
+  /// Whether every character of `text` may stand where it stands, as if it were keyed in from the start.
+  bool AcceptsText(std::string_view text) const;
+
   void SelectAll();
   /// Puts the caret behind the last character, which ends any selection.
   void MoveCaretToEnd();
@@ -117,6 +120,11 @@ class ALGO_SHARED TDateEdit : public TEditor {
   std::optional<text::TDateTime> Value() const { return FValue; }
   void SetValue(std::optional<text::TDateTime> value);
 
+  /// Whether a day picked from a calendar keeps the time of day that stands in the editor; else it means
+  /// midnight.
+  bool PickKeepsTime() const { return FPickKeepsTime; }
+  void SetPickKeepsTime(bool keeps) { FPickKeepsTime = keeps; }
+
   std::string Text() const override;
   /// Assigns the date-time that `text` shows (a lone date means midnight); any other text empties the editor.
   void SetText(std::string_view text) override;
@@ -129,6 +137,7 @@ class ALGO_SHARED TDateEdit : public TEditor {
  private:
   std::optional<text::TDateTime> FValue;
   std::optional<std::string> FTyped;
+  bool FPickKeepsTime = false;
 };
 
 }  // namespace algo::forms

@@ -12,7 +12,10 @@ TFrame::TFrame(std::string className, std::string layoutName)
   FLayout.FFrame = this;
 }
 
-TFrame::~TFrame() { FLayout.FFrame = nullptr; }
+TFrame::~TFrame() {
+  Tell([](TFrameObserver& observer) { observer.FrameGone(); });
+  FLayout.FFrame = nullptr;
+}
 
 TControl* TFrame::FindControl(std::string_view name) const {
   const auto found = std::find_if(FControls.begin(), FControls.end(),

@@ -31,6 +31,8 @@ class ALGO_SHARED TFrameObserver {
   /// What is shown, or where, changed; sent once for each outermost layout update.
   virtual void LayoutChanged() = 0;
   virtual void FocusChanged() = 0;
+  /// The frame is going; nothing of it may be touched any more, not even to take the observer off.
+  virtual void FrameGone() {}
 };
 
 /// What became of an input of the trader.
@@ -83,6 +85,11 @@ class ALGO_SHARED TFrame : public std::enable_shared_from_this<TFrame> {
   /// Gives the control the focus, selects its text and keys in `text` in its place, character by character;
   /// characters that the editor does not accept are passed over. Line breaks are no characters of a text.
   TInputResult InputText(TControl& control, std::string_view text);
+  /// The editor holds `text` now, as a renderer with a caret of its own has it: keys were put in or taken out
+  /// anywhere. Unsuited, with no effect, when the editor does not accept the text.
+  TInputResult InputTyped(TControl& control, std::string_view text);
+  /// The focus comes to the control by key.
+  TInputResult InputFocus(TControl& control);
   /// Takes the focus out of the frame.
   void InputLeave();
   /// Enter in the control, which gets the focus first. Enter in a button presses it.
@@ -95,6 +102,9 @@ class ALGO_SHARED TFrame : public std::enable_shared_from_this<TFrame> {
 
   void AddObserver(TFrameObserver& observer);
   void RemoveObserver(TFrameObserver& observer);
+
+  /// Whether the control takes input of the trader at all: Taken, Hidden or Disabled.
+  TInputResult TakesInput(const TControl& control) const;
 
   /// Gives back everything that the frame holds outside of itself; afterwards nothing from outside reaches it
   /// any more. With no effect the second time.
@@ -112,7 +122,6 @@ class ALGO_SHARED TFrame : public std::enable_shared_from_this<TFrame> {
   friend class TLayoutControl;
   friend class TDialogForm;
 
-  TInputResult TakesInput(const TControl& control) const;
   void Press(TControl& control);
   void TellControlChanged(const TControl& control);
   void TellLayoutChanged();

@@ -43,6 +43,20 @@ TInputResult TFrame::InputText(TControl& control, std::string_view text) {
   });
 }
 
+TInputResult TFrame::InputTyped(TControl& control, std::string_view text) {
+  auto* editor = dynamic_cast<TEditor*>(&control);
+  if (editor == nullptr || !editor->AcceptsText(text)) return TInputResult::Unsuited;
+  if (control.Showing() && control.CanFocus() && control.ReadOnly()) return TInputResult::ReadOnly;
+  return Input(control, [&] {
+    editor->FAllSelected = false;
+    if (editor->Text() != text) editor->SetTyped(std::string(text));
+  });
+}
+
+TInputResult TFrame::InputFocus(TControl& control) {
+  return Input(control, [] {});
+}
+
 void TFrame::InputLeave() {
   const auto alive = KeepAlive();
   RunInput([this] { SetFocus(nullptr); });

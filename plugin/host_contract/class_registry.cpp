@@ -10,7 +10,9 @@ TClassRegistry& TClassRegistry::GetInstance() {
 }
 
 bool TClassRegistry::Register(std::string_view className, TFactory factory) {
-  return FClasses.try_emplace(std::string(className), std::move(factory)).second;
+  if (Find(className) != nullptr) return false;
+  FClasses[std::string(className)] = std::move(factory);
+  return true;
 }
 
 void TClassRegistry::Unregister(std::string_view className) {

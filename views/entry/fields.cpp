@@ -70,6 +70,7 @@ constexpr TRange Unbounded{};
 constexpr TRange FromZero{0, {}};
 
 enum TClick : bool { KeepsCaret, SelectsAll };
+enum TPick : bool { DropsTime, KeepsTime };
 
 constexpr TFieldRow Field(TFieldKind kind, TField field, std::string_view name, std::string_view item,
                           TGroup group, std::string_view captionId = {}) {
@@ -77,9 +78,10 @@ constexpr TFieldRow Field(TFieldKind kind, TField field, std::string_view name, 
 }
 
 constexpr TFieldRow DateTime(TField field, std::string_view name, std::string_view item, TGroup group,
-                             std::string_view captionId) {
+                             std::string_view captionId, TPick pick) {
   TFieldRow row = Field(Date, field, name, item, group, captionId);
   row.clickSelectsAll = true;
+  row.pickKeepsTime = pick;
   return row;
 }
 
@@ -120,8 +122,8 @@ constexpr std::array<TFieldRow, FieldCount> Fields{{
     Field(Button, btnWork, "btnWork", "liWork", lgSubmit),
     Field(SpeedButton, btnBuy, "btnBuy", "liBuy", lgBuy),
     Field(SpeedButton, btnSell, "btnSell", "liSell", lgSell),
-    DateTime(deSTime, "deSTime", "liSTime", lgTrading, "Res_Algo_STime"),
-    DateTime(deETime, "deETime", "liETime", lgTrading, "Res_Algo_ETime"),
+    DateTime(deSTime, "deSTime", "liSTime", lgTrading, "Res_Algo_STime", KeepsTime),
+    DateTime(deETime, "deETime", "liETime", lgTrading, "Res_Algo_ETime", DropsTime),
     Number(edtVolPct, "edtVolPct", "liVolPct", lgVol, "Res_Algo_VolPct", Percent, TRange{0, 80}, ZeroOrMax, SelectsAll),
     Number(edtMaxVolPct, "edtMaxVolPct", "liMaxVolPct", lgVol, "Res_Algo_MaxVolPct", Percent, TRange{0, 100}, ZeroOrMax, SelectsAll),
     Field(Combo, cmbAccuVol, "cmbAccuVol", "liAccuVol", lgVol, "Res_Algo_AccuVol"),

@@ -155,6 +155,7 @@ struct TFieldRow {
   double step = 1;
   TExitRule exitRule = TExitRule::None;
   bool clickSelectsAll = false;
+  bool pickKeepsTime = false;  ///< of date edits: a day picked from a calendar keeps the time of day
 };
 
 /// All groups, in the order of TGroup.

@@ -15,8 +15,11 @@ forms::TControl& MakeControl(forms::TFrame& frame, const TFieldRow& row) {
       return frame.Add<forms::TTextEdit>(name);
     case TFieldKind::Combo:
       return frame.Add<forms::TComboBox>(name);
-    case TFieldKind::Date:
-      return frame.Add<forms::TDateEdit>(name);
+    case TFieldKind::Date: {
+      auto& date = frame.Add<forms::TDateEdit>(name);
+      date.SetPickKeepsTime(row.pickKeepsTime);
+      return date;
+    }
     case TFieldKind::Check:
       return frame.Add<forms::TCheckBox>(name);
     case TFieldKind::Button:

@@ -1,0 +1,34 @@
+#pragma once
+
+// A date with a time of day, or nothing: typed in one line, or the day picked from a calendar.
+
+#include <QLineEdit>
+#include <QToolButton>
+
+#include "terminal/render/control_view.h"
+
+namespace algo::terminal {
+
+class TDateView final : public TControlView {
+ public:
+  TDateView(forms::TDateEdit& control, const TFrameInput& input, QWidget& parent);
+
+  QWidget& Widget() const override { return FWhole; }
+  QWidget& Input() const override { return FLine; }
+  QString ShownText() const override { return FLine.text(); }
+  QString SelectedText() const override { return FLine.selectedText(); }
+
+ protected:
+  void Show() override;
+
+ private:
+  void OpenCalendar();
+  void TakeDay(const QDate& day);
+
+  const TFrameInput& FInput;
+  QWidget& FWhole;
+  QLineEdit& FLine;
+  QToolButton& FButton;
+};
+
+}  // namespace algo::terminal

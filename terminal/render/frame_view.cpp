@@ -1,0 +1,171 @@
+#include "terminal/render/frame_view.h"
+
+#include <QApplication>
+#include <QKeyEvent>
+#include <QLineEdit>
+#include <QPointer>
+#include <QVBoxLayout>
+
+#include "terminal/render/completion_list.h"
+
+namespace algo::terminal {
+
+TFrameView::TFrameView(const std::shared_ptr<forms::TFrame>& frame, const TEditorAids& aids, QWidget* parent)
+    : QWidget(parent), FInput(frame), FAids(aids), FContent(new QWidget(this)) {
+  auto* whole = new QVBoxLayout(this);
+  whole->setContentsMargins(0, 0, 0, 0);
+  whole->addWidget(FContent, 0, Qt::AlignTop);
+  whole->addStretch(1);
+  MakeViews(*frame);
+  ShowAll(*frame);
+  frame->AddObserver(*this);
+  connect(qApp, &QApplication::focusChanged, this, &TFrameView::DesktopFocusChanged);
+}
+
+TFrameView::~TFrameView() {
+  if (const auto frame = FInput.Frame()) frame->RemoveObserver(*this);
+}
+
+TControlView* TFrameView::Find(const forms::TControl& control) const {
+  const auto found = FViews.find(&control);
+  return found == FViews.end() ? nullptr : found->second.get();
+}
+
+void TFrameView::MakeViews(forms::TFrame& frame) {
+  FLayout = std::make_unique<TLayoutView>(frame.Layout(), *FContent,
+                                          [this](forms::TControl& control, QWidget& itemWidget) -> QWidget& {
+                                            auto view = MakeControlView(control, FInput, FAids, itemWidget);
+                                            QWidget& widget = view->Widget();
+                                            view->Input().installEventFilter(this);
+                                            FByInput.emplace(&view->Input(), view.get());
+                                            // The line inside of a box gets the mouse in its stead.
+                                            if (auto* line = view->Input().findChild<QLineEdit*>()) {
+                                              line->installEventFilter(this);
+                                              FByInput.emplace(line, view.get());
+                                            }
+                                            FViews.emplace(&control, std::move(view));
+                                            return widget;
+                                          });
+  QWidget* before = nullptr;
+  for (const auto& control : frame.Controls()) {
+    const TControlView* view = Find(*control);
+    if (view == nullptr) continue;
+    if (before != nullptr) setTabOrder(before, &view->Input());
+    before = &view->Input();
+  }
+}
+
+void TFrameView::ShowAll(const forms::TFrame& frame) {
+  for (const auto& [control, view] : FViews) view->Refresh();
+  FLayout->Sync();
+  ShowNames(frame);
+}
+
+void TFrameView::ShowNames(const forms::TFrame& frame) {
+  for (const auto& control : frame.Controls()) {
+    const TControlView* view = Find(*control);
+    if (view == nullptr) continue;
+    const std::string& item = control->Item()->Caption();
+    const std::string& own = control->Caption().empty() ? item : control->Caption();
+    const std::string& hint = control->Hint();
+    // A screen reader says the caption; a lock box has none, but a hint.
+    const QString name = ToQt(!own.empty() ? own : !hint.empty() ? hint : control->Name());
+    if (view->Input().accessibleName() != name) view->Input().setAccessibleName(name);
+    if (view->Input().accessibleDescription() != ToQt(hint)) {
+      view->Input().setAccessibleDescription(ToQt(hint));
+    }
+  }
+}
+
+void TFrameView::ControlChanged(const forms::TControl& control) {
+  if (TControlView* view = Find(control)) view->Refresh();
+}
+
+void TFrameView::LayoutChanged() {
+  const auto frame = FInput.Frame();
+  if (!frame) return;
+  // All of it is repainted once, when it has come to rest.
+  setUpdatesEnabled(false);
+  ShowAll(*frame);
+  setUpdatesEnabled(true);
+  if (OnLayoutChanged) OnLayoutChanged();
+}
+
+void TFrameView::FocusChanged() {
+  const auto frame = FInput.Frame();
+  if (!frame) return;
+  if (const forms::TControl* focused = frame->Focused()) {
+    const TControlView* view = Find(*focused);
+    if (view != nullptr && !view->Input().hasFocus()) view->Input().setFocus(Qt::OtherFocusReason);
+  } else if (QWidget* holder = QApplication::focusWidget(); holder != nullptr && isAncestorOf(holder)) {
+    holder->clearFocus();
+  }
+}
+
+void TFrameView::FrameGone() {
+  for (const auto& [input, view] : FByInput) const_cast<QObject*>(input)->removeEventFilter(this);
+  FByInput.clear();
+  FViews.clear();
+  FLayout.reset();
+  // The widgets may be in the middle of an event of theirs.
+  FContent->hide();
+  FContent->setEnabled(false);
+}
+
+void TFrameView::DesktopFocusChanged(QWidget* before, QWidget* now) {
+  const auto frame = FInput.Frame();
+  if (!frame) return;
+  if (now != nullptr && isAncestorOf(now)) {
+    if (TControlView* view = ViewOf(now); view != nullptr && frame->Focused() != &view->Control()) {
+      FInput.Focus(view->Control());
+    }
+    return;
+  }
+  // Nowhere means another program, and a window of another form waits for this one: both leave the trader
+  // where he was.
+  const bool wasHere = before != nullptr && isAncestorOf(before);
+  if (wasHere && now != nullptr && now->window() == window() && frame->Focused() != nullptr) FInput.Leave();
+}
+
+TControlView* TFrameView::ViewOf(const QObject* watched) const {
+  const auto found = FByInput.find(watched);
+  return found == FByInput.end() ? nullptr : found->second;
+}
+
+bool TFrameView::eventFilter(QObject* watched, QEvent* event) {
+  TControlView* view = FInput.Frame() ? ViewOf(watched) : nullptr;
+  if (view == nullptr) return false;
+  if (event->type() == QEvent::KeyPress) return FilterKey(*view, *event);
+  if (watched->isWidgetType()) FilterMouse(*view, *event);
+  return false;
+}
+
+bool TFrameView::FilterKey(TControlView& view, const QEvent& event) {
+  const auto& key = static_cast<const QKeyEvent&>(event);
+  const bool isEnter = key.key() == Qt::Key_Return || key.key() == Qt::Key_Enter;
+  if (!isEnter || (key.modifiers() & ~Qt::KeypadModifier) != Qt::NoModifier) return false;
+  if (auto* line = qobject_cast<QLineEdit*>(&view.Input()); line != nullptr && EnterMeansCompletion(*line)) {
+    return false;
+  }
+  FInput.Enter(view.Control());
+  return true;
+}
+
+void TFrameView::FilterMouse(TControlView& view, const QEvent& event) {
+  const auto* mouse = dynamic_cast<const QMouseEvent*>(&event);
+  if (mouse == nullptr || mouse->button() != Qt::LeftButton) return;
+  auto* editor = dynamic_cast<forms::TEditor*>(&view.Control());
+  if (event.type() == QEvent::MouseButtonPress) {
+    // Buttons send their click themselves, when they are released.
+    if (editor != nullptr) {
+      FInput.Click(view.Control());
+    } else if (view.Control().Kind() == forms::TControlKind::Combo) {
+      FInput.Focus(view.Control());
+    }
+  } else if (event.type() == QEvent::MouseButtonRelease && editor != nullptr) {
+    // The press put the caret where the mouse is; what the click selected comes back.
+    if (!editor->SelectedText().empty()) view.Refresh();
+  }
+}
+
+}  // namespace algo::terminal

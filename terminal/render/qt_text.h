@@ -1,0 +1,17 @@
+#pragma once
+
+// Texts of the form model are UTF-8; Qt has its own.
+
+#include <QString>
+#include <string>
+#include <string_view>
+
+namespace algo::terminal {
+
+inline QString ToQt(std::string_view text) {
+  return QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
+}
+
+inline std::string FromQt(const QString& text) { return text.toStdString(); }
+
+}  // namespace algo::terminal

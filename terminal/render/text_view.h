@@ -1,0 +1,26 @@
+#pragma once
+
+// A line of text; an account or a symbol offers what may be meant in a list below it.
+
+#include <QLineEdit>
+
+#include "terminal/render/control_view.h"
+
+namespace algo::terminal {
+
+class TTextView final : public TControlView {
+ public:
+  TTextView(forms::TTextEdit& control, const TFrameInput& input, const TEditorAids& aids, QWidget& parent);
+
+  QWidget& Widget() const override { return FLine; }
+  QString ShownText() const override { return FLine.text(); }
+  QString SelectedText() const override { return FLine.selectedText(); }
+
+ protected:
+  void Show() override;
+
+ private:
+  QLineEdit& FLine;
+};
+
+}  // namespace algo::terminal

@@ -1,0 +1,102 @@
+// What a renderer with widgets of its own sends: whole texts while they are edited, and the focus by key.
+
+#include <gtest/gtest.h>
+
+#include "tests/forms/sample_form.h"
+
+namespace algo::forms::tests {
+namespace {
+
+struct TRendererInput : testing::Test {
+  TRendererInput() {
+    NoteAll(line, notes);
+    NoteAll(number, notes);
+  }
+
+  TNotes notes;
+  std::shared_ptr<TSampleFrame> frame = std::make_shared<TSampleFrame>();
+  TTextEdit& line = frame->Place<TTextEdit>("line");
+  TSpinEdit& number = frame->Place<TSpinEdit>("number");
+  TCheckBox& box = frame->Place<TCheckBox>("box");
+};
+
+TEST_F(TRendererInput, ATextEditedAnywhereChangesALineOnce) {
+  line.SetText("0005");
+  notes.clear();
+  EXPECT_EQ(frame->InputTyped(line, "00105"), TInputResult::Taken);
+  EXPECT_EQ(line.Text(), "00105");
+  EXPECT_EQ(notes, (TNotes{"line changed"}));
+}
+
+TEST_F(TRendererInput, ANumberIsMadeOfWhatWasTypedWhenItIsLeft) {
+  number.SetMax(50);
+  EXPECT_EQ(frame->InputTyped(number, "1,2"), TInputResult::Taken);
+  EXPECT_EQ(frame->InputTyped(number, "1,2.5"), TInputResult::Taken);
+  EXPECT_EQ(number.Value(), std::nullopt);
+  EXPECT_EQ(number.Text(), "1,2.5");
+  frame->InputLeave();
+  EXPECT_EQ(number.Value(), 12.5);
+}
+
+TEST_F(TRendererInput, ATextThatTheEditorDoesNotAcceptChangesNothing) {
+  number.SetValue(7);
+  number.SetMin(0);
+  notes.clear();
+  EXPECT_EQ(frame->InputTyped(number, "7a"), TInputResult::Unsuited);
+  EXPECT_EQ(frame->InputTyped(number, "-7"), TInputResult::Unsuited);
+  EXPECT_EQ(frame->InputTyped(number, "7.1.2"), TInputResult::Unsuited);
+  EXPECT_EQ(frame->InputTyped(box, "7"), TInputResult::Unsuited);
+  EXPECT_EQ(number.Text(), "7");
+  EXPECT_EQ(frame->Focused(), nullptr);
+  EXPECT_TRUE(notes.empty());
+}
+
+TEST_F(TRendererInput, TypingNeedsAnEditorThatTakesInput) {
+  line.SetReadOnly(true);
+  EXPECT_EQ(frame->InputTyped(line, "A"), TInputResult::ReadOnly);
+  line.SetReadOnly(false);
+  line.SetEnabled(false);
+  EXPECT_EQ(frame->InputTyped(line, "A"), TInputResult::Disabled);
+  line.SetVisible(false);
+  EXPECT_EQ(frame->InputTyped(line, "A"), TInputResult::Hidden);
+  EXPECT_EQ(line.Text(), "");
+}
+
+TEST_F(TRendererInput, TheFocusComesByKeyWithoutAClick) {
+  frame->InputFocus(line);
+  notes.clear();
+  EXPECT_EQ(frame->InputFocus(number), TInputResult::Taken);
+  EXPECT_TRUE(number.Focused());
+  EXPECT_EQ(notes, (TNotes{"line left"}));
+  number.SetEnabled(false);
+  EXPECT_EQ(frame->InputFocus(number), TInputResult::Disabled);
+}
+
+struct TGoneNote final : TFrameObserver {
+  void ControlChanged(const TControl& /*control*/) override {}
+  void LayoutChanged() override {}
+  void FocusChanged() override {}
+  void FrameGone() override { ++gone; }
+  int gone = 0;
+};
+
+TEST_F(TRendererInput, AnObserverIsToldWhenTheFrameGoes) {
+  TGoneNote stays;
+  TGoneNote left;
+  frame->AddObserver(stays);
+  frame->AddObserver(left);
+  frame->RemoveObserver(left);
+  frame.reset();
+  EXPECT_EQ(stays.gone, 1);
+  EXPECT_EQ(left.gone, 0);
+}
+
+TEST_F(TRendererInput, ADateKeepsTheTimeOfAPickedDayWhereItIsToldTo) {
+  auto& date = frame->Place<TDateEdit>("date");
+  EXPECT_FALSE(date.PickKeepsTime());
+  date.SetPickKeepsTime(true);
+  EXPECT_TRUE(date.PickKeepsTime());
+}
+
+}  // namespace
+}  // namespace algo::forms::tests
