@@ -1,0 +1,16 @@
+#include "terminal/desk/panel.h"
+
+namespace algo::terminal {
+
+TPanel::TPanel(const QString& name, bool linked) : FTitle(*new TDockTitle(*this, linked)) {
+  setObjectName(name);
+  setTitleBarWidget(&FTitle);
+  setAllowedAreas(Qt::AllDockWidgetAreas);
+}
+
+void TPanel::SetCaption(const QString& caption) {
+  setWindowTitle(caption);
+  setAccessibleName(caption);
+}
+
+}  // namespace algo::terminal
