@@ -1,5 +1,7 @@
 #include "terminal/desk/message_boxes.h"
 
+#include <QApplication>
+
 namespace algo::terminal {
 
 TMessageBoxes::TMessageBoxes(QWidget& window) : FWindow(window) {}
@@ -7,7 +9,7 @@ TMessageBoxes::TMessageBoxes(QWidget& window) : FWindow(window) {}
 void TMessageBoxes::Show(const QString& text) {
   if (FWaiting.contains(text) || (FBox && FBox->text() == text)) return;
   FWaiting.append(text);
-  if (!FBox) ShowNext();
+  ShowNext();
 }
 
 void TMessageBoxes::CloseAll() {
@@ -16,7 +18,7 @@ void TMessageBoxes::CloseAll() {
 }
 
 void TMessageBoxes::ShowNext() {
-  if (FWaiting.isEmpty()) return;
+  if (FBox || FWaiting.isEmpty()) return;
   // In front of whatever the trader works in, a dialog for one; but owned here, since that may go first.
   FBox = new QMessageBox(QMessageBox::Information, FWindow.windowTitle(), FWaiting.takeFirst(),
                          QMessageBox::Ok, &FWindow);
@@ -25,10 +27,8 @@ void TMessageBoxes::ShowNext() {
   FBox->setTextFormat(Qt::PlainText);
   FBox->setAttribute(Qt::WA_DeleteOnClose);
   FBox->setWindowModality(Qt::ApplicationModal);
-  connect(FBox, &QMessageBox::finished, this, [this] {
-    FBox = nullptr;
-    ShowNext();
-  });
+  // Later, since the box may be going with the dialog that it belongs to.
+  connect(FBox, &QObject::destroyed, this, &TMessageBoxes::ShowNext, Qt::QueuedConnection);
   FBox->show();
 }
 
