@@ -16,9 +16,9 @@ constexpr int BusyMilliseconds = 1000;
 void TConnection::TClose::operator()(sqlite3* handle) const { sqlite3_close(handle); }
 
 TConnection::TConnection(const std::string& file) : FFile(file) {
-  constexpr int flags = SQLITE_OPEN_READWRITE | SQLITE_OPEN_CREATE | SQLITE_OPEN_EXRESCODE;
+  constexpr int Flags = SQLITE_OPEN_READWRITE | SQLITE_OPEN_CREATE | SQLITE_OPEN_EXRESCODE;
   sqlite3* handle = nullptr;
-  const int code = sqlite3_open_v2(file.c_str(), &handle, flags, nullptr);
+  const int code = sqlite3_open_v2(file.c_str(), &handle, Flags, nullptr);
   FHandle.reset(handle);
   if (code != SQLITE_OK) throw StorageErrorOf(FFile, code, sqlite3_errstr(code));
   // SQLite is content with reading where it cannot write.
