@@ -21,7 +21,7 @@ using namespace algo;
 
 // Enough to spread an order over many pages, so that there is something to tear apart, and so that the log is
 // carried over into the database every few orders.
-const std::string LongText(40000, 'x');
+const std::string LongText(100000, 'x');
 
 constexpr int ActionsOnAnOrder = 3;
 

@@ -84,7 +84,7 @@ TEST_F(TKeptOrders, TextsKeepEveryByte) {
   }
 
   Load();
-  EXPECT_EQ(LoadedKeys(), (std::vector<std::string>{"a\0b"s, "a"}));
+  ASSERT_EQ(LoadedKeys(), (std::vector<std::string>{"a\0b"s, "a"}));
   const auto& kept = *orders.Find("a\0b"s);
   EXPECT_EQ(kept.account, "\0"s);
   EXPECT_EQ(kept.symbol, "not UTF-8: \xFF\xC3");
@@ -149,6 +149,23 @@ TEST_F(TKeptOrders, AChangedOrderHasNothingOfTheFormerOneLeft) {
   EXPECT_EQ(kept.account, "");
   EXPECT_EQ(kept.NumberedTexts(), (TNumbered{{440, "new"}}));
   EXPECT_EQ(kept.NamedTexts(), TNamed{});
+}
+
+TEST_F(TKeptOrders, AnOrderWithoutItsEventIsNotKept) {
+  bool clockStands = true;
+  {
+    TSqliteKeeper keeper(file, [&clockStands] {
+      if (clockStands) throw EError("the clock stands still");
+      return std::string(FixedTime);
+    });
+    EXPECT_THROW(keeper.KeepOrder(New, OrderWithKey("K", 1)), EError);
+    EXPECT_TRUE(keeper.AllEvents().empty());
+    clockStands = false;
+    keeper.KeepOrder(New, OrderWithKey("L", 2));
+  }
+  Load();
+  EXPECT_EQ(LoadedKeys(), (std::vector<std::string>{"L"}));
+  EXPECT_EQ(events.size(), 1U);
 }
 
 TEST_F(TKeptOrders, AnEventAloneKeepsNoOrder) {
