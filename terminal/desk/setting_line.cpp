@@ -38,6 +38,7 @@ class TListLine final : public TSettingLine {
     for (const TSettingChoice& choice : row.choices) FList->addItem(QString(), ToQt(choice.value));
     FName->setBuddy(FList);
     auto* line = new QHBoxLayout();
+    line->setSpacing(8);
     line->addWidget(FName);
     line->addWidget(FList, 1);
     static_cast<QVBoxLayout*>(group.layout())->addLayout(line);
@@ -66,7 +67,11 @@ class TListLine final : public TSettingLine {
 
 }  // namespace
 
-TSettingLine::TSettingLine(const TSettingRow& row, QGroupBox& group) : FRow(row), FGroup(group) {}
+TSettingLine::TSettingLine(const TSettingRow& row, QGroupBox& group) : FRow(row), FGroup(group) {
+  constexpr int BetweenSettings = 8;
+  auto* column = static_cast<QVBoxLayout*>(group.layout());
+  if (column->count() > 0) column->addSpacing(BetweenSettings);
+}
 
 TSettingLine::~TSettingLine() = default;
 
@@ -81,7 +86,6 @@ void TSettingLine::Explain(QWidget& widget) {
   FWhy = new QLabel(&FGroup);
   FWhy->setObjectName(ToQt(FRow.key) + QStringLiteral(".Why"));
   FWhy->setForegroundRole(QPalette::PlaceholderText);
-  FWhy->setWordWrap(true);
   FGroup.layout()->addWidget(FWhy);
 }
 

@@ -53,7 +53,7 @@ TSettingsPage::TSettingsPage(TMemoryHost& host, const TTexts& texts, QWidget* pa
       FGroups.push_back(new QGroupBox(this));
       FGroups.back()->setObjectName(ToQt(row.group));
       column->addWidget(FGroups.back());
-      new QVBoxLayout(FGroups.back());
+      (new QVBoxLayout(FGroups.back()))->setSpacing(2);
     }
     FLines.push_back(MakeSettingLine(row, *FGroups.back(), [this] { ShowWhetherChanged(); }));
   }
