@@ -24,7 +24,8 @@ terminal/account     -> text forms plugin/host_contract terminal/host
 terminal/storage     -> text forms plugin/host_contract terminal/host
 terminal/paper       -> text forms plugin/host_contract terminal/host
 terminal/render      -> text forms
-terminal/desk        -> text forms plugin/host_contract terminal/host terminal/storage terminal/paper terminal/render terminal/drive
+terminal/play        -> text forms plugin/host_contract terminal/host terminal/drive terminal/render
+terminal/desk        -> text forms plugin/host_contract terminal/host terminal/storage terminal/paper terminal/render terminal/drive terminal/play
 '
 
 mapfile -t files < <(

@@ -7,13 +7,11 @@
 #include <QLabel>
 #include <utility>
 
+#include "terminal/render/qt_text.h"
+
 namespace algo::terminal {
 
 namespace {
-
-QString ToQt(std::string_view text) {
-  return QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
-}
 
 class TCheckLine final : public TSettingLine {
  public:
@@ -37,9 +35,10 @@ class TListLine final : public TSettingLine {
  public:
   TListLine(const TSettingRow& row, QGroupBox& group, std::function<void()> changed)
       : TSettingLine(row, group), FName(new QLabel(&group)), FList(new QComboBox(&group)) {
-    for (const TSettingChoice& choice : row.choices) FList->addItem({}, ToQt(choice.value));
+    for (const TSettingChoice& choice : row.choices) FList->addItem(QString(), ToQt(choice.value));
     FName->setBuddy(FList);
     auto* line = new QHBoxLayout();
+    line->setSpacing(8);
     line->addWidget(FName);
     line->addWidget(FList, 1);
     static_cast<QVBoxLayout*>(group.layout())->addLayout(line);
@@ -47,7 +46,7 @@ class TListLine final : public TSettingLine {
     QObject::connect(FList, &QComboBox::currentIndexChanged, FList, std::move(changed));
   }
 
-  std::string Value() const override { return FList->currentData().toString().toStdString(); }
+  std::string Value() const override { return FromQt(FList->currentData().toString()); }
 
  private:
   // A text that is none of the choices is offered as it is, so that a look at the page changes nothing.
@@ -68,7 +67,11 @@ class TListLine final : public TSettingLine {
 
 }  // namespace
 
-TSettingLine::TSettingLine(const TSettingRow& row, QGroupBox& group) : FRow(row), FGroup(group) {}
+TSettingLine::TSettingLine(const TSettingRow& row, QGroupBox& group) : FRow(row), FGroup(group) {
+  constexpr int BetweenSettings = 8;
+  auto* column = static_cast<QVBoxLayout*>(group.layout());
+  if (column->count() > 0) column->addSpacing(BetweenSettings);
+}
 
 TSettingLine::~TSettingLine() = default;
 
@@ -83,7 +86,6 @@ void TSettingLine::Explain(QWidget& widget) {
   FWhy = new QLabel(&FGroup);
   FWhy->setObjectName(ToQt(FRow.key) + QStringLiteral(".Why"));
   FWhy->setForegroundRole(QPalette::PlaceholderText);
-  FWhy->setWordWrap(true);
   FGroup.layout()->addWidget(FWhy);
 }
 

@@ -11,6 +11,7 @@
 #include "plugin/host_contract/message_box.h"
 #include "terminal/desk/setting_line.h"
 #include "terminal/desk/settings_table.h"
+#include "terminal/render/qt_text.h"
 
 namespace algo::terminal {
 
@@ -41,10 +42,6 @@ bool Guarded(const TWork& work) {
   }
 }
 
-QString GroupName(std::string_view textKey) {
-  return QString::fromUtf8(textKey.data(), static_cast<qsizetype>(textKey.size()));
-}
-
 }  // namespace
 
 TSettingsPage::TSettingsPage(TMemoryHost& host, const TTexts& texts, QWidget* parent)
@@ -52,11 +49,11 @@ TSettingsPage::TSettingsPage(TMemoryHost& host, const TTexts& texts, QWidget* pa
   setObjectName(QStringLiteral("Settings"));
   auto* column = new QVBoxLayout(this);
   for (const TSettingRow& row : SettingsTable) {
-    if (FGroups.empty() || FGroups.back()->objectName() != GroupName(row.group)) {
+    if (FGroups.empty() || FGroups.back()->objectName() != ToQt(row.group)) {
       FGroups.push_back(new QGroupBox(this));
-      FGroups.back()->setObjectName(GroupName(row.group));
+      FGroups.back()->setObjectName(ToQt(row.group));
       column->addWidget(FGroups.back());
-      new QVBoxLayout(FGroups.back());
+      (new QVBoxLayout(FGroups.back()))->setSpacing(2);
     }
     FLines.push_back(MakeSettingLine(row, *FGroups.back(), [this] { ShowWhetherChanged(); }));
   }
@@ -78,7 +75,7 @@ void TSettingsPage::SetTexts(const TTexts& texts) {
   setWindowTitle(texts.Desk("Settings"));
   setAccessibleName(windowTitle());
   for (QGroupBox* group : FGroups) {
-    group->setTitle(texts.Desk(group->objectName().toStdString()));
+    group->setTitle(texts.Desk(FromQt(group->objectName())));
     group->setAccessibleName(group->title());
   }
   for (const auto& line : FLines) line->SetTexts(texts);

@@ -3,10 +3,15 @@
 #include <QPainter>
 #include <QStyleFactory>
 #include <QStyleOption>
+#include <algorithm>
+#include <iterator>
 
 namespace algo::terminal {
 
 namespace {
+
+constexpr QStyle::PrimitiveElement OutlinedElements[] = {
+    QStyle::PE_FrameLineEdit, QStyle::PE_IndicatorCheckBox, QStyle::PE_PanelButtonCommand, QStyle::PE_Frame};
 
 void DrawOutline(const QStyleOption& option, QPainter& painter) {
   const bool focused = (option.state & QStyle::State_HasFocus) != 0;
@@ -27,8 +32,14 @@ TSkinStyle::TSkinStyle() : QProxyStyle(QStyleFactory::create(QStringLiteral("Fus
 void TSkinStyle::drawPrimitive(PrimitiveElement element, const QStyleOption* option, QPainter* painter,
                                const QWidget* widget) const {
   QProxyStyle::drawPrimitive(element, option, painter, widget);
-  if (element == PE_FrameLineEdit || element == PE_IndicatorCheckBox || element == PE_PanelButtonCommand)
+  if (std::ranges::find(OutlinedElements, element) != std::end(OutlinedElements))
     DrawOutline(*option, *painter);
+}
+
+void TSkinStyle::drawControl(ControlElement element, const QStyleOption* option, QPainter* painter,
+                             const QWidget* widget) const {
+  QProxyStyle::drawControl(element, option, painter, widget);
+  if (element == CE_ProgressBarGroove) DrawOutline(*option, *painter);
 }
 
 void TSkinStyle::drawComplexControl(ComplexControl control, const QStyleOptionComplex* option,

@@ -26,7 +26,7 @@ constexpr TRoleRow RoleTable[] = {
     {QPalette::PlaceholderText, &TSkin::faint, &TSkin::faint},
     {QPalette::Button, &TSkin::button, &TSkin::window},
     {QPalette::ButtonText, &TSkin::text, &TSkin::faint},
-    {QPalette::BrightText, &TSkin::highlightText, &TSkin::faint},
+    {QPalette::BrightText, &TSkin::highlightText, &TSkin::highlightText},
     {QPalette::Highlight, &TSkin::highlight, &TSkin::highlight},
     {QPalette::HighlightedText, &TSkin::highlightText, &TSkin::highlightText},
     {QPalette::Link, &TSkin::buy, &TSkin::faint},

@@ -6,6 +6,7 @@
 #include <nlohmann/json.hpp>
 
 #include "plugin/host_contract/language_manager.h"
+#include "terminal/render/qt_text.h"
 
 // The linker takes the resources of a static library along only where they are asked for, and this cannot be
 // asked for within a namespace.
@@ -51,7 +52,7 @@ QString LanguageOwnName(TLanguage language) { return QString::fromUtf8(RowOf(lan
 
 TTexts::TTexts(TLanguage language) : FLanguage(language) {
   TakeResourcesAlong();
-  QFile file(QStringLiteral(":/desk/texts/%1.json").arg(QLatin1String(LanguageCode(language).data())));
+  QFile file(QStringLiteral(":/desk/texts/%1.json").arg(ToQt(LanguageCode(language))));
   const bool opened = file.open(QIODevice::ReadOnly);
   assert(opened);
   const auto texts = nlohmann::json::parse(opened ? file.readAll().toStdString() : "{}");
@@ -63,10 +64,7 @@ TTexts::TTexts(TLanguage language) : FLanguage(language) {
 
 std::string TTexts::Resource(std::string_view id) const { return std::string(TextOr(FResources, id)); }
 
-QString TTexts::Desk(std::string_view key) const {
-  const std::string_view text = TextOr(FDesk, key);
-  return QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
-}
+QString TTexts::Desk(std::string_view key) const { return ToQt(TextOr(FDesk, key)); }
 
 std::string TTexts::ErrorText(std::string_view code) const { return std::string(TextOr(FErrors, code)); }
 

@@ -4,16 +4,21 @@
 
 namespace algo::terminal {
 
-TDialogs::TDialogs(TFrameNames& names, TRunStack& runs, TExecute execute)
-    : FNames(names), FRuns(runs), FExecute(std::move(execute)) {}
+TDialogs::TDialogs(TFrameNames& names, TRunStack& runs, TTrader& trader, TExecute execute)
+    : FNames(names), FRuns(runs), FTrader(trader), FExecute(std::move(execute)) {}
 
 void TDialogs::Play(forms::TDialogForm& form) {
   struct TShowing {
-    std::vector<forms::TDialogForm*>& forms;
-    ~TShowing() { forms.pop_back(); }
+    TDialogs& dialogs;
+    ~TShowing() {
+      forms::TDialogForm& done = *dialogs.FShowing.back();
+      dialogs.FShowing.pop_back();
+      dialogs.FTrader.DialogDone(done);
+    }
   };
   FShowing.push_back(&form);
-  const TShowing showing{FShowing};
+  FTrader.DialogOpened(form);
+  const TShowing showing{*this};
 
   const std::string label = form.Frame() ? FNames.LabelOf(*form.Frame()) : std::string();
   if (const auto frame = std::dynamic_pointer_cast<host::TViewFrame>(form.Frame())) FNames.Name(frame, label);

@@ -9,6 +9,7 @@
 #include "forms/dialog_form.h"
 #include "terminal/drive/frame_names.h"
 #include "terminal/drive/run_stack.h"
+#include "terminal/drive/trader.h"
 
 namespace algo::terminal {
 
@@ -16,7 +17,7 @@ class TDialogs {
  public:
   using TExecute = std::function<TAnswerJson(const TCommandJson& command)>;
 
-  TDialogs(TFrameNames& names, TRunStack& runs, TExecute execute);
+  TDialogs(TFrameNames& names, TRunStack& runs, TTrader& trader, TExecute execute);
 
   /// Plays the dialog: carries out the commands that the innermost command has for it, dismisses it when they
   /// gave it no result, and notes in that command how it went.
@@ -28,6 +29,7 @@ class TDialogs {
  private:
   TFrameNames& FNames;
   TRunStack& FRuns;
+  TTrader& FTrader;
   TExecute FExecute;
   std::vector<forms::TDialogForm*> FShowing;
 };

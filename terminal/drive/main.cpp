@@ -38,7 +38,8 @@ int main(int argc, char** argv) {
 #endif
   std::ios::sync_with_stdio(false);
   try {
-    algo::terminal::TSession session(module);
+    algo::terminal::TTrader trader;
+    algo::terminal::TSession session(module, trader);
     algo::terminal::Drive(session, std::cin, std::cout);
   } catch (const std::exception& error) {
     std::cerr << "algo-drive: " << error.what() << '\n';

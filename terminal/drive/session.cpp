@@ -24,9 +24,10 @@ std::vector<const TCommandJson*> DialogScripts(const TCommandJson& command) {
 
 }  // namespace
 
-TSession::TSession(std::string moduleFile)
+TSession::TSession(std::string moduleFile, TTrader& trader)
     : FModuleFile(std::move(moduleFile)),
-      FDialogs(FNames, FRuns, [this](const TCommandJson& command) { return Execute(command); }),
+      FTrader(trader),
+      FDialogs(FNames, FRuns, trader, [this](const TCommandJson& command) { return Execute(command); }),
       FLog(FNames, FRuns, FDialogs),
       FHost(FLog) {
   // The module would catch a mere exception and go on, so the breach is noted where no module can lose it.
@@ -56,6 +57,7 @@ TAnswerJson TSession::Execute(const TCommandJson& command) {
     const TCommand& found = FindCommand(arguments.Text("do"));
     TAnswerJson told = TAnswerJson::object();
     found.handler(*this, arguments, told);
+    FTrader.Settle();
     answer.update(told);
   } catch (const std::exception& error) {
     answer["ok"] = false;

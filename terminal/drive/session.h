@@ -11,14 +11,16 @@
 #include "terminal/drive/frame_names.h"
 #include "terminal/drive/loaded_module.h"
 #include "terminal/drive/run_stack.h"
+#include "terminal/drive/trader.h"
 #include "terminal/host/memory_host.h"
 
 namespace algo::terminal {
 
 class TSession {
  public:
-  /// `moduleFile` is what `Load` loads.
-  explicit TSession(std::string moduleFile);
+  /// `moduleFile` is what `Load` loads. `trader` does what scripts say a trader does; it outlives the
+  /// session.
+  TSession(std::string moduleFile, TTrader& trader);
   /// Closes what is open and unloads the module.
   ~TSession();
   TSession(const TSession&) = delete;
@@ -42,6 +44,7 @@ class TSession {
   TMemoryHost& Host() { return FHost; }
   TFrameNames& Names() { return FNames; }
   TDialogs& Dialogs() { return FDialogs; }
+  TTrader& Trader() { return FTrader; }
 
   /// Whether the loaded provider shows changes in its modal dialog; it goes by the setting that it found when
   /// made.
@@ -51,6 +54,7 @@ class TSession {
   void Answer(const TCommandJson& command, TRun& run, TAnswerJson& answer);
 
   std::string FModuleFile;
+  TTrader& FTrader;
   TFrameNames FNames;
   TRunStack FRuns;
   TDialogs FDialogs;

@@ -25,26 +25,26 @@ void Type(TSession& session, const TArguments& arguments, TAnswerJson& /*answer*
   const auto frame = FrameOf(session, arguments);
   auto& control = ControlOf(*frame, arguments);
   const auto& text = arguments.Text("text");
-  CheckTaken(IntoModule([&] { return frame->InputText(control, text); }), control);
+  CheckTaken(IntoModule([&] { return session.Trader().Type(frame, control, text); }), control);
 }
 
 void Leave(TSession& session, const TArguments& arguments, TAnswerJson& /*answer*/) {
   const auto frame = FrameOf(session, arguments);
-  IntoModule([&] { frame->InputLeave(); });
+  IntoModule([&] { session.Trader().Leave(frame); });
 }
 
 void Enter(TSession& session, const TArguments& arguments, TAnswerJson& answer) {
   const auto frame = FrameOf(session, arguments);
   forms::TControl* control = arguments.Has("control") ? &ControlOf(*frame, arguments) : frame->Focused();
   if (control == nullptr) throw ECommandError("no control has the focus");
-  CheckTaken(IntoModule([&] { return frame->InputEnter(*control); }), *control);
+  CheckTaken(IntoModule([&] { return session.Trader().Enter(frame, *control); }), *control);
   answer["focus"] = frame->Focused() == nullptr ? std::string() : frame->Focused()->Name();
 }
 
 void Click(TSession& session, const TArguments& arguments, TAnswerJson& answer) {
   const auto frame = FrameOf(session, arguments);
   auto& control = ControlOf(*frame, arguments);
-  CheckTaken(IntoModule([&] { return frame->InputClick(control); }), control);
+  CheckTaken(IntoModule([&] { return session.Trader().Click(frame, control); }), control);
   if (const auto* editor = dynamic_cast<const forms::TEditor*>(&control)) {
     answer["selected"] = editor->SelectedText();
   }
@@ -69,7 +69,7 @@ void Pick(TSession& session, const TArguments& arguments, TAnswerJson& /*answer*
   const auto frame = FrameOf(session, arguments);
   auto& control = ControlOf(*frame, arguments);
   const auto index = ItemOf(control, arguments);
-  CheckTaken(IntoModule([&] { return frame->InputPick(control, index); }), control);
+  CheckTaken(IntoModule([&] { return session.Trader().Pick(frame, control, index); }), control);
 }
 
 void Dismiss(TSession& session, const TArguments& arguments, TAnswerJson& /*answer*/) {
@@ -77,7 +77,7 @@ void Dismiss(TSession& session, const TArguments& arguments, TAnswerJson& /*answ
   forms::TDialogForm* form = session.Dialogs().Innermost();
   if (form == nullptr) throw ECommandError("no modal dialog is showing");
   if (result == forms::ModalNone) throw ECommandError("'result' must be a number that ends a dialog, not 0");
-  form->SetModalResult(result);
+  session.Trader().Dismiss(*form, result);
 }
 
 void CloseForm(TSession& session, const TArguments& arguments, TAnswerJson& /*answer*/) {
@@ -86,7 +86,7 @@ void CloseForm(TSession& session, const TArguments& arguments, TAnswerJson& /*an
   if (form == nullptr || form->Modal() || !form->Showing()) {
     throw ECommandError("'" + arguments.Text("frame") + "' sits in no form that shows beside others");
   }
-  IntoModule([&] { form->Close(); });
+  IntoModule([&] { session.Trader().Close(*form); });
 }
 
 constexpr std::array Commands{

@@ -18,6 +18,9 @@ class TFrameInput {
   /// The frame, or nullptr when it has gone; then none of its controls may be touched.
   std::shared_ptr<forms::TFrame> Frame() const { return FFrame.lock(); }
 
+  /// Lets go of a frame that goes.
+  void LetGo() { FFrame.reset(); }
+
   /// See the operations of the same names of TFrame. False when the frame has gone or did not take the input.
   bool Typed(forms::TControl& control, const QString& text) const {
     return Send([&](forms::TFrame& frame) { return frame.InputTyped(control, FromQt(text)); });

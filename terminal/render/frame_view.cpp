@@ -107,6 +107,8 @@ void TFrameView::FrameGone() {
   FByInput.clear();
   FViews.clear();
   FLayout.reset();
+  // Even the mere handle leads back into the module that made the frame, which may be unloaded now.
+  FInput.LetGo();
   // The widgets may be in the middle of an event of theirs.
   FContent->hide();
   FContent->setEnabled(false);
@@ -157,11 +159,8 @@ void TFrameView::FilterMouse(TControlView& view, const QEvent& event) {
   auto* editor = dynamic_cast<forms::TEditor*>(&view.Control());
   if (event.type() == QEvent::MouseButtonPress) {
     // Buttons send their click themselves, when they are released.
-    if (editor != nullptr) {
-      FInput.Click(view.Control());
-    } else if (view.Control().Kind() == forms::TControlKind::Combo) {
-      FInput.Focus(view.Control());
-    }
+    const bool isCombo = view.Control().Kind() == forms::TControlKind::Combo;
+    if (editor != nullptr || isCombo) FInput.Click(view.Control());
   } else if (event.type() == QEvent::MouseButtonRelease && editor != nullptr) {
     // The press put the caret where the mouse is; what the click selected comes back.
     if (!editor->SelectedText().empty()) view.Refresh();

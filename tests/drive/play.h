@@ -15,7 +15,7 @@ namespace algo::terminal {
 
 class TPlay : public testing::Test {
  protected:
-  explicit TPlay(const std::string& moduleFile = "/nowhere/module.so") : session(moduleFile) {}
+  explicit TPlay(const std::string& moduleFile = "/nowhere/module.so") : session(moduleFile, trader) {}
 
   /// The answers to the lines of the script.
   std::vector<TAnswerJson> Play(const std::string& script) {
@@ -41,6 +41,7 @@ class TPlay : public testing::Test {
     return answer["ok"] == false ? answer["error"].get<std::string>() : "it was not refused";
   }
 
+  TTrader trader;
   TSession session;
 };
 
