@@ -1,7 +1,7 @@
 #pragma once
 
-// The desktop without its windows: everything that they show and work on, made in the order in which one needs the
-// other, and taken down in the opposite one.
+// The desktop without its windows: everything that they show and work on, made in the order in which one
+// needs the other, and taken down in the opposite one.
 
 #include <QElapsedTimer>
 #include <QObject>
@@ -28,8 +28,9 @@ namespace algo::terminal {
 class TDesk final : public QObject {
   Q_OBJECT
  public:
-  /// Opens the database, loads the market's tables and the module, and shows the application in the skin. The market
-  /// stands still until Start. Throws EError, whose text tells what to do, when any of it cannot be had.
+  /// Opens the database, loads the market's tables and the module, and shows the application in the skin. The
+  /// market stands still until Start. Throws EError, whose text tells what to do, when any of it cannot be
+  /// had.
   explicit TDesk(const TDeskOptions& options);
   /// Views of the module's frames are gone by then.
   ~TDesk() override;
@@ -70,9 +71,9 @@ class TDesk final : public QObject {
   const TSkin* FSkin;
   TQtToolkit FToolkit;
   TDeskEvents FEvents;
+  TMarketTables FTables;
   TSqliteKeeper FKeeper;
   TMemoryHost FHost;
-  TMarketTables FTables;
   TPaperMarket FMarket;
   TPaperEngine FEngine;
   TDeskAids FAids;

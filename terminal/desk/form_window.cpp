@@ -29,12 +29,14 @@ void TFormWindow::Refresh() {
   // The trader may have chosen another size, which stays until the form asks for a new one.
   if (form->ClientSize() != FClientSize) {
     FClientSize = form->ClientSize();
-    const QSize asked(static_cast<int>(std::ceil(FClientSize.width)), static_cast<int>(std::ceil(FClientSize.height)));
+    const QSize asked(static_cast<int>(std::ceil(FClientSize.width)),
+                      static_cast<int>(std::ceil(FClientSize.height)));
     resize(asked.boundedTo(screen()->availableSize()));
   }
   const bool onTop = windowFlags().testFlag(Qt::WindowStaysOnTopHint);
   // A change of the flag takes the window out of sight.
-  if (form->StaysOnTop() != onTop && !isVisible()) setWindowFlag(Qt::WindowStaysOnTopHint, form->StaysOnTop());
+  if (form->StaysOnTop() != onTop && !isVisible())
+    setWindowFlag(Qt::WindowStaysOnTopHint, form->StaysOnTop());
 }
 
 void TFormWindow::reject() {
@@ -42,7 +44,8 @@ void TFormWindow::reject() {
 }
 
 void TFormWindow::keyPressEvent(QKeyEvent* event) {
-  // What Enter does is for the frame to say. A dialog by itself would press some button, which may send an order.
+  // What Enter does is for the frame to say. A dialog by itself would press some button, which may send an
+  // order.
   const bool isEnter = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
   if (!isEnter) QDialog::keyPressEvent(event);
 }

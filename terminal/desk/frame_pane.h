@@ -1,7 +1,7 @@
 #pragma once
 
-// A frame of the module inside a window of the desktop: as large as the frame wants to be, and with scroll bars where
-// the window has less room.
+// A frame of the module inside a window of the desktop: as large as the frame wants to be, and with scroll
+// bars where the window has less room.
 
 #include <QScrollArea>
 #include <memory>

@@ -62,7 +62,8 @@ void TMainMenu::Rebuild() {
 void TMainMenu::AddFile() {
   const TTexts& texts = FDesk.Texts();
   QMenu& menu = MenuIn(FBar, FileMenu, texts.Desk("File"));
-  Add(menu, "saveWorkspace", texts.Desk("Save workspace"), FDeeds.saveWorkspace).setShortcut(QKeySequence::Save);
+  Add(menu, "saveWorkspace", texts.Desk("Save workspace"), FDeeds.saveWorkspace)
+      .setShortcut(QKeySequence::Save);
   Add(menu, "settings", texts.Desk("Settings…"), FDeeds.openSettings).setShortcut(QKeySequence("Ctrl+,"));
   menu.addSeparator();
   Add(menu, "exit", texts.Desk("Exit"), FDeeds.exit).setShortcut(QKeySequence::Quit);
@@ -88,7 +89,8 @@ void TMainMenu::AddSkins() {
   QMenu& menu = MenuIn(FBar, SkinMenu, texts.Desk("Skin"));
   auto* group = new QActionGroup(&menu);
   for (const TSkin& skin : Skins) {
-    QAction& action = Add(menu, ToQt(skin.name), texts.Desk(skin.textKey), [this, &skin] { FDeeds.setSkin(skin); });
+    QAction& action =
+        Add(menu, ToQt(skin.name), texts.Desk(skin.textKey), [this, &skin] { FDeeds.setSkin(skin); });
     AddChoice(menu, *group, action, skin.name == FDesk.Skin().name);
   }
 }

@@ -1,6 +1,7 @@
 #pragma once
 
-// The menu bar of the main window: the terminal's own menus, and the entries that the module's view describes.
+// The menu bar of the main window: the terminal's own menus, and the entries that the module's view
+// describes.
 
 #include <QAction>
 #include <QMenuBar>
@@ -24,7 +25,8 @@ struct TMenuDeeds {
 
 class TMainMenu final {
  public:
-  /// `panels` are the entries that show and hide panels; their owners name them. `bar` and `desk` outlive the menu.
+  /// `panels` are the entries that show and hide panels; their owners name them. `bar` and `desk` outlive the
+  /// menu.
   TMainMenu(QMenuBar& bar, TDesk& desk, TMenuDeeds deeds, std::vector<QAction*> panels);
 
   /// Makes all entries anew, as language, skin and the user's rights want them now.

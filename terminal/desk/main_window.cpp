@@ -35,15 +35,14 @@ TMainWindow::TMainWindow(TDesk& desk)
 }
 
 TMenuDeeds TMainWindow::Deeds() {
-  const auto guarded = [this](auto deed) {
-    return [this, deed] { FDesk.Events().Guard(deed); };
-  };
+  const auto guarded = [this](auto deed) { return [this, deed] { FDesk.Events().Guard(deed); }; };
   return {.openEntry = guarded([this] { FEntries.Open(); }),
           .saveWorkspace = guarded([this] { SaveWorkspace(); }),
           .openSettings = guarded([this] { OpenSettings(); }),
           .exit = guarded([this] { close(); }),
           .about = guarded([this] { TellAbout(); }),
-          .setLanguage = [this](TLanguage language) { FDesk.Events().Guard([&] { FDesk.SetLanguage(language); }); },
+          .setLanguage =
+              [this](TLanguage language) { FDesk.Events().Guard([&] { FDesk.SetLanguage(language); }); },
           .setSkin = [this](const TSkin& skin) { FDesk.Events().Guard([&] { FDesk.SetSkin(skin); }); }};
 }
 
@@ -62,8 +61,9 @@ void TMainWindow::ConnectDesk() {
 
 void TMainWindow::ConnectPanels() {
   const auto pickPrice = [this](const std::string& symbol, double price) {
-    FDesk.Events().Guard(
-        [&] { PickPrice(FDesk.Host(), {view_id::MarketWatch, FWatch.Title().Group()}, symbol, price); });
+    FDesk.Events().Guard([&] {
+      PickPrice(FDesk.Host(), {view_id::MarketWatch, FWatch.Title().Group()}, symbol, price);
+    });
   };
   connect(&FWatch, &TMarketWatch::PricePicked, this, pickPrice);
   connect(&FEntries, &TEntryPanels::PriceDropped, this, pickPrice);
@@ -86,8 +86,9 @@ void TMainWindow::OpenSettings() {
 }
 
 void TMainWindow::TellAbout() {
-  auto* about = new QMessageBox(QMessageBox::Information, FDesk.Texts().Desk("About"),
-                                "Algo Order Entry\n\n" + FDesk.Texts().Desk("Paper trading"), QMessageBox::Ok, this);
+  auto* about =
+      new QMessageBox(QMessageBox::Information, FDesk.Texts().Desk("About"),
+                      "Algo Order Entry\n\n" + FDesk.Texts().Desk("Paper trading"), QMessageBox::Ok, this);
   about->setObjectName("aboutBox");
   about->setAccessibleName(about->windowTitle());
   about->setAttribute(Qt::WA_DeleteOnClose);

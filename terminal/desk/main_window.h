@@ -25,8 +25,9 @@ class TMainWindow final : public QMainWindow {
   /// The desk outlives the window. Nothing but the panels of the terminal itself is open yet.
   explicit TMainWindow(TDesk& desk);
 
-  /// Opens what the kept workspace has; a first workspace when none is kept, and the same with a message when the kept
-  /// one cannot be read. A language or a skin that was asked for at the start goes before the kept one.
+  /// Opens what the kept workspace has; a first workspace when none is kept, and the same with a message when
+  /// the kept one cannot be read. A language or a skin that was asked for at the start goes before the kept
+  /// one.
   void RestoreWorkspace(const TDeskOptions& options);
 
   /// Keeps what is open. False, with the trader told why, when that fails.
@@ -62,7 +63,7 @@ class TMainWindow final : public QMainWindow {
   TEntryPanels FEntries;
   TMainMenu FMenu;
   QPointer<TSettingsPage> FSettings;
-  bool FCloseWanted = false;    ///< as soon as no modal form shows
+  bool FCloseWanted = false;   ///< as soon as no modal form shows
   bool FCloseUnsaved = false;  ///< the trader was told that the workspace cannot be kept
 };
 

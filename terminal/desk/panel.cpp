@@ -6,6 +6,7 @@ TPanel::TPanel(const QString& name, bool linked) : FTitle(*new TDockTitle(*this,
   setObjectName(name);
   setTitleBarWidget(&FTitle);
   setAllowedAreas(Qt::AllDockWidgetAreas);
+  toggleViewAction()->setObjectName("show_" + name);
 }
 
 void TPanel::SetCaption(const QString& caption) {

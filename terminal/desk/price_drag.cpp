@@ -9,7 +9,8 @@ namespace algo::terminal {
 QMimeData* MimeOf(const TDraggedPrice& dragged) {
   auto* data = new QMimeData;
   // The price goes first, since a symbol may be any text.
-  data->setData(PriceMimeType, QByteArray::fromStdString(text::PlainNumber(dragged.price) + ' ' + dragged.symbol));
+  data->setData(PriceMimeType,
+                QByteArray::fromStdString(text::PlainNumber(dragged.price) + ' ' + dragged.symbol));
   return data;
 }
 

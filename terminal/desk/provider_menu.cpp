@@ -39,7 +39,9 @@ QMenu& MenuOf(QWidget& parent, const TMenuPlace& place, const QString& caption) 
 
 }  // namespace
 
-QMenu& MenuIn(QMenuBar& bar, const TMenuPlace& place, const QString& caption) { return MenuOf(bar, place, caption); }
+QMenu& MenuIn(QMenuBar& bar, const TMenuPlace& place, const QString& caption) {
+  return MenuOf(bar, place, caption);
+}
 
 QAction* PlaceView(QMenuBar& bar, host::TIBaseView& view) {
   if (!view.GetIsVisible()) return nullptr;

@@ -1,7 +1,7 @@
 #pragma once
 
-// The user of the desktop. A terminal that trades would ask its server who has logged in; this one has a sample user
-// with every right and a few accounts.
+// The user of the desktop. A terminal that trades would ask its server who has logged in; this one has a
+// sample user with every right and a few accounts.
 
 #include "terminal/host/host_data.h"
 

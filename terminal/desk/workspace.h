@@ -1,6 +1,7 @@
 #pragma once
 
-// A workspace: what the trader has open, where it stands and what is typed in it, as a value and as a text to keep.
+// A workspace: what the trader has open, where it stands and what is typed in it, as a value and as a text to
+// keep.
 
 #include <QByteArray>
 #include <optional>

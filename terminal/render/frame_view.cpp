@@ -23,6 +23,8 @@ TFrameView::TFrameView(const std::shared_ptr<forms::TFrame>& frame, const TEdito
 }
 
 TFrameView::~TFrameView() {
+  // Widgets that go take the focus with them, and nobody is here any more to be told.
+  qApp->disconnect(this);
   if (const auto frame = FInput.Frame()) frame->RemoveObserver(*this);
 }
 
