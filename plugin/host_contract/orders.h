@@ -4,6 +4,7 @@
 // an order is kept, and what its numbers mean to a market, is the host's own business.
 
 #include <cstdint>
+#include <functional>
 #include <map>
 #include <string>
 #include <string_view>
@@ -57,6 +58,10 @@ class ALGO_SHARED TCustomOrder {
   /// The named text property; empty when it was never set.
   std::string NamedText(std::string_view name) const;
   void SetNamedText(std::string_view name, std::string text);
+
+  /// The text properties that were set, by number and by name; empty ones included.
+  const std::map<std::int32_t, std::string>& NumberedTexts() const { return FNumberedTexts; }
+  const std::map<std::string, std::string, std::less<>>& NamedTexts() const { return FNamedTexts; }
 
   /// Copies every property of `other` into this order.
   void AssignContent(const TCustomOrder& other);
