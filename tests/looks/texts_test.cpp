@@ -87,7 +87,7 @@ TEST_P(EachLanguage, CaptionsFitBesideAFieldAndMessagesAreSentences) {
   const bool english = GetParam() == TLanguage::English;
   for (const auto id : CaptionIds) {
     if (id.ends_with("_Lock")) continue;  // shown as a tool tip
-    EXPECT_LE(ToQt(texts.Resource(id)).size(), english ? 25 : 12) << id;
+    EXPECT_LE(ToQt(texts.Resource(id)).size(), english ? 21 : 9) << id;
   }
   const QString end = english ? QStringLiteral(".") : QStringLiteral("。");
   for (const auto id : MessageIds) EXPECT_TRUE(ToQt(texts.Resource(id)).endsWith(end)) << id;
