@@ -239,6 +239,16 @@ TEST_F(SettingsPage, SettingsThatCannotBeReadAreToldAndNothingIsStored) {
   EXPECT_FALSE(Button("Apply").isEnabled());
 }
 
+TEST_F(SettingsPage, AFailureThatCannotEvenBeToldClosesNothing) {
+  Show();
+  Click(Box("ClearOrd"));
+  host.Data().faults.Set({"config.store", "message.text"});
+  Click(Button("OK"));
+  EXPECT_TRUE(notes.lines.empty());
+  EXPECT_TRUE(page.isVisible());
+  EXPECT_TRUE(Button("Apply").isEnabled());
+}
+
 TEST_F(SettingsPage, ChangesLanguageWhileOpenAndKeepsWhatWasChanged) {
   Show();
   Click(Box("ClearOrd"));
