@@ -1,4 +1,5 @@
-// algo-scenario DRIVE FILE: plays a scenario and checks what comes of it.
+// algo-scenario DRIVE FILE [PEER]: plays a scenario and checks what comes of it. A second driver, PEER, plays
+// the same commands, and each of its answers has to be the first one's to the letter.
 //
 // A scenario is a text file with one JSON object or one comment a line:
 //
@@ -19,6 +20,7 @@
 //
 // The exit status is 0 when all of that is so, 1 at the first thing that is not, 2 for unusable arguments.
 
+#include <fcntl.h>
 #include <sys/wait.h>
 #include <unistd.h>
 
@@ -51,13 +53,14 @@ class TDriver {
   explicit TDriver(const char* program) {
     std::array<int, 2> commands{};
     std::array<int, 2> answers{};
-    if (pipe(commands.data()) != 0 || pipe(answers.data()) != 0) throw EScenario("no pipes to be had");
+    // Not for other children: who holds an end of a pipe keeps its reader waiting.
+    if (pipe2(commands.data(), O_CLOEXEC) != 0 || pipe2(answers.data(), O_CLOEXEC) != 0)
+      throw EScenario("no pipes to be had");
     FChild = fork();
     if (FChild < 0) throw EScenario("no process to be had");
     if (FChild == 0) {
       dup2(commands[0], STDIN_FILENO);
       dup2(answers[1], STDOUT_FILENO);
-      for (const int end : {commands[0], commands[1], answers[0], answers[1]}) close(end);
       execl(program, program, static_cast<char*>(nullptr));
       std::perror(program);
       _exit(127);
@@ -152,13 +155,16 @@ bool IsRefused(const json& answer, const json& wanted) {
 
 class TScenario {
  public:
-  explicit TScenario(const char* driver) : FDriver(driver) {}
+  /// `peer` is nullptr for none.
+  TScenario(const char* driver, const char* peer) : FDriver(driver) {
+    if (peer != nullptr) FPeer.emplace(peer);
+  }
 
   void Play(const std::filesystem::path& file) {
     PlayFile(file, 0);
     CheckOk();
-    const int status = FDriver.Finish();
-    if (!WIFEXITED(status) || WEXITSTATUS(status) != 0) Fail("the driver ends with status 0", "it does not");
+    CheckEnd(FDriver);
+    if (FPeer) CheckEnd(*FPeer);
   }
 
  private:
@@ -196,8 +202,18 @@ class TScenario {
     FDriver.Send(command);
     const auto text = FDriver.Receive();
     if (!text) Fail("an answer", "the driver has ended");
+    if (FPeer) {
+      FPeer->Send(command);
+      const auto same = FPeer->Receive();
+      if (same != text) Fail(*text, same.value_or("the peer has ended"));
+    }
     FAnswered = TAnswered{FPlace, json::parse(*text, nullptr, false), false};
     if (!FAnswered->answer.is_object()) Fail("an answer", *text);
+  }
+
+  void CheckEnd(TDriver& driver) const {
+    const int status = driver.Finish();
+    if (!WIFEXITED(status) || WEXITSTATUS(status) != 0) Fail("the driver ends with status 0", "it does not");
   }
 
   /// Fails when the command before was refused and nothing expected that.
@@ -235,6 +251,7 @@ class TScenario {
   }
 
   TDriver FDriver;
+  std::optional<TDriver> FPeer;
   std::string FPlace;  ///< file and line that is played
   std::optional<TAnswered> FAnswered;
 };
@@ -242,14 +259,14 @@ class TScenario {
 }  // namespace
 
 int main(int argc, char** argv) {
-  if (argc != 3) {
-    std::cerr << "usage: algo-scenario DRIVE FILE\n";
+  if (argc != 3 && argc != 4) {
+    std::cerr << "usage: algo-scenario DRIVE FILE [PEER]\n";
     return 2;
   }
   // A driver that ends early is told of as such.
   std::signal(SIGPIPE, SIG_IGN);
   try {
-    TScenario(argv[1]).Play(argv[2]);
+    TScenario(argv[1], argc == 4 ? argv[3] : nullptr).Play(argv[2]);
   } catch (const std::exception& error) {
     std::cerr << error.what() << '\n';
     return 1;

@@ -17,7 +17,8 @@
 
 namespace {
 
-using namespace algo;
+namespace host = algo::host;
+namespace terminal = algo::terminal;
 
 // Enough to spread an order over many pages, so that there is something to tear apart, and so that the log is
 // carried over into the database every few orders.
@@ -26,7 +27,7 @@ const std::string LongText(100000, 'x');
 constexpr int ActionsOnAnOrder = 3;
 
 void Say(const std::string& line) {
-  if (write(STDOUT_FILENO, line.data(), line.size()) < 0) throw EError("nobody listens");
+  if (write(STDOUT_FILENO, line.data(), line.size()) < 0) throw algo::EError("nobody listens");
 }
 
 void EnterOrders(terminal::TMemoryHost& host) {
@@ -37,7 +38,7 @@ void EnterOrders(terminal::TMemoryHost& host) {
     for (int count = 1; count <= ActionsOnAnOrder; ++count) {
       order.quantity = count;
       order.SetTextProperty(count, LongText);
-      if (!actions.TakeAction(nullptr, &order, action, 1)) throw EError("an action was refused");
+      if (!actions.TakeAction(nullptr, &order, action, 1)) throw algo::EError("an action was refused");
       order.key = host.Orders().All().back()->key;
       action = host::TOrderAction::Change;
       Say(order.key + " " + std::to_string(count) + "\n");

@@ -30,14 +30,21 @@ std::string SectionOf(const TSettingRow& row) {
   return row.section == TSettingSection::User ? Config().CurrentSection() : std::string(PlatformSection);
 }
 
+void Tell(const std::exception& failure) {
+  try {
+    host::TCustomMessageBoxCtrl::GetInstance().ShowText(failure.what());
+  } catch (const std::exception&) {  // a host that cannot even tell is left alone
+  }
+}
+
 // Runs what may fail; tells the trader of the failure and answers false then. Qt lets no exception through.
 template <class TWork>
 bool Guarded(const TWork& work) {
   try {
     work();
     return true;
-  } catch (const std::exception& error) {
-    host::TCustomMessageBoxCtrl::GetInstance().ShowText(error.what());
+  } catch (const std::exception& failure) {
+    Tell(failure);
     return false;
   }
 }
@@ -87,19 +94,17 @@ void TSettingsPage::SetTexts(const TTexts& texts) {
 
 bool TSettingsPage::Apply() {
   bool anyStored = false;
-  const bool stored = Guarded([&] { StoreChanged(anyStored); });
+  const bool stored = Guarded([&] {
+    for (const auto& line : FLines) {
+      if (!line->IsChanged()) continue;
+      Config().Store(SectionOf(line->Row()), line->Row().key, line->Value(), true);
+      line->KeepValue();
+      anyStored = true;
+    }
+  });
   const bool told = !anyStored || Guarded([&] { FHost.TellConfigChanged(); });
   ShowWhetherChanged();
   return stored && told;
-}
-
-void TSettingsPage::StoreChanged(bool& anyStored) {
-  for (const auto& line : FLines) {
-    if (!line->IsChanged()) continue;
-    Config().Store(SectionOf(line->Row()), line->Row().key, line->Value(), true);
-    line->KeepValue();
-    anyStored = true;
-  }
 }
 
 void TSettingsPage::accept() {

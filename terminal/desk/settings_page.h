@@ -42,7 +42,6 @@ class TSettingsPage final : public QDialog {
 
  private:
   void Reload();
-  void StoreChanged(bool& anyStored);
   void ShowWhetherChanged();
 
   TMemoryHost& FHost;

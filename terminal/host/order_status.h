@@ -1,7 +1,7 @@
 #pragma once
 
-// The codes by which this terminal tells how far an order has come. The module knows of them only that an order with
-// Filled, Cancelled, Expired or Rejected will trade no more.
+// The codes by which this terminal tells how far an order has come. The module knows of them only that an
+// order with Filled, Cancelled, Expired or Rejected will trade no more.
 
 #include <cstdint>
 #include <string_view>
@@ -22,11 +22,12 @@ inline constexpr std::int32_t Rejected = -1;
 
 /// Whether an order with that status will trade no more.
 constexpr bool IsDone(std::int32_t code) {
-  return code == status::Filled || code == status::Cancelled || code == status::Expired || code == status::Rejected;
+  return code == status::Filled || code == status::Cancelled || code == status::Expired ||
+         code == status::Rejected;
 }
 
-/// The named text property in which the terminal keeps the average price of what was filled, as a plain number;
-/// empty while nothing is.
+/// The named text property in which the terminal keeps the average price of what was filled, as a plain
+/// number; empty while nothing is.
 inline constexpr std::string_view AveragePriceProperty = "AveragePrice";
 
 }  // namespace algo::terminal

@@ -69,7 +69,8 @@ void OfferCompletions(QLineEdit& line, forms::TTextEdit& editor, const TFrameInp
 bool EnterMeansCompletion(QLineEdit& line) {
   auto* completer = qobject_cast<QCompleter*>(line.property("completer").value<QObject*>());
   if (completer == nullptr || !completer->popup()->isVisible()) return false;
-  if (completer->popup()->currentIndex().isValid()) return true;
+  // The list has a current row from the first; only a key or the mouse selects one.
+  if (completer->popup()->selectionModel()->hasSelection()) return true;
   completer->popup()->hide();
   return false;
 }

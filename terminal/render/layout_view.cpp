@@ -35,6 +35,14 @@ bool HasContent(const forms::TLayoutElement& element) {
                      [](const forms::TLayoutElement* child) { return HasContent(*child); });
 }
 
+/// How much of the room that is left over the child takes: beside others all but the boxes widen, below
+/// others none grows.
+int StretchOf(const forms::TLayoutElement& child, const forms::TLayoutGroup& group) {
+  const auto* item = dynamic_cast<const forms::TLayoutItem*>(&child);
+  const bool isBox = item != nullptr && item->Control().Kind() == forms::TControlKind::Check;
+  return IsHorizontal(group) && !isBox ? 1 : 0;
+}
+
 void ShowCaption(QLabel& label, const forms::TLayoutElement& element, bool heading) {
   const QString caption = ToQt(element.Caption());
   if (label.text() != caption) label.setText(caption);
@@ -54,6 +62,7 @@ TLayoutView::TLayoutView(const forms::TLayoutControl& layout, QWidget& parent, c
   columns->setSpacing(2 * Gap);
   for (const forms::TLayoutGroup* top : layout.TopGroups()) {
     Build(*top, parent, make);
+    // The room below a short column is left free.
     columns->addWidget(FViews[top].whole, 1, Qt::AlignTop);
   }
 }
@@ -111,9 +120,7 @@ void TLayoutView::Place(const forms::TLayoutGroup& group) {
       // Taken out of wherever it stood; a widget that changes its parent is hidden by Qt, ShowElement
       // follows.
       widget->setParent(view.whole);
-      const auto* item = dynamic_cast<const forms::TLayoutItem*>(child);
-      const bool small = item != nullptr && item->Control().Kind() == forms::TControlKind::Check;
-      view.body->insertWidget(place, widget, small && IsHorizontal(group) ? 0 : 1);
+      view.body->insertWidget(place, widget, StretchOf(*child, group));
     }
     ++place;
   }

@@ -3,7 +3,6 @@
 #include <array>
 #include <cstdint>
 #include <string>
-#include <utility>
 #include <variant>
 
 namespace algo::terminal {
@@ -19,7 +18,6 @@ struct TColumn {
   TProperty property;
 };
 
-// The key is the first: it is what finds the row.
 constexpr std::array Columns{
     TColumn{"key", &TOrder::key},
     TColumn{"order_no", &TOrder::orderNo},

@@ -13,7 +13,9 @@
 #include <QPushButton>
 #include <QTest>
 
+#include "forms/choices.h"
 #include "plugin/host_contract/config_manager.h"
+#include "terminal/drive/loaded_module.h"
 #include "tests/host/event_notes.h"
 
 namespace algo::terminal::tests {
@@ -183,12 +185,68 @@ TEST_F(SettingsPage, ASettingThatCannotBeStoredIsToldAndStaysToBeApplied) {
   EXPECT_FALSE(page.isVisible());
 }
 
+// Keeps settings but for one key.
+class TKeeperWithout final : public TKeeper {
+ public:
+  explicit TKeeperWithout(std::string_view key) : FKey(key) {}
+  void KeepSetting(std::string_view /*section*/, std::string_view key, std::string_view /*value*/) override {
+    if (key == FKey) throw EError("The disk is full. Free some space and try again.");
+  }
+
+ private:
+  std::string FKey;
+};
+
+TEST(SettingsPageOfAFullDisk, TellsTheFormsOfWhatWasStoredBeforeTheFailure) {
+  TEventNotes notes;
+  TKeeperWithout keeper("ForceConfirmBox");
+  TMemoryHost host(notes, keeper);
+  int told = 0;
+  host::TCustomConfigManager::GetInstance().AddListener([&] { ++told; }, &told);
+  TSettingsPage page(host, TTexts(TLanguage::English));
+  page.show();
+  for (const char* key : {"ConfirmationPlaceOrd", "ForceConfirmBox", "ClearOrd"})
+    QTest::keyClick(page.findChild<QCheckBox*>(QLatin1String(key)), Qt::Key_Space);
+  QTest::keyClick(page.findChild<QPushButton*>(QStringLiteral("Apply")), Qt::Key_Space);
+  EXPECT_EQ(notes.lines, (TNotes{"store USER ConfirmationPlaceOrd Y at once",
+                                 "message The disk is full. Free some space and try again."}));
+  EXPECT_EQ(told, 1);
+  EXPECT_TRUE(page.findChild<QPushButton*>(QStringLiteral("Apply"))->isEnabled());
+  host::TCustomConfigManager::GetInstance().RemoveListener(&told);
+}
+
+TEST(SettingsPageBesideAForm, ChangesTheOpenForm) {
+  TEventNotes notes;
+  TMemoryHost host(notes);
+  host.Data().lists["ALGO/Exchange"] = {"HKG"};
+  const TLoadedModule module(ModuleBesideProgram(), nullptr);
+  const auto frame = module.Provider().FindView(module.Provider().OpenNewInstance());
+  ASSERT_NE(frame, nullptr);
+  const auto& noConfirmation = dynamic_cast<const forms::TCheckBox&>(*frame->FindControl("cbPopup"));
+  ASSERT_TRUE(noConfirmation.Checked());
+  TSettingsPage page(host, TTexts(TLanguage::English));
+  page.show();
+  QTest::keyClick(page.findChild<QCheckBox*>(QStringLiteral("ConfirmationPlaceOrd")), Qt::Key_Space);
+  QTest::keyClick(page.findChild<QPushButton*>(QStringLiteral("Apply")), Qt::Key_Space);
+  EXPECT_FALSE(noConfirmation.Checked());
+}
+
 TEST_F(SettingsPage, SettingsThatCannotBeReadAreToldAndNothingIsStored) {
   host.Data().faults.Set({"config.read"});
   Show();
   ASSERT_FALSE(notes.lines.empty());
   EXPECT_TRUE(notes.lines[0].starts_with("message ")) << notes.lines[0];
   EXPECT_FALSE(Button("Apply").isEnabled());
+}
+
+TEST_F(SettingsPage, AFailureThatCannotEvenBeToldClosesNothing) {
+  Show();
+  Click(Box("ClearOrd"));
+  host.Data().faults.Set({"config.store", "message.text"});
+  Click(Button("OK"));
+  EXPECT_TRUE(notes.lines.empty());
+  EXPECT_TRUE(page.isVisible());
+  EXPECT_TRUE(Button("Apply").isEnabled());
 }
 
 TEST_F(SettingsPage, ChangesLanguageWhileOpenAndKeepsWhatWasChanged) {

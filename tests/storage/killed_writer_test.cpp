@@ -29,7 +29,7 @@ struct TKilledWriter : TStorageTest {
   void WriteUntilKilled() {
     TKilledProgram writer("algo-killed-writer", file);
     const bool opening = random() % 3 == 0;
-    auto linesToWaitFor = opening ? 0 : 1 + random() % 32;
+    auto linesToWaitFor = opening ? 0 : 1 + random() % 24;
     const auto microseconds = random() % (opening ? 30000 : 3000);
     while (linesToWaitFor-- > 0) {
       const auto line = writer.Line();

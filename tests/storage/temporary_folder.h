@@ -2,8 +2,7 @@
 
 // A folder for the files of one test, gone with all that is in it when the test ends.
 
-#include <stdlib.h>
-
+#include <cstdlib>
 #include <filesystem>
 #include <fstream>
 #include <iterator>
