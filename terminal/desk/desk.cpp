@@ -49,12 +49,13 @@ TDesk::TDesk(const TDeskOptions& options)
       FKeeper(DatabaseIn(options.dataFolder)),
       FHost(FEvents, FKeeper),
       FMarket(FHost, FTables, PricesFor(options, FTables)),
-      FEngine(FHost, FMarket, options.seed),
       FAids(FEvents, FHost, FTables, FTexts) {
   FillSampleUser(FHost.Data());
+  FillFirstSettings(FHost.Data());
   FillMarketLists(FHost.Data(), FTables);
   FTexts.FillInto(FHost.Data());
   FKeeper.LoadInto(FHost.Data(), FHost.Orders());
+  FEngine.emplace(FHost, FMarket, options.seed);
   SetSkin(*FSkin);
   forms::TToolkit::Install(&FToolkit);
   connect(&FEvents, &TDeskEvents::ModalFormCame, this, [this](const forms::TDialogForm& form) {
@@ -107,7 +108,7 @@ void TDesk::Start() {
 
 void TDesk::Step(double seconds) {
   FMarket.Advance(seconds);
-  FEngine.Advance(Now(), seconds);
+  FEngine->Advance(Now(), seconds);
 }
 
 void TDesk::StepByClock() {
@@ -117,7 +118,7 @@ void TDesk::StepByClock() {
 }
 
 void TDesk::Cancel(const host::TCustomClientOrder& order) {
-  FEngine.Cancel(order.key, FHost.Data().profile.user);
+  FEngine->Cancel(order.key, FHost.Data().profile.user);
 }
 
 }  // namespace algo::terminal

@@ -7,6 +7,7 @@
 #include <QObject>
 #include <QTimer>
 #include <memory>
+#include <optional>
 #include <set>
 #include <string>
 #include <string_view>
@@ -18,6 +19,7 @@
 #include "terminal/desk/texts.h"
 #include "terminal/drive/loaded_module.h"
 #include "terminal/host/memory_host.h"
+#include "terminal/paper/market_tables.h"
 #include "terminal/paper/paper_engine.h"
 #include "terminal/paper/paper_market.h"
 #include "terminal/render/qt_toolkit.h"
@@ -75,7 +77,7 @@ class TDesk final : public QObject {
   TSqliteKeeper FKeeper;
   TMemoryHost FHost;
   TPaperMarket FMarket;
-  TPaperEngine FEngine;
+  std::optional<TPaperEngine> FEngine;  ///< made when the orders are there that it takes over
   TDeskAids FAids;
   std::unique_ptr<TLoadedModule> FModule;
   std::set<host::TInstanceHandle> FViews;  ///< those that a change of language is told to

@@ -21,7 +21,10 @@ const TMarketColumn& ColumnAt(const QModelIndex& index) {
   return MarketColumns[static_cast<std::size_t>(index.column())];
 }
 
-bool IsNumber(const TMarketColumn& column) { return column.field != 0; }
+QVariant AlignmentOf(const TMarketColumn& column) {
+  const bool isNumber = column.field != 0;
+  return QVariant((isNumber ? Qt::AlignRight : Qt::AlignLeft) | Qt::AlignVCenter);
+}
 
 /// With all decimals, so that the points of a column stand below each other.
 QString FixedNumber(double value, int decimals) { return QString::number(value, 'f', decimals); }
@@ -71,15 +74,17 @@ int TMarketModel::columnCount(const QModelIndex& parent) const {
 QVariant TMarketModel::data(const QModelIndex& index, int role) const {
   if (!index.isValid()) return {};
   if (role == Qt::TextAlignmentRole) {
-    return QVariant((IsNumber(ColumnAt(index)) ? Qt::AlignRight : Qt::AlignLeft) | Qt::AlignVCenter);
+    return AlignmentOf(ColumnAt(index));
   }
   if (role != Qt::DisplayRole && role != Qt::ToolTipRole) return {};
   return TextOf(FRows[static_cast<std::size_t>(index.row())], static_cast<std::size_t>(index.column()));
 }
 
 QVariant TMarketModel::headerData(int section, Qt::Orientation orientation, int role) const {
-  if (orientation != Qt::Horizontal || role != Qt::DisplayRole) return {};
-  return FTexts.Desk(MarketColumns[static_cast<std::size_t>(section)].textKey);
+  if (orientation != Qt::Horizontal) return {};
+  const TMarketColumn& column = MarketColumns[static_cast<std::size_t>(section)];
+  if (role == Qt::TextAlignmentRole) return AlignmentOf(column);
+  return role == Qt::DisplayRole ? FTexts.Desk(column.textKey) : QVariant();
 }
 
 Qt::ItemFlags TMarketModel::flags(const QModelIndex& index) const {

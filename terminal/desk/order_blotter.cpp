@@ -4,7 +4,7 @@
 #include <QHBoxLayout>
 #include <QHeaderView>
 #include <QMenu>
-#include <QToolButton>
+#include <QRadioButton>
 #include <QVBoxLayout>
 #include <array>
 
@@ -108,11 +108,9 @@ QWidget& TOrderBlotter::MakeFilterRow() {
   auto* row = new QHBoxLayout(&bar);
   row->setContentsMargins(4, 2, 4, 0);
   for (const TShownRow& shown : ShownRows) {
-    auto* button = new QToolButton(&bar);
+    auto* button = new QRadioButton(&bar);
     button->setObjectName(shown.name);
-    button->setCheckable(true);
     button->setChecked(shown.shown == TOrdersShown::All);
-    button->setFocusPolicy(Qt::StrongFocus);
     FShown.addButton(button, static_cast<int>(shown.shown));
     row->addWidget(button);
   }

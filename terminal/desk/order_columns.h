@@ -14,7 +14,8 @@ namespace algo::terminal {
 struct TOrderColumn {
   const char* textKey;
   std::int32_t width;  ///< in characters
-  /// The value of the order in that column: a number, or a text.
+  bool isNumber;
+  /// The value of the order in that column: a number or nothing, or else a text.
   QVariant (*value)(const host::TCustomClientOrder& order, const TTexts& texts);
 };
 

@@ -10,10 +10,12 @@ namespace {
 
 const TOrderColumn& ColumnAt(int column) { return OrderColumns()[static_cast<std::size_t>(column)]; }
 
-bool IsNumber(const QVariant& value) { return value.typeId() == QMetaType::Double; }
+QVariant AlignmentOf(const TOrderColumn& column) {
+  return QVariant((column.isNumber ? Qt::AlignRight : Qt::AlignLeft) | Qt::AlignVCenter);
+}
 
 QString ShownText(const QVariant& value, int column) {
-  if (!IsNumber(value)) return value.toString();
+  if (value.isNull() || !ColumnAt(column).isNumber) return value.toString();
   if (column == ProgressColumn()) return ToQt(text::GroupedNumber(value.toDouble() * 100, 0)) + "%";
   constexpr std::int32_t Decimals = 4;
   return ToQt(text::GroupedNumber(value.toDouble(), Decimals));
@@ -60,25 +62,25 @@ int TOrderModel::columnCount(const QModelIndex& /*parent*/) const {
 QVariant TOrderModel::data(const QModelIndex& index, int role) const {
   if (!index.isValid()) return {};
   const TNode& node = NodeAt(index);
-  const int column = index.column();
-  if (role != Qt::DisplayRole && role != ValueRole && role != Qt::TextAlignmentRole &&
-      role != Qt::ToolTipRole)
-    return {};
-  const QVariant value = ColumnAt(column).value(*node.order, FTexts);
+  const TOrderColumn& column = ColumnAt(index.column());
   switch (role) {
+    case Qt::DisplayRole:
+    case Qt::ToolTipRole:
+      return ShownText(column.value(*node.order, FTexts), index.column());
+    case Qt::TextAlignmentRole:
+      return AlignmentOf(column);
     case ValueRole:
       // Numbers of orders are texts, of which "N10" would come before "N2".
-      return column == 0 ? QVariant(node.arrival) : value;
-    case Qt::TextAlignmentRole:
-      return QVariant((IsNumber(value) ? Qt::AlignRight : Qt::AlignLeft) | Qt::AlignVCenter);
+      return index.column() == 0 ? QVariant(node.arrival) : column.value(*node.order, FTexts);
     default:
-      return ShownText(value, column);
+      return {};
   }
 }
 
 QVariant TOrderModel::headerData(int section, Qt::Orientation orientation, int role) const {
-  if (orientation != Qt::Horizontal || role != Qt::DisplayRole) return {};
-  return FTexts.Desk(ColumnAt(section).textKey);
+  if (orientation != Qt::Horizontal) return {};
+  if (role == Qt::TextAlignmentRole) return AlignmentOf(ColumnAt(section));
+  return role == Qt::DisplayRole ? FTexts.Desk(ColumnAt(section).textKey) : QVariant();
 }
 
 void TOrderModel::Follow(const host::TCustomClientOrder& order) {

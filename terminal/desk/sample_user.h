@@ -10,4 +10,7 @@ namespace algo::terminal {
 /// Puts profile, rights and accounts into the data.
 void FillSampleUser(THostData& data);
 
+/// Puts the settings into the data with which a new user begins.
+void FillFirstSettings(THostData& data);
+
 }  // namespace algo::terminal

@@ -57,7 +57,9 @@ struct TDeskTest : testing::Test {
   static QWidget& Input(TFrameView& view, const char* control) {
     return view.Find(*view.Frame()->FindControl(control))->Input();
   }
-  static std::string Text(TFrameView& view, const char* control) { return view.Frame()->FindControl(control)->Text(); }
+  static std::string Text(TFrameView& view, const char* control) {
+    return view.Frame()->FindControl(control)->Text();
+  }
 
   static void Click(QWidget& widget) { QTest::mouseClick(&widget, Qt::LeftButton); }
 

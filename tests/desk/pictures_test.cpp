@@ -19,6 +19,8 @@ TEST_F(TPictures, OfTheMainWindow) {
   if (!qEnvironmentVariableIsSet("ALGO_PICTURES")) GTEST_SKIP() << "ALGO_PICTURES names no folder";
   Open();
   for (int i = 0; i < 200; ++i) desk->Step(1);
+  window->resize(1400, 860);
+  Entry().Fit();
   FillEntry(Entry().View());
   for (const TSkin& skin : Skins) {
     desk->SetSkin(skin);
