@@ -19,9 +19,10 @@ void TMessageBoxes::CloseAll() {
 
 void TMessageBoxes::ShowNext() {
   if (FBox || FWaiting.isEmpty()) return;
-  // In front of whatever the trader works in, a dialog for one; but owned here, since that may go first.
+  // In front of the dialog that the trader works in, and gone with it.
+  QWidget* dialog = QApplication::activeModalWidget();
   FBox = new QMessageBox(QMessageBox::Information, FWindow.windowTitle(), FWaiting.takeFirst(),
-                         QMessageBox::Ok, &FWindow);
+                         QMessageBox::Ok, dialog != nullptr ? dialog : &FWindow);
   FBox->setObjectName("messageBox");
   FBox->setAccessibleName(FBox->text());
   FBox->setTextFormat(Qt::PlainText);
