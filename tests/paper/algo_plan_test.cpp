@@ -7,7 +7,8 @@ namespace {
 
 TEST(AlgoPlan, EveryFigureIsRead) {
   const auto plan = ReadAlgoPlan(
-      "TMLO:AlgoId=VWAP,STime=20261120-09:30:00,ETime=20261120-15:00:05,WPx=10.5,VolPct=1,MaxVolPct=2,OpenPct=3,"
+      "TMLO:AlgoId=VWAP,STime=20261120-09:30:00,ETime=20261120-15:00:05,WPx=10.5,VolPct=1,MaxVolPct=2,"
+      "OpenPct=3,"
       "ClosePct=4,Waves=5,ThrPx1=6,ThrVolPct1=7,ThrPx2=8,ThrVolPct2=9,ShowQty=11,MaxShowQty=12,RandPct=13,"
       "StopLossPx=14,StopQty=15,Ref=16,TickDiff=-17,DiffPct=-18.5,MinQty=19,ServePct=20;");
   ASSERT_TRUE(plan);
@@ -53,11 +54,11 @@ TEST(AlgoPlan, KeysWithoutUseArePassedOverAndTheLastOfTwoHolds) {
 }
 
 TEST(AlgoPlan, WhatIsNoParameterTextIsNothing) {
-  for (const char* text : {"", ";", "TMLO:", "TMLO:;", "AlgoId=TVOL;", "TMLO:AlgoId=TVOL", "TMXO:AlgoId=TVOL;",
-                           "TMLO:AlgoId=;", "TMLO:VolPct=5;", "TMLO:AlgoId=TVOL,;", "TMLO:AlgoId=TVOL,VolPct;",
-                           "TMLO:AlgoId=TVOL,VolPct=;", "TMLO:AlgoId=TVOL,VolPct=much;",
-                           "TMLO:AlgoId=TVOL,STime=soon;", "TMLO:AlgoId=TVOL,ETime=20260230-09:30:00;",
-                           "TMLO:AlgoId=TVOL,VolPct=1e999;"}) {
+  for (const char* text :
+       {"", ";", "TMLO:", "TMLO:;", "AlgoId=TVOL;", "TMLO:AlgoId=TVOL", "TMXO:AlgoId=TVOL;", "TMLO:AlgoId=;",
+        "TMLO:VolPct=5;", "TMLO:AlgoId=TVOL,;", "TMLO:AlgoId=TVOL,VolPct;", "TMLO:AlgoId=TVOL,VolPct=;",
+        "TMLO:AlgoId=TVOL,VolPct=much;", "TMLO:AlgoId=TVOL,STime=soon;",
+        "TMLO:AlgoId=TVOL,ETime=20260230-09:30:00;", "TMLO:AlgoId=TVOL,VolPct=1e999;"}) {
     EXPECT_FALSE(ReadAlgoPlan(text)) << text;
   }
 }

@@ -10,7 +10,9 @@ namespace {
 using tests::At;
 
 std::string Shown(const TWindow& window) {
-  const auto text = [](TMoment moment) { return text::DateTimeText(std::chrono::floor<std::chrono::seconds>(moment)); };
+  const auto text = [](TMoment moment) {
+    return text::DateTimeText(std::chrono::floor<std::chrono::seconds>(moment));
+  };
   return text(window.begin) + " to " + text(window.end);
 }
 
