@@ -23,6 +23,8 @@ TFrameView::TFrameView(const std::shared_ptr<forms::TFrame>& frame, const TEdito
 }
 
 TFrameView::~TFrameView() {
+  // The widgets that go with the view give the focus away while they do.
+  disconnect(qApp, nullptr, this, nullptr);
   if (const auto frame = FInput.Frame()) frame->RemoveObserver(*this);
 }
 
