@@ -25,6 +25,8 @@ void TMemoryForm::Hidden() {
 
 void TMemoryForm::CalledToFront() { FEvents.FormBroughtToFront(*this); }
 
+void TMemoryForm::LooksChanged() { FEvents.FormLooksChanged(*this); }
+
 std::shared_ptr<forms::TDialogForm> TMemoryViewService::MakeDialogForm(host::TIBaseView& /*provider*/) {
   FHost.Check("form.make");
   return std::make_shared<TMemoryForm>(FHost.events, FShown);

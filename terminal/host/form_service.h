@@ -24,6 +24,7 @@ class TMemoryForm final : public forms::TDialogForm {
   void Shown() override;
   void Hidden() override;
   void CalledToFront() override;
+  void LooksChanged() override;
 
  private:
   THostEvents& FEvents;

@@ -4,4 +4,6 @@ namespace algo::terminal {
 
 THostEvents::~THostEvents() = default;
 
+void THostEvents::FormLooksChanged(forms::TDialogForm& /*form*/) {}
+
 }  // namespace algo::terminal

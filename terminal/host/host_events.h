@@ -54,6 +54,10 @@ class THostEvents {
   virtual void FormBroughtToFront(forms::TDialogForm& form) = 0;
   virtual void FormClosed(forms::TDialogForm& form) = 0;
 
+  /// Caption, client size or stay-on-top of a form changed, whether it shows or not. A host without windows
+  /// has no use for it.
+  virtual void FormLooksChanged(forms::TDialogForm& form);
+
   /// Plays the trader while the form shows modally. Must give the form a modal result before it returns.
   virtual void RunModal(forms::TDialogForm& form) = 0;
 };

@@ -76,8 +76,10 @@ void TMemoryOrderActionManager::CarryOut(const host::TCustomClientOrder& order, 
       return FLedger.Record(event, AsNewOrder(order, orders.NextFreeKey()));
     case host::TOrderAction::Change:
       // An order that is not the host's own was accepted for somebody else to carry out.
-      if (orders.Find(order.key) == nullptr) return FLedger.Note(event, order);
-      return FLedger.Record(event, order);
+      if (const auto* stored = orders.Find(order.key)) {
+        return FLedger.Record(event, AsChangedOrder(*stored, order));
+      }
+      return FLedger.Note(event, order);
     case host::TOrderAction::Work:
       return FLedger.Record(event, AsChildOrder(order, orders.NextFreeKey()));
   }

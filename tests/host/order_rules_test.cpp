@@ -52,6 +52,32 @@ TEST(OrderRules, AChildIsCutFromItsParent) {
   EXPECT_EQ(child.TextProperty(440), "text");
 }
 
+TEST(OrderRules, AChildHasNoAveragePriceYet) {
+  auto parent = Parent();
+  parent.SetNamedText("AveragePrice", "60.5");
+  EXPECT_EQ(AsChildOrder(parent, "N1").NamedText("AveragePrice"), "");
+}
+
+TEST(OrderRules, AChangeTakesBackNothingThatTheMarketDid) {
+  auto stored = Parent();
+  stored.SetNamedText("AveragePrice", "60.5");
+  auto wanted = Parent();
+  wanted.quantity = 1200;
+  wanted.price = 61;
+  wanted.filled = 100;
+  wanted.status = 1;
+  wanted.SetNamedText("AveragePrice", "60");
+  wanted.SetTextProperty(440, "other text");
+  const auto changed = AsChangedOrder(stored, wanted);
+  EXPECT_EQ(changed.key, "K1");
+  EXPECT_EQ(changed.quantity, 1200);
+  EXPECT_EQ(changed.price, 61);
+  EXPECT_EQ(changed.TextProperty(440), "other text");
+  EXPECT_EQ(changed.filled, 300);
+  EXPECT_EQ(changed.status, 2);
+  EXPECT_EQ(changed.NamedText("AveragePrice"), "60.5");
+}
+
 TEST(OrderStore, KeepsOrdersInTheirOrderAndFindsThemByKey) {
   TOrderStore store;
   const auto& b = store.Add(Keyed("b"));

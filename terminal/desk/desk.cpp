@@ -1,0 +1,124 @@
+#include "terminal/desk/desk.h"
+
+#include <QApplication>
+#include <QDateTime>
+#include <chrono>
+#include <filesystem>
+#include <system_error>
+
+#include "terminal/desk/market_lists.h"
+#include "terminal/desk/sample_user.h"
+#include "terminal/paper/generated_prices.h"
+#include "terminal/paper/recorded_prices.h"
+
+namespace algo::terminal {
+
+namespace {
+
+using namespace std::chrono_literals;
+
+constexpr auto StepPause = 100ms;
+
+/// The database file in the folder, which is made when it is not there.
+std::string DatabaseIn(const std::string& folder) {
+  std::error_code error;
+  std::filesystem::create_directories(folder, error);
+  if (error) {
+    throw EError("The data folder '" + folder + "' cannot be made: " + error.message() +
+                 ". Give one with --data in which you may write.");
+  }
+  return (std::filesystem::path(folder) / "algo-desk.db").string();
+}
+
+std::unique_ptr<TPriceSource> PricesFor(const TDeskOptions& options, const TMarketTables& tables) {
+  if (options.replayFile.empty()) return std::make_unique<TGeneratedPrices>(tables, options.seed);
+  return std::make_unique<TRecordedPrices>(LoadRecording(options.replayFile, tables), tables, options.speed);
+}
+
+text::TDateTime Now() {
+  const QDateTime now = QDateTime::currentDateTime();
+  return text::TDateTime(std::chrono::seconds(now.toSecsSinceEpoch() + now.offsetFromUtc()));
+}
+
+}  // namespace
+
+TDesk::TDesk(const TDeskOptions& options)
+    : FTexts(options.language.value_or(TLanguage::English)),
+      FSkin(options.skin != nullptr ? options.skin : &Skins.front()),
+      FTables(LoadMarketTables(options.marketFolder)),
+      FKeeper(DatabaseIn(options.dataFolder)),
+      FHost(FEvents, FKeeper),
+      FMarket(FHost, FTables, PricesFor(options, FTables)),
+      FAids(FEvents, FHost, FTables, FTexts) {
+  FillSampleUser(FHost.Data());
+  FillFirstSettings(FHost.Data());
+  FillMarketLists(FHost.Data(), FTables);
+  FTexts.FillInto(FHost.Data());
+  FKeeper.LoadInto(FHost.Data(), FHost.Orders());
+  FEngine.emplace(FHost, FMarket, options.seed);
+  SetSkin(*FSkin);
+  forms::TToolkit::Install(&FToolkit);
+  connect(&FEvents, &TDeskEvents::ModalFormCame, this, [this](const forms::TDialogForm& form) {
+    if (const auto view = std::dynamic_pointer_cast<host::TViewFrame>(form.Frame()))
+      FViews.insert(HandleOf(*view));
+  });
+  FModule = std::make_unique<TLoadedModule>(options.moduleFile, this);
+  connect(&FTimer, &QTimer::timeout, this, &TDesk::StepByClock);
+}
+
+TDesk::~TDesk() {
+  FTimer.stop();
+  FModule->DropProvider();
+  forms::TToolkit::Install(nullptr);
+}
+
+host::TInstanceHandle TDesk::OpenView() {
+  const host::TInstanceHandle instance = Provider().OpenNewInstance();
+  if (instance != 0) FViews.insert(instance);
+  return instance;
+}
+
+void TDesk::CloseView(host::TInstanceHandle instance) {
+  FViews.erase(instance);
+  Provider().CloseInstance(instance);
+}
+
+void TDesk::SetLanguage(TLanguage language) {
+  FTexts = TTexts(language);
+  FTexts.FillInto(FHost.Data());
+  const auto number = static_cast<std::int32_t>(language);
+  // The forms beside the views hear of it with any call, even for no view at all.
+  Provider().SetLanguage(0, number);
+  for (const host::TInstanceHandle view : FViews) Provider().SetLanguage(view, number);
+  emit LanguageChanged();
+}
+
+void TDesk::SetSkin(const TSkin& skin) {
+  FSkin = &skin;
+  ApplySkin(*qApp, skin);
+  skin.FillInto(FHost.Data());
+  FHost.TellSkinChanged(skin.name);
+  emit SkinChanged();
+}
+
+void TDesk::Start() {
+  FClock.start();
+  FTimer.start(StepPause);
+}
+
+void TDesk::Step(double seconds) {
+  FMarket.Advance(seconds);
+  FEngine->Advance(Now(), seconds);
+}
+
+void TDesk::StepByClock() {
+  const double seconds = static_cast<double>(FClock.restart()) / 1000;
+  // A failure would come again at the next step and bury the trader in messages.
+  if (!FEvents.Guard([&] { Step(seconds); })) FTimer.stop();
+}
+
+void TDesk::Cancel(const host::TCustomClientOrder& order) {
+  FEngine->Cancel(order.key, FHost.Data().profile.user);
+}
+
+}  // namespace algo::terminal

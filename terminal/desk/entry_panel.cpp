@@ -1,0 +1,54 @@
+#include "terminal/desk/entry_panel.h"
+
+#include <QMainWindow>
+
+#include "terminal/desk/price_drag.h"
+#include "terminal/render/qt_text.h"
+
+namespace algo::terminal {
+
+TEntryPanel::TEntryPanel(const QString& name, TDesk& desk, host::TInstanceHandle instance)
+    : TPanel(name, true),
+      FDesk(desk),
+      FInstance(instance),
+      FPane(*new TFramePane(desk.Provider().FindView(instance), desk.Aids())) {
+  setAttribute(Qt::WA_DeleteOnClose);
+  setAcceptDrops(true);
+  setWidget(&FPane);
+}
+
+TEntryPanel::~TEntryPanel() {
+  // The widgets go first, so that none of them asks a frame that is going away.
+  delete &FPane;
+  FDesk.CloseView(FInstance);
+}
+
+void TEntryPanel::ShowCaption(int number) {
+  std::string caption;
+  FDesk.Provider().GetDefaultCaption(caption);
+  if (number > 1) caption += ' ' + std::to_string(number);
+  SetCaption(ToQt(caption));
+  FPane.setAccessibleName(windowTitle());
+}
+
+void TEntryPanel::Fit() {
+  FPane.updateGeometry();
+  if (isFloating()) {
+    resize(FPane.sizeHint() + QSize(0, Title().sizeHint().height()));
+  } else if (auto* window = qobject_cast<QMainWindow*>(parentWidget())) {
+    window->resizeDocks({this}, {FPane.sizeHint().width()}, Qt::Horizontal);
+  }
+}
+
+void TEntryPanel::dragEnterEvent(QDragEnterEvent* event) {
+  if (DraggedPrice(*event->mimeData())) event->acceptProposedAction();
+}
+
+void TEntryPanel::dropEvent(QDropEvent* event) {
+  const auto dragged = DraggedPrice(*event->mimeData());
+  if (!dragged) return;
+  event->acceptProposedAction();
+  emit PriceDropped(dragged->symbol, dragged->price);
+}
+
+}  // namespace algo::terminal

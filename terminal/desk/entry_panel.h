@@ -1,0 +1,46 @@
+#pragma once
+
+// A panel with one view of the module in it. What is dragged out of the market watch can be dropped on it.
+
+#include <QDragEnterEvent>
+#include <QDropEvent>
+#include <memory>
+#include <string>
+
+#include "terminal/desk/desk.h"
+#include "terminal/desk/frame_pane.h"
+#include "terminal/desk/panel.h"
+
+namespace algo::terminal {
+
+class TEntryPanel final : public TPanel {
+  Q_OBJECT
+ public:
+  /// Shows an open view of the module, which it closes when it is closed itself. The desk outlives the panel.
+  TEntryPanel(const QString& name, TDesk& desk, host::TInstanceHandle instance);
+  ~TEntryPanel() override;
+
+  host::TInstanceHandle Instance() const { return FInstance; }
+  TFrameView& View() { return FPane.View(); }
+
+  /// The caption that the provider gives its views, with the number of the panel where it is not the first.
+  void ShowCaption(int number);
+
+  /// Takes the size that the frame wants now: a floating panel all of it, a docked one the width.
+  void Fit();
+
+ signals:
+  /// The trader dropped a line of the market watch.
+  void PriceDropped(const std::string& symbol, double price);
+
+ protected:
+  void dragEnterEvent(QDragEnterEvent* event) override;
+  void dropEvent(QDropEvent* event) override;
+
+ private:
+  TDesk& FDesk;
+  const host::TInstanceHandle FInstance;
+  TFramePane& FPane;
+};
+
+}  // namespace algo::terminal

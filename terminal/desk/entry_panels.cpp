@@ -1,0 +1,94 @@
+#include "terminal/desk/entry_panels.h"
+
+#include <algorithm>
+
+#include "terminal/render/qt_text.h"
+
+namespace algo::terminal {
+
+TEntryPanels::TEntryPanels(TDesk& desk, QMainWindow& window) : FDesk(desk), FWindow(window) {
+  connect(&desk.Events(), &TDeskEvents::ViewChanged, this, [this](const host::TViewFrame& view) {
+    for (TEntryPanel* panel : FPanels) {
+      if (panel->Instance() == host::HandleOf(view)) panel->Fit();
+    }
+  });
+}
+
+TEntryPanels::~TEntryPanels() { CloseAll(); }
+
+TEntryPanel* TEntryPanels::Open() {
+  TEntryPanel* panel = Make(FreeName());
+  if (panel == nullptr) return nullptr;
+  // Beside the last one as a tab, so that the others keep their room.
+  if (FPanels.size() > 1) FWindow.tabifyDockWidget(FPanels[FPanels.size() - 2], panel);
+  panel->Fit();
+  panel->show();
+  panel->raise();
+  return panel;
+}
+
+TEntryPanel* TEntryPanels::Restore(const TKeptEntry& kept) {
+  TEntryPanel* panel = Make(ToQt(kept.name));
+  if (panel == nullptr) return nullptr;
+  if (panel->Title().SetGroup(kept.group)) FDesk.Provider().SetGroupID(panel->Instance(), kept.group);
+  FDesk.Provider().SetLayoutData(panel->Instance(), kept.layout);
+  return panel;
+}
+
+std::vector<TKeptEntry> TEntryPanels::Kept() const {
+  std::vector<TKeptEntry> kept;
+  for (const TEntryPanel* panel : FPanels) {
+    kept.push_back({FromQt(panel->objectName()), panel->Title().Group(),
+                    FDesk.Provider().GetLayoutData(panel->Instance())});
+  }
+  return kept;
+}
+
+void TEntryPanels::CloseAll() {
+  while (!FPanels.empty()) delete FPanels.back();
+}
+
+void TEntryPanels::Retranslate() {
+  for (TEntryPanel* panel : FPanels) panel->Title().Retranslate(FDesk.Texts());
+  ShowCaptions();
+}
+
+void TEntryPanels::ShowSkin() {
+  for (TEntryPanel* panel : FPanels) panel->Title().ShowSkin(FDesk.Skin());
+}
+
+TEntryPanel* TEntryPanels::Make(const QString& name) {
+  const host::TInstanceHandle instance = FDesk.OpenView();
+  if (instance == 0) return nullptr;
+  auto* panel = new TEntryPanel(name, FDesk, instance);
+  FPanels.push_back(panel);
+  panel->Title().Retranslate(FDesk.Texts());
+  panel->Title().ShowSkin(FDesk.Skin());
+  FWindow.addDockWidget(Qt::LeftDockWidgetArea, panel);
+  ShowCaptions();
+  connect(&panel->Title(), &TDockTitle::GroupChosen, this, [this, panel] {
+    FDesk.Events().Guard([&] { FDesk.Provider().SetGroupID(panel->Instance(), panel->Title().Group()); });
+  });
+  connect(panel, &TEntryPanel::PriceDropped, this, &TEntryPanels::PriceDropped);
+  connect(panel, &QObject::destroyed, this, [this, panel] {
+    std::erase(FPanels, panel);
+    ShowCaptions();
+  });
+  return panel;
+}
+
+void TEntryPanels::ShowCaptions() {
+  int number = 0;
+  for (TEntryPanel* panel : FPanels) panel->ShowCaption(++number);
+}
+
+QString TEntryPanels::FreeName() const {
+  for (int number = 1;; ++number) {
+    QString name = "entry" + QString::number(number);
+    const bool taken = std::any_of(FPanels.begin(), FPanels.end(),
+                                   [&name](const TEntryPanel* panel) { return panel->objectName() == name; });
+    if (!taken) return name;
+  }
+}
+
+}  // namespace algo::terminal

@@ -1,0 +1,50 @@
+#pragma once
+
+// The entry views that are open in the main window.
+
+#include <QMainWindow>
+#include <QObject>
+#include <string>
+#include <vector>
+
+#include "terminal/desk/desk.h"
+#include "terminal/desk/entry_panel.h"
+#include "terminal/desk/workspace.h"
+
+namespace algo::terminal {
+
+class TEntryPanels final : public QObject {
+  Q_OBJECT
+ public:
+  /// Both outlive the object.
+  TEntryPanels(TDesk& desk, QMainWindow& window);
+  ~TEntryPanels() override;
+
+  /// Opens another view, beside those that are open; nullptr, with the trader told why, when that fails.
+  TEntryPanel* Open();
+
+  /// Opens a view as it was kept. A part of it that cannot be restored stays as in a new view.
+  TEntryPanel* Restore(const TKeptEntry& kept);
+
+  /// What is open, to be kept.
+  std::vector<TKeptEntry> Kept() const;
+
+  void CloseAll();
+
+  void Retranslate();
+  void ShowSkin();
+
+ signals:
+  void PriceDropped(const std::string& symbol, double price);
+
+ private:
+  TEntryPanel* Make(const QString& name);
+  void ShowCaptions();
+  QString FreeName() const;
+
+  TDesk& FDesk;
+  QMainWindow& FWindow;
+  std::vector<TEntryPanel*> FPanels;
+};
+
+}  // namespace algo::terminal

@@ -1,0 +1,46 @@
+// algo-desk: a desktop trading terminal around the algo order entry module, trading on paper.
+
+#include <QApplication>
+#include <QMessageBox>
+#include <exception>
+#include <iostream>
+
+#include "terminal/desk/desk_arguments.h"
+#include "terminal/desk/display.h"
+#include "terminal/desk/main_window.h"
+#include "terminal/render/qt_text.h"
+
+namespace {
+
+constexpr int CannotStart = 1;
+
+int Run(const algo::terminal::TDeskOptions& options) {
+  algo::terminal::TDesk desk(options);
+  algo::terminal::TMainWindow window(desk);
+  window.RestoreWorkspace(options);
+  window.show();
+  desk.Start();
+  return QApplication::exec();
+}
+
+}  // namespace
+
+int main(int argc, char** argv) {
+  using namespace algo::terminal;
+  // Names the folder in which the platform keeps data of this program.
+  QCoreApplication::setApplicationName("algo-desk");
+  const TDeskArguments arguments = ReadDeskArguments(argc, argv);
+  if (!arguments.options) return arguments.status;
+  if (!HasWindowSystem()) {
+    std::cerr << "algo-desk: there is no display to show windows on; start it in a desktop session\n";
+    return CannotStart;
+  }
+  QApplication application(argc, argv);
+  try {
+    return Run(*arguments.options);
+  } catch (const std::exception& error) {
+    std::cerr << "algo-desk: " << error.what() << '\n';
+    if (SomebodyLooks()) QMessageBox::critical(nullptr, "Algo Desk", ToQt(error.what()));
+    return CannotStart;
+  }
+}

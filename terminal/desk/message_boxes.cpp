@@ -1,0 +1,35 @@
+#include "terminal/desk/message_boxes.h"
+
+#include <QApplication>
+
+namespace algo::terminal {
+
+TMessageBoxes::TMessageBoxes(QWidget& window) : FWindow(window) {}
+
+void TMessageBoxes::Show(const QString& text) {
+  if (FWaiting.contains(text) || (FBox && FBox->text() == text)) return;
+  FWaiting.append(text);
+  ShowNext();
+}
+
+void TMessageBoxes::CloseAll() {
+  FWaiting.clear();
+  delete FBox.data();
+}
+
+void TMessageBoxes::ShowNext() {
+  if (FBox || FWaiting.isEmpty()) return;
+  // In front of whatever the trader works in, a dialog for one; but owned here, since that may go first.
+  FBox = new QMessageBox(QMessageBox::Information, FWindow.windowTitle(), FWaiting.takeFirst(),
+                         QMessageBox::Ok, &FWindow);
+  FBox->setObjectName("messageBox");
+  FBox->setAccessibleName(FBox->text());
+  FBox->setTextFormat(Qt::PlainText);
+  FBox->setAttribute(Qt::WA_DeleteOnClose);
+  FBox->setWindowModality(Qt::ApplicationModal);
+  // Later, since the box may be going with the dialog that it belongs to.
+  connect(FBox, &QObject::destroyed, this, &TMessageBoxes::ShowNext, Qt::QueuedConnection);
+  FBox->show();
+}
+
+}  // namespace algo::terminal

@@ -1,0 +1,165 @@
+#include "terminal/desk/order_blotter.h"
+
+#include <QContextMenuEvent>
+#include <QHBoxLayout>
+#include <QHeaderView>
+#include <QMenu>
+#include <QRadioButton>
+#include <QVBoxLayout>
+#include <array>
+
+#include "terminal/desk/order_columns.h"
+#include "terminal/desk/progress_delegate.h"
+#include "terminal/host/order_status.h"
+
+namespace algo::terminal {
+
+namespace {
+
+struct TShownRow {
+  TOrdersShown shown;
+  const char* name;
+  const char* textKey;
+};
+constexpr std::array ShownRows{TShownRow{TOrdersShown::All, "showAll", "All"},
+                               TShownRow{TOrdersShown::Open, "showOpen", "Open"},
+                               TShownRow{TOrdersShown::Done, "showDone", "Done"}};
+
+struct TCommandRow {
+  TOrderCommand command;
+  const char* name;
+  const char* textKey;
+};
+constexpr std::array CommandRows{TCommandRow{TOrderCommand::Change, "changeOrder", "Change…"},
+                                 TCommandRow{TOrderCommand::Work, "workOrder", "Work…"},
+                                 TCommandRow{TOrderCommand::Copy, "copyOrder", "Copy to entry"},
+                                 TCommandRow{TOrderCommand::Cancel, "cancelOrder", "Cancel order"}};
+
+}  // namespace
+
+TOrderBlotter::TOrderBlotter(TMemoryHost& host, const TTexts& texts)
+    : TPanel("orders", true),
+      FTexts(texts),
+      FOrders(host, texts),
+      FFilter(FOrders),
+      FTree(*new QTreeView),
+      FShown(*new QButtonGroup(this)),
+      FText(*new QLineEdit) {
+  FTree.setObjectName("orderTree");
+  FTree.setModel(&FFilter);
+  FTree.setItemDelegateForColumn(ProgressColumn(), new TProgressDelegate(&FTree));
+  FTree.setUniformRowHeights(true);
+  FTree.setAlternatingRowColors(true);
+  FTree.setAllColumnsShowFocus(true);
+  FTree.setSortingEnabled(true);
+  FTree.sortByColumn(0, Qt::DescendingOrder);
+  FTree.installEventFilter(this);
+  FTree.viewport()->installEventFilter(this);
+  FTree.header()->setStretchLastSection(true);
+  FNote = new TEmptyNote(FTree);
+  FitColumns();
+
+  auto* content = new QWidget;
+  auto* column = new QVBoxLayout(content);
+  column->setContentsMargins(0, 0, 0, 0);
+  column->setSpacing(2);
+  column->addWidget(&MakeFilterRow());
+  column->addWidget(&FTree);
+  setWidget(content);
+
+  connect(&FTree, &QTreeView::doubleClicked, this, [this] { Choose(TOrderCommand::Copy); });
+  // A child that comes in is news, so it is not left folded away.
+  connect(&FFilter, &QAbstractItemModel::rowsInserted, this,
+          [this](const QModelIndex& parent) { FTree.expand(parent); });
+  FTree.expandAll();
+  Retranslate();
+}
+
+void TOrderBlotter::Retranslate() {
+  SetCaption(FTexts.Desk("Orders"));
+  Title().Retranslate(FTexts);
+  FTree.setAccessibleName(FTexts.Desk("Orders"));
+  FNote->setText(FTexts.Desk("No orders yet"));
+  FText.setPlaceholderText(FTexts.Desk("Filter"));
+  FText.setAccessibleName(FTexts.Desk("Filter"));
+  for (const TShownRow& row : ShownRows) {
+    auto& button = *FShown.button(static_cast<int>(row.shown));
+    button.setText(FTexts.Desk(row.textKey));
+    button.setAccessibleName(button.text());
+  }
+  FOrders.Retranslate();
+}
+
+bool TOrderBlotter::IsOffered(TOrderCommand command, const host::TCustomClientOrder& order) {
+  switch (command) {
+    case TOrderCommand::Change:
+    case TOrderCommand::Cancel:
+      return !IsDone(order.status);
+    case TOrderCommand::Work:
+      return !IsDone(order.status) && (order.flags & host::WorkParentMark) != 0;
+    case TOrderCommand::Copy:
+      break;
+  }
+  return true;
+}
+
+QWidget& TOrderBlotter::MakeFilterRow() {
+  auto& bar = *new QWidget;
+  auto* row = new QHBoxLayout(&bar);
+  row->setContentsMargins(4, 2, 4, 0);
+  for (const TShownRow& shown : ShownRows) {
+    auto* button = new QRadioButton(&bar);
+    button->setObjectName(shown.name);
+    button->setChecked(shown.shown == TOrdersShown::All);
+    FShown.addButton(button, static_cast<int>(shown.shown));
+    row->addWidget(button);
+  }
+  FText.setObjectName("orderFilter");
+  FText.setClearButtonEnabled(true);
+  row->addWidget(&FText, 1);
+  connect(&FShown, &QButtonGroup::idClicked, this,
+          [this](int id) { FFilter.Show(static_cast<TOrdersShown>(id)); });
+  connect(&FText, &QLineEdit::textChanged, &FFilter, &TOrderFilter::ShowText);
+  return bar;
+}
+
+void TOrderBlotter::FitColumns() {
+  const int character = FTree.fontMetrics().averageCharWidth();
+  int place = 0;
+  for (const TOrderColumn& column : OrderColumns())
+    FTree.setColumnWidth(place++, (column.width + 2) * character);
+}
+
+bool TOrderBlotter::eventFilter(QObject* watched, QEvent* event) {
+  if (event->type() != QEvent::ContextMenu) return TPanel::eventFilter(watched, event);
+  const auto& asked = *static_cast<QContextMenuEvent*>(event);
+  // By key the menu is for the current row; by mouse for the row below the mouse, or for none.
+  const bool byKey = asked.reason() == QContextMenuEvent::Keyboard;
+  const QModelIndex row = byKey ? FTree.currentIndex() : FTree.indexAt(asked.pos());
+  if (row.isValid()) OpenMenu(row, byKey ? FTree.visualRect(row).center() : asked.pos());
+  return true;
+}
+
+void TOrderBlotter::OpenMenu(const QModelIndex& row, const QPoint& where) {
+  const host::TCustomClientOrder* order = FFilter.OrderAt(row);
+  auto* menu = new QMenu(this);
+  menu->setObjectName("orderMenu");
+  menu->setAttribute(Qt::WA_DeleteOnClose);
+  for (const TCommandRow& entry : CommandRows) {
+    const bool offered = IsOffered(entry.command, *order);
+    if (entry.command == TOrderCommand::Work && !offered) continue;
+    QAction* action = menu->addAction(FTexts.Desk(entry.textKey));
+    action->setObjectName(entry.name);
+    action->setEnabled(offered);
+    connect(action, &QAction::triggered, this, [this, command = entry.command] { Choose(command); });
+  }
+  menu->popup(FTree.viewport()->mapToGlobal(where));
+}
+
+void TOrderBlotter::Choose(TOrderCommand command) {
+  const host::TCustomClientOrder* order = FFilter.OrderAt(FTree.currentIndex());
+  // The order may have been filled while the menu was open.
+  if (order != nullptr && IsOffered(command, *order)) emit Commanded(command, *order);
+}
+
+}  // namespace algo::terminal

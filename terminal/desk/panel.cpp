@@ -1,0 +1,17 @@
+#include "terminal/desk/panel.h"
+
+namespace algo::terminal {
+
+TPanel::TPanel(const QString& name, bool linked) : FTitle(*new TDockTitle(*this, linked)) {
+  setObjectName(name);
+  setTitleBarWidget(&FTitle);
+  setAllowedAreas(Qt::AllDockWidgetAreas);
+  toggleViewAction()->setObjectName("show_" + name);
+}
+
+void TPanel::SetCaption(const QString& caption) {
+  setWindowTitle(caption);
+  setAccessibleName(caption);
+}
+
+}  // namespace algo::terminal

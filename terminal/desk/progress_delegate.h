@@ -1,0 +1,17 @@
+#pragma once
+
+// Draws a filled part, from 0 to 1, as a bar with its percentage.
+
+#include <QStyledItemDelegate>
+
+namespace algo::terminal {
+
+class TProgressDelegate final : public QStyledItemDelegate {
+  Q_OBJECT
+ public:
+  using QStyledItemDelegate::QStyledItemDelegate;
+
+  void paint(QPainter* painter, const QStyleOptionViewItem& option, const QModelIndex& index) const override;
+};
+
+}  // namespace algo::terminal
