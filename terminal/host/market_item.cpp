@@ -17,7 +17,9 @@ std::string_view TMemoryItem::FieldText(std::int32_t field) const {
 }
 
 void TMemoryItem::SetField(std::int32_t field, std::string_view text) {
-  FFields.insert_or_assign(field, TField{std::string(text), text::NumberOr(text, 0)});
+  TField& changed = FFields[field];
+  changed.text = text;  // into the room that it has
+  changed.number = text::NumberOr(text, 0);
 }
 
 bool TSpreadCodes::Contains(std::string_view code) const {

@@ -83,6 +83,12 @@ void TMemoryHost::SetMarket(std::string_view symbol, std::optional<std::int32_t>
   }
 }
 
+void TMemoryHost::SetMarket(std::string_view symbol, std::span<const TFieldText> fields) {
+  TMemoryItem& item = FServices->subscriptions->Item(symbol);
+  for (const auto& [field, text] : fields) item.SetField(field, text);
+  FServices->subscriptions->Tell(item, TOneItem(item));
+}
+
 void TMemoryHost::TellSpread(std::span<const std::string> codes) { FServices->market->Tell(codes); }
 
 void TMemoryHost::PostAsHost(std::int32_t channel, host::TChannelRecord& record) {

@@ -23,6 +23,12 @@ namespace algo::terminal {
 /// Changes of a market-data item by field id; nothing takes the field out.
 using TFieldChanges = std::map<std::int32_t, std::optional<std::string>>;
 
+/// A field of a market-data item and the text that it is to have.
+struct TFieldText {
+  std::int32_t field = 0;
+  std::string_view text;
+};
+
 class TMemoryHost {
  public:
   /// Installs all services, which keep nothing beyond the host's life. `events` outlives the host.
@@ -50,6 +56,10 @@ class TMemoryHost {
   /// are given items other than theirs.
   void SetMarket(std::string_view symbol, std::optional<std::int32_t> state, const TFieldChanges& changes,
                  bool notify, bool others);
+
+  /// Gives these fields of the symbol's item, which is made if need be, their texts, then tells the item's
+  /// listeners. Takes no memory where the item has the fields already, with room for the texts.
+  void SetMarket(std::string_view symbol, std::span<const TFieldText> fields);
 
   /// Tells every listener for spread tables that the tables with these codes changed.
   void TellSpread(std::span<const std::string> codes);

@@ -67,11 +67,16 @@ QStringList DifferencesOf(const TFrameView& view) {
   const auto frame = view.Frame();
   if (!frame) return differences;
   for (const auto& control : frame->Controls()) {
-    if (const TControlView* shown = view.Find(*control)) differences += DifferencesOf(*shown);
+    const TControlView* shown = view.Find(*control);
+    if (shown != nullptr) {
+      differences += DifferencesOf(*shown);
+    } else if (control->Showing()) {
+      differences << QStringLiteral("%1 has no widget").arg(ToQt(control->Name()));
+    }
   }
   const forms::TControl* focused = frame->Focused();
-  if (focused != nullptr && view.isActiveWindow() && !view.Find(*focused)->Input().hasFocus() &&
-      focused->CanFocus()) {
+  if (focused != nullptr && view.isActiveWindow() && focused->CanFocus() &&
+      !view.Find(*focused)->Input().hasFocus()) {
     differences << QStringLiteral("%1 has not the focus").arg(ToQt(focused->Name()));
   }
   return differences;

@@ -16,15 +16,17 @@ TFrameView::TFrameView(const std::shared_ptr<forms::TFrame>& frame, const TEdito
   whole->setContentsMargins(0, 0, 0, 0);
   whole->addWidget(FContent, 0, Qt::AlignTop);
   whole->addStretch(1);
-  MakeViews(*frame);
+  FLayout = std::make_unique<TLayoutView>(
+      frame->Layout(), *FContent,
+      [this](forms::TControl& control, QWidget& item) -> QWidget& { return MakeControl(control, item); });
   ShowAll(*frame);
   frame->AddObserver(*this);
   connect(qApp, &QApplication::focusChanged, this, &TFrameView::DesktopFocusChanged);
 }
 
 TFrameView::~TFrameView() {
-  // Widgets that go take the focus with them, and nobody is here any more to be told.
-  qApp->disconnect(this);
+  // The widgets that go with the view give the focus away while they do.
+  disconnect(qApp, nullptr, this, nullptr);
   if (const auto frame = FInput.Frame()) frame->RemoveObserver(*this);
 }
 
@@ -33,21 +35,24 @@ TControlView* TFrameView::Find(const forms::TControl& control) const {
   return found == FViews.end() ? nullptr : found->second.get();
 }
 
-void TFrameView::MakeViews(forms::TFrame& frame) {
-  FLayout = std::make_unique<TLayoutView>(frame.Layout(), *FContent,
-                                          [this](forms::TControl& control, QWidget& itemWidget) -> QWidget& {
-                                            auto view = MakeControlView(control, FInput, FAids, itemWidget);
-                                            QWidget& widget = view->Widget();
-                                            view->Input().installEventFilter(this);
-                                            FByInput.emplace(&view->Input(), view.get());
-                                            // The line inside of a box gets the mouse in its stead.
-                                            if (auto* line = view->Input().findChild<QLineEdit*>()) {
-                                              line->installEventFilter(this);
-                                              FByInput.emplace(line, view.get());
-                                            }
-                                            FViews.emplace(&control, std::move(view));
-                                            return widget;
-                                          });
+QWidget& TFrameView::MakeControl(forms::TControl& control, QWidget& parent) {
+  auto view = MakeControlView(control, FInput, FAids, parent);
+  QWidget& widget = view->Widget();
+  view->Input().installEventFilter(this);
+  FByInput.emplace(&view->Input(), view.get());
+  // The line inside of a box gets the mouse in its stead.
+  if (auto* line = view->Input().findChild<QLineEdit*>()) {
+    line->installEventFilter(this);
+    FByInput.emplace(line, view.get());
+  }
+  view->Refresh();
+  FViews.emplace(&control, std::move(view));
+  return widget;
+}
+
+void TFrameView::ChainTabs(const forms::TFrame& frame) {
+  if (FChained == FViews.size()) return;
+  FChained = FViews.size();
   QWidget* before = nullptr;
   for (const auto& control : frame.Controls()) {
     const TControlView* view = Find(*control);
@@ -60,6 +65,7 @@ void TFrameView::MakeViews(forms::TFrame& frame) {
 void TFrameView::ShowAll(const forms::TFrame& frame) {
   for (const auto& [control, view] : FViews) view->Refresh();
   FLayout->Sync();
+  ChainTabs(frame);
   ShowNames(frame);
 }
 

@@ -25,7 +25,7 @@ class TFrameView final : public QWidget, private forms::TFrameObserver {
   /// The frame, or nullptr when it has gone.
   std::shared_ptr<forms::TFrame> Frame() const { return FInput.Frame(); }
 
-  /// The view of the control; nullptr for a control of another frame.
+  /// The view of the control; nullptr for one that was never shown, and for one of another frame.
   TControlView* Find(const forms::TControl& control) const;
 
   /// Runs after what is shown, or where, changed, so that a window can take the new size.
@@ -40,7 +40,8 @@ class TFrameView final : public QWidget, private forms::TFrameObserver {
   void FocusChanged() override;
   void FrameGone() override;
 
-  void MakeViews(forms::TFrame& frame);
+  QWidget& MakeControl(forms::TControl& control, QWidget& parent);
+  void ChainTabs(const forms::TFrame& frame);
   void ShowAll(const forms::TFrame& frame);
   void ShowNames(const forms::TFrame& frame);
   void DesktopFocusChanged(QWidget* before, QWidget* now);
@@ -55,6 +56,7 @@ class TFrameView final : public QWidget, private forms::TFrameObserver {
   std::unique_ptr<TLayoutView> FLayout;
   std::unordered_map<const forms::TControl*, std::unique_ptr<TControlView>> FViews;
   std::unordered_map<const QObject*, TControlView*> FByInput;
+  std::size_t FChained = 0;  ///< how many views were there when the tab order was last made
 };
 
 }  // namespace algo::terminal

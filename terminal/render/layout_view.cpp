@@ -55,32 +55,73 @@ void ShowCaption(QLabel& label, const forms::TLayoutElement& element, bool headi
 
 }  // namespace
 
-TLayoutView::TLayoutView(const forms::TLayoutControl& layout, QWidget& parent, const TMakeControl& make)
-    : FLayout(layout) {
-  auto* columns = new QHBoxLayout(&parent);
-  columns->setContentsMargins(Gap, Gap, Gap, Gap);
-  columns->setSpacing(2 * Gap);
-  for (const forms::TLayoutGroup* top : layout.TopGroups()) {
-    Build(*top, parent, make);
+TLayoutView::TLayoutView(const forms::TLayoutControl& layout, QWidget& parent, TMakeControl make)
+    : FLayout(layout), FParent(parent), FColumns(*new QHBoxLayout(&parent)), FMake(std::move(make)) {
+  FColumns.setContentsMargins(Gap, Gap, Gap, Gap);
+  FColumns.setSpacing(2 * Gap);
+}
+
+void TLayoutView::Sync() {
+  int place = 0;
+  for (const forms::TLayoutGroup* top : FLayout.TopGroups()) {
+    SyncElement(*top, FParent);
+    const auto view = FViews.find(top);
+    if (view == FViews.end()) continue;
     // The room below a short column is left free.
-    columns->addWidget(FViews[top].whole, 1, Qt::AlignTop);
+    if (FColumns.indexOf(view->second.whole) < 0)
+      FColumns.insertWidget(place, view->second.whole, 1, Qt::AlignTop);
+    AlignCaptions(*top);
+    ++place;
   }
 }
 
-void TLayoutView::Build(const forms::TLayoutElement& element, QWidget& parent, const TMakeControl& make) {
+void TLayoutView::SyncElement(const forms::TLayoutElement& element, QWidget& parent) {
+  const bool hasContent = HasContent(element);
+  const auto found = FViews.find(&element);
+  if (found == FViews.end() && !hasContent) return;
+  const auto* group = AsGroup(&element);
+  // By value: what is made below may move the table.
+  const TElementView view = found == FViews.end() ? Build(element, parent) : found->second;
+  if (group != nullptr) SyncChildren(*group);
+  ShowCaption(*view.caption, element, group != nullptr);
+  view.whole->setVisible(hasContent);
+}
+
+void TLayoutView::SyncChildren(const forms::TLayoutGroup& group) {
+  const TElementView view = FViews.at(&group);
+  int place = 0;
+  for (const forms::TLayoutElement* child : group.Children()) {
+    SyncElement(*child, *view.whole);
+    const auto found = FViews.find(child);
+    if (found == FViews.end()) continue;
+    QWidget* widget = found->second.whole;
+    const QLayoutItem* there = view.body->itemAt(place);
+    if (there == nullptr || there->widget() != widget) {
+      // Taken out of wherever it stood; Qt hides a widget that changes its parent.
+      const bool hidden = widget->isHidden();
+      widget->setParent(view.whole);
+      view.body->insertWidget(place, widget, StretchOf(*child, group));
+      widget->setHidden(hidden);
+    }
+    ++place;
+  }
+}
+
+TLayoutView::TElementView& TLayoutView::Build(const forms::TLayoutElement& element, QWidget& parent) {
   TElementView& view = FViews[&element];
   view.whole = new QWidget(&parent);
   view.whole->setObjectName(ToQt(element.Name()));
   view.caption = new QLabel(view.whole);
   view.caption->setTextFormat(Qt::PlainText);
   if (const auto* group = AsGroup(&element)) {
-    BuildGroup(*group, view, make);
+    BuildGroup(*group, view);
   } else {
-    BuildItem(static_cast<const forms::TLayoutItem&>(element), view, make);
+    BuildItem(static_cast<const forms::TLayoutItem&>(element), view);
   }
+  return view;
 }
 
-void TLayoutView::BuildGroup(const forms::TLayoutGroup& group, TElementView& view, const TMakeControl& make) {
+void TLayoutView::BuildGroup(const forms::TLayoutGroup& group, TElementView& view) {
   auto* outer = new QVBoxLayout(view.whole);
   outer->setContentsMargins(0, 0, 0, 0);
   outer->setSpacing(Gap / 2);
@@ -88,49 +129,16 @@ void TLayoutView::BuildGroup(const forms::TLayoutGroup& group, TElementView& vie
   view.body = new QBoxLayout(IsHorizontal(group) ? QBoxLayout::LeftToRight : QBoxLayout::TopToBottom);
   view.body->setSpacing(Gap);
   outer->addLayout(view.body);
-  QWidget& whole = *view.whole;
-  for (const forms::TLayoutElement* child : group.Children()) Build(*child, whole, make);
 }
 
-void TLayoutView::BuildItem(const forms::TLayoutItem& item, TElementView& view, const TMakeControl& make) {
+void TLayoutView::BuildItem(const forms::TLayoutItem& item, TElementView& view) {
   auto* row = new QHBoxLayout(view.whole);
   row->setContentsMargins(0, 0, 0, 0);
   row->setSpacing(Gap);
   row->addWidget(view.caption);
-  QWidget& control = make(item.Control(), *view.whole);
+  QWidget& control = FMake(item.Control(), *view.whole);
   row->addWidget(&control, 1);
   view.caption->setBuddy(&control);
-}
-
-void TLayoutView::Sync() {
-  for (const auto& element : FLayout.Elements()) {
-    if (const auto* group = AsGroup(element.get())) Place(*group);
-    ShowElement(*element);
-  }
-  for (const forms::TLayoutGroup* top : FLayout.TopGroups()) AlignCaptions(*top);
-}
-
-void TLayoutView::Place(const forms::TLayoutGroup& group) {
-  TElementView& view = FViews.at(&group);
-  int place = 0;
-  for (const forms::TLayoutElement* child : group.Children()) {
-    QWidget* widget = FViews.at(child).whole;
-    const QLayoutItem* there = view.body->itemAt(place);
-    if (there == nullptr || there->widget() != widget) {
-      // Taken out of wherever it stood; a widget that changes its parent is hidden by Qt, ShowElement
-      // follows.
-      widget->setParent(view.whole);
-      view.body->insertWidget(place, widget, StretchOf(*child, group));
-    }
-    ++place;
-  }
-}
-
-void TLayoutView::ShowElement(const forms::TLayoutElement& element) {
-  const TElementView& view = FViews.at(&element);
-  const auto* group = AsGroup(&element);
-  ShowCaption(*view.caption, element, group != nullptr);
-  view.whole->setVisible(HasContent(element));
 }
 
 void TLayoutView::AlignCaptions(const forms::TLayoutGroup& top) {

@@ -16,11 +16,11 @@ namespace algo::terminal {
 
 class TLayoutView {
  public:
-  /// Gives the widget of a control, made as a child of `parent`.
+  /// Makes the widget of a control as a child of `parent`.
   using TMakeControl = std::function<QWidget&(forms::TControl& control, QWidget& parent)>;
 
-  /// Builds all of it in `parent`, which gets a layout of its own.
-  TLayoutView(const forms::TLayoutControl& layout, QWidget& parent, const TMakeControl& make);
+  /// Stands in `parent`, which gets a layout of its own and shows nothing yet.
+  TLayoutView(const forms::TLayoutControl& layout, QWidget& parent, TMakeControl make);
 
   /// Shows the tree as it is now.
   void Sync();
@@ -32,15 +32,19 @@ class TLayoutView {
     QBoxLayout* body = nullptr;  ///< of groups: where the children stand
   };
 
-  void Build(const forms::TLayoutElement& element, QWidget& parent, const TMakeControl& make);
-  void BuildGroup(const forms::TLayoutGroup& group, TElementView& view, const TMakeControl& make);
-  void BuildItem(const forms::TLayoutItem& item, TElementView& view, const TMakeControl& make);
-  void Place(const forms::TLayoutGroup& group);
-  void ShowElement(const forms::TLayoutElement& element);
+  /// Brings what stands below the element up to date, and makes it if it is to be seen for the first time.
+  void SyncElement(const forms::TLayoutElement& element, QWidget& parent);
+  void SyncChildren(const forms::TLayoutGroup& group);
+  TElementView& Build(const forms::TLayoutElement& element, QWidget& parent);
+  void BuildGroup(const forms::TLayoutGroup& group, TElementView& view);
+  void BuildItem(const forms::TLayoutItem& item, TElementView& view);
   void AlignCaptions(const forms::TLayoutGroup& top);
   void CollectCaptions(const forms::TLayoutGroup& group, std::vector<QLabel*>& captions) const;
 
   const forms::TLayoutControl& FLayout;
+  QWidget& FParent;
+  QBoxLayout& FColumns;
+  TMakeControl FMake;
   std::unordered_map<const forms::TLayoutElement*, TElementView> FViews;
 };
 

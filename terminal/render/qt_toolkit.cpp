@@ -16,8 +16,12 @@ QFont DesktopFont(const forms::TFont& font) {
 }
 
 forms::TSize TQtToolkit::MeasureText(std::string_view text, const forms::TFont& font) const {
-  const QFontMetricsF metrics(DesktopFont(font));
-  return {metrics.horizontalAdvance(ToQt(text)), metrics.height()};
+  // A form that looks for the size that fits asks for many; each would have a font loaded that nobody draws
+  // with.
+  constexpr std::int32_t Unchosen = forms::TFont{}.size;
+  const QFontMetricsF metrics(DesktopFont({.size = Unchosen, .bold = font.bold}));
+  const double scale = static_cast<double>(font.size) / Unchosen;
+  return {metrics.horizontalAdvance(ToQt(text)) * scale, metrics.height() * scale};
 }
 
 }  // namespace algo::terminal
