@@ -1,6 +1,6 @@
 #include "terminal/desk/entry_panel.h"
 
-#include <QMainWindow>
+#include <algorithm>
 
 #include "terminal/desk/price_drag.h"
 #include "terminal/render/qt_text.h"
@@ -36,8 +36,22 @@ void TEntryPanel::Fit() {
   if (isFloating()) {
     resize(FPane.sizeHint() + QSize(0, Title().sizeHint().height()));
   } else if (auto* window = qobject_cast<QMainWindow*>(parentWidget())) {
-    window->resizeDocks({this}, {FPane.sizeHint().width()}, Qt::Horizontal);
+    FitDocked(*window);
   }
+}
+
+void TEntryPanel::FitDocked(QMainWindow& window) {
+  const int width = FPane.sizeHint().width();
+  QList<QDockWidget*> docks{this};
+  QList<int> widths{width};
+  // The window shares its room out by what the panels ask for, so that the other side has to ask for the
+  // rest.
+  for (auto* other : window.findChildren<QDockWidget*>()) {
+    if (other->isFloating() || window.dockWidgetArea(other) == window.dockWidgetArea(this)) continue;
+    docks.append(other);
+    widths.append(std::max(1, window.width() - width));
+  }
+  window.resizeDocks(docks, widths, Qt::Horizontal);
 }
 
 void TEntryPanel::dragEnterEvent(QDragEnterEvent* event) {

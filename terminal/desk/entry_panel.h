@@ -4,6 +4,7 @@
 
 #include <QDragEnterEvent>
 #include <QDropEvent>
+#include <QMainWindow>
 #include <memory>
 #include <string>
 
@@ -38,6 +39,8 @@ class TEntryPanel final : public TPanel {
   void dropEvent(QDropEvent* event) override;
 
  private:
+  void FitDocked(QMainWindow& window);
+
   TDesk& FDesk;
   const host::TInstanceHandle FInstance;
   TFramePane& FPane;

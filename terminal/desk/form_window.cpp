@@ -31,7 +31,8 @@ void TFormWindow::Refresh() {
     FClientSize = form->ClientSize();
     const QSize asked(static_cast<int>(std::ceil(FClientSize.width)),
                       static_cast<int>(std::ceil(FClientSize.height)));
-    resize(asked.boundedTo(screen()->availableSize()));
+    // The widgets may need a little more than the form was told that they would.
+    resize(asked.expandedTo(FPane.View().minimumSizeHint()).boundedTo(screen()->availableSize()));
   }
   const bool onTop = windowFlags().testFlag(Qt::WindowStaysOnTopHint);
   // A change of the flag takes the window out of sight.

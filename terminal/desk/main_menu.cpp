@@ -22,16 +22,15 @@ constexpr TMenuPlace HelpMenu{5, 9000};
 QAction& Add(QMenu& menu, const QString& name, const QString& text, std::function<void()> deed) {
   QAction& action = *menu.addAction(text);
   action.setObjectName(name);
-  QObject::connect(&action, &QAction::triggered, &menu, std::move(deed));
+  QObject::connect(&action, &QAction::triggered, &action, std::move(deed));
   return action;
 }
 
-/// The same as one of a group of which one is chosen.
-void AddChoice(QMenu& menu, QActionGroup& group, QAction& action, bool chosen) {
+/// Makes the entry one of a group of which one is chosen.
+void MakeChoice(QActionGroup& group, QAction& action, bool chosen) {
   action.setCheckable(true);
   action.setChecked(chosen);
   group.addAction(&action);
-  menu.addAction(&action);
 }
 
 }  // namespace
@@ -80,7 +79,7 @@ void TMainMenu::AddLanguages() {
   for (const TLanguage language : Languages) {
     QAction& action = Add(menu, ToQt(LanguageCode(language)), LanguageOwnName(language),
                           [this, language] { FDeeds.setLanguage(language); });
-    AddChoice(menu, *group, action, language == FDesk.Texts().Language());
+    MakeChoice(*group, action, language == FDesk.Texts().Language());
   }
 }
 
@@ -91,7 +90,7 @@ void TMainMenu::AddSkins() {
   for (const TSkin& skin : Skins) {
     QAction& action =
         Add(menu, ToQt(skin.name), texts.Desk(skin.textKey), [this, &skin] { FDeeds.setSkin(skin); });
-    AddChoice(menu, *group, action, skin.name == FDesk.Skin().name);
+    MakeChoice(*group, action, skin.name == FDesk.Skin().name);
   }
 }
 

@@ -28,14 +28,15 @@ QVariant Cell(const TOrder& order, const TTexts& /*texts*/) {
 /// A price as a number; nothing for an order without one.
 QVariant PriceValue(double price) { return price == 0 ? QVariant() : QVariant(price); }
 
+constexpr std::string_view SideKey = "Side";
 constexpr std::string_view ProgressKey = "Progress";
 
 constexpr std::array Columns{
     TOrderColumn{"Order number", 10, false, Cell<&TOrder::orderNo>},
-    TOrderColumn{"Account", 9, false, Cell<&TOrder::account>},
+    TOrderColumn{"Account", 13, false, Cell<&TOrder::account>},
     TOrderColumn{"Symbol", 9, false, Cell<&TOrder::symbol>},
     TOrderColumn{"Exchange", 9, false, Cell<&TOrder::exchange>},
-    TOrderColumn{"Side", 6, false,
+    TOrderColumn{SideKey.data(), 6, false,
                  [](const TOrder& order, const TTexts& texts) {
                    return QVariant(texts.Desk(order.side == host::SideSell ? "Sell" : "Buy"));
                  }},
@@ -51,7 +52,7 @@ constexpr std::array Columns{
                  }},
     TOrderColumn{"Algorithm", 11, false,
                  [](const TOrder& order, const TTexts&) { return QVariant(ToQt(AlgorithmOf(order))); }},
-    TOrderColumn{"Order type", 12, false,
+    TOrderColumn{"Order type", 15, false,
                  [](const TOrder& order, const TTexts& texts) {
                    return QVariant(ToQt(texts.Resource(OrderTypeId(order))));
                  }},
@@ -72,11 +73,13 @@ constexpr int PlaceOf(std::string_view key) {
   }
   return -1;
 }
-static_assert(PlaceOf(ProgressKey) >= 0);
+static_assert(PlaceOf(SideKey) >= 0 && PlaceOf(ProgressKey) >= 0);
 
 }  // namespace
 
 std::span<const TOrderColumn> OrderColumns() { return Columns; }
+
+int SideColumn() { return PlaceOf(SideKey); }
 
 int ProgressColumn() { return PlaceOf(ProgressKey); }
 

@@ -22,6 +22,9 @@ struct TOrderColumn {
 /// From left to right; the first one carries the tree.
 std::span<const TOrderColumn> OrderColumns();
 
+/// Where the side stands among them.
+int SideColumn();
+
 /// Where the fill progress stands among them. Its value is the filled part, from 0 to 1.
 int ProgressColumn();
 

@@ -1,5 +1,8 @@
 #include "terminal/desk/order_model.h"
 
+#include <QColor>
+
+#include "plugin/host_contract/look_and_feel_service.h"
 #include "terminal/desk/order_columns.h"
 #include "terminal/render/qt_text.h"
 #include "text/number_text.h"
@@ -69,6 +72,8 @@ QVariant TOrderModel::data(const QModelIndex& index, int role) const {
       return ShownText(column.value(*node.order, FTexts), index.column());
     case Qt::TextAlignmentRole:
       return AlignmentOf(column);
+    case Qt::ForegroundRole:
+      return index.column() == SideColumn() ? QColor::fromRgb(SideColor(*node.order)) : QVariant();
     case ValueRole:
       // Numbers of orders are texts, of which "N10" would come before "N2".
       return index.column() == 0 ? QVariant(node.arrival) : column.value(*node.order, FTexts);
@@ -81,6 +86,13 @@ QVariant TOrderModel::headerData(int section, Qt::Orientation orientation, int r
   if (orientation != Qt::Horizontal) return {};
   if (role == Qt::TextAlignmentRole) return AlignmentOf(ColumnAt(section));
   return role == Qt::DisplayRole ? FTexts.Desk(ColumnAt(section).textKey) : QVariant();
+}
+
+QRgb TOrderModel::SideColor(const host::TCustomClientOrder& order) const {
+  // The colours of the skin, in which the sides show in the forms as well.
+  const auto& colors = FHost.Data().colors;
+  const auto found = colors.find(order.side == host::SideSell ? host::SellColor : host::BuyColor);
+  return found == colors.end() ? 0 : found->second;
 }
 
 void TOrderModel::Follow(const host::TCustomClientOrder& order) {

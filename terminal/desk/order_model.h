@@ -3,6 +3,7 @@
 // The orders of the host as a tree for views: children below their parents. It follows the order ledger.
 
 #include <QAbstractItemModel>
+#include <QRgb>
 #include <map>
 #include <memory>
 #include <string>
@@ -48,6 +49,7 @@ class TOrderModel final : public QAbstractItemModel {
   void Follow(const host::TCustomClientOrder& order);
   void Insert(const host::TCustomClientOrder& order);
   TNode& ParentOf(const host::TCustomClientOrder& order);
+  QRgb SideColor(const host::TCustomClientOrder& order) const;
   QModelIndex IndexOf(const TNode& node, int column) const;
   const TNode& NodeAt(const QModelIndex& index) const;
 

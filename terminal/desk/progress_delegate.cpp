@@ -7,6 +7,16 @@
 
 namespace algo::terminal {
 
+namespace {
+
+constexpr int Rim = 2;
+
+}  // namespace
+
+QSize TProgressDelegate::sizeHint(const QStyleOptionViewItem& option, const QModelIndex& index) const {
+  return QStyledItemDelegate::sizeHint(option, index) + QSize(2 * Rim, 2 * Rim + 4);
+}
+
 void TProgressDelegate::paint(QPainter* painter, const QStyleOptionViewItem& option,
                               const QModelIndex& index) const {
   QStyleOptionViewItem item(option);
@@ -15,7 +25,7 @@ void TProgressDelegate::paint(QPainter* painter, const QStyleOptionViewItem& opt
   item.text.clear();
   QApplication::style()->drawControl(QStyle::CE_ItemViewItem, &item, painter, item.widget);
 
-  const QRect frame = item.rect.adjusted(3, 3, -3, -3);
+  const QRect frame = item.rect.adjusted(Rim, Rim, -Rim - 1, -Rim - 1);
   QRect bar = frame;
   bar.setWidth(static_cast<int>(frame.width() * index.data(TOrderModel::ValueRole).toDouble()));
   const bool selected = item.state.testFlag(QStyle::State_Selected);

@@ -31,6 +31,7 @@ TDateView::TDateView(forms::TDateEdit& control, const TFrameInput& input, QWidge
   BindLine(FLine, control, input);
   FButton.setArrowType(Qt::DownArrow);
   FButton.setFocusPolicy(Qt::NoFocus);
+  FLine.setObjectName(ToQt(control.Name() + "Line"));
   FButton.setObjectName(ToQt(control.Name() + "Calendar"));
   QObject::connect(&FButton, &QToolButton::clicked, &FWhole, [this] { OpenCalendar(); });
 }
