@@ -83,7 +83,7 @@ bool TPaperEngine::Cancel(std::string_view key, std::string_view who) {
   const auto found = FByKey.find(key);
   if (found == FByKey.end()) return false;
   TPaperOrder& order = *found->second;
-  if (!order.IsWorkedHere()) order.outcome.status = order.order.status;
+  if (!order.IsWorkedHere()) order.outcome = order.ShownOutcome();
   if (IsDone(order.outcome.status)) {
     FHost.Ledger().Note({std::string(who), "cancel", "refused"}, order.order);
     return false;
@@ -101,7 +101,8 @@ bool TPaperEngine::Cancel(std::string_view key, std::string_view who) {
 // Brings books and order together after the order came or was changed.
 void TPaperEngine::Settle(TPaperOrder& order, TMoment stepBegin) {
   if (!order.IsWorkedHere()) {
-    order.outcome = TPaperOrder(order.order).outcome;
+    order.outcome = order.ShownOutcome();
+    NoticeParentOf(order);
   } else if (TakeTerms(order, stepBegin)) {
     const TOutcome outcome = Progress(order.outcome, order.order.quantity);
     if (outcome.status != order.outcome.status || order.ShowsAnotherOutcome()) {
@@ -233,7 +234,11 @@ void TPaperEngine::Report(TPaperOrder& order, const TOrderEvent& event, const TO
   next.SetNamedText(AveragePriceProperty, outcome.filled > 0 ? text::PlainNumber(outcome.Average()) : "");
   FHost.Ledger().Record(event, next);
   order.outcome = outcome;
-  if (next.parentNo.empty()) return;
+  NoticeParentOf(order);
+}
+
+void TPaperEngine::NoticeParentOf(const TPaperOrder& order) {
+  if (order.order.parentNo.empty()) return;
   for (const auto& parent : FOrders) {
     if (order.IsChildOf(*parent)) parent->told = true;
   }

@@ -44,6 +44,7 @@ class TPaperEngine {
 
  private:
   void Notice(const host::TCustomClientOrder& order);
+  void NoticeParentOf(const TPaperOrder& order);
   void Settle(TPaperOrder& order, TMoment stepBegin);
   bool TakeTerms(TPaperOrder& order, TMoment stepBegin);
   std::string_view ReadTerms(TPaperOrder& order, TMoment stepBegin) const;

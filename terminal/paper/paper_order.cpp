@@ -14,11 +14,8 @@ bool TTerms::Match(const host::TCustomClientOrder& order) const {
          text == order.TextProperty(host::AlgoTextProperty);
 }
 
-TPaperOrder::TPaperOrder(const host::TCustomClientOrder& storedOrder) : order(storedOrder) {
-  outcome.filled = order.filled;
-  outcome.value = order.filled * text::NumberOr(order.NamedText(AveragePriceProperty), order.price);
-  outcome.status = order.status;
-}
+TPaperOrder::TPaperOrder(const host::TCustomClientOrder& storedOrder)
+    : order(storedOrder), outcome(ShownOutcome()) {}
 
 bool TPaperOrder::IsParent() const { return (order.flags & host::WorkParentMark) != 0; }
 
@@ -29,6 +26,11 @@ bool TPaperOrder::IsChildOf(const TPaperOrder& parent) const {
 
 bool TPaperOrder::IsWorkedHere() const {
   return IsParent() || !order.TextProperty(host::AlgoTextProperty).empty();
+}
+
+TOutcome TPaperOrder::ShownOutcome() const {
+  const double average = text::NumberOr(order.NamedText(AveragePriceProperty), order.price);
+  return {order.filled, order.filled * average, order.status};
 }
 
 bool TPaperOrder::ShowsAnotherOutcome() const {

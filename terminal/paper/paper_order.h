@@ -47,6 +47,8 @@ struct TPaperOrder {
   bool IsWorkedHere() const;
   bool IsBuy() const { return order.side == host::SideBuy; }
 
+  /// How far the order has come by what the stored order says.
+  TOutcome ShownOutcome() const;
   /// Whether the stored order shows another outcome than the books.
   bool ShowsAnotherOutcome() const;
 

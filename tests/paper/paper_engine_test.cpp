@@ -141,9 +141,15 @@ TEST_F(Engine, OrdersThatWereThereBeforeGoOnWithWhatTheyHave) {
   EXPECT_EQ(keeper.lines, (std::vector<std::string>{"OLD: paper fill 300 at 10.02"}));
 }
 
-TEST_F(Engine, AnEngineThatIsGoneIsToldNothing) {
-  { TPaperEngine shortLived(host, market, 1); }
-  EXPECT_NO_THROW(Send(Tvol));
+TEST(EngineLife, AnEngineThatIsGoneIsToldNothing) {
+  TEventNotes notes;
+  TMemoryHost host(notes);
+  TPaperMarket market(host, SampleTables(), 1);
+  {
+    const TPaperEngine engine(host, market, 1);
+    EXPECT_FALSE(host.Ledger().Listeners().Empty());
+  }
+  EXPECT_TRUE(host.Ledger().Listeners().Empty());
 }
 
 // Changes
@@ -275,10 +281,17 @@ TEST_F(Engine, AnOrderThatWasNotYetLookedAtCanBeCancelled) {
   EXPECT_EQ(order.filled, 0);
 }
 
-TEST_F(Engine, AnOrderWithoutAnAlgorithmCanBeCancelled) {
+TEST_F(Engine, AnOrderWithoutAnAlgorithmCanBeCancelledAndKeepsWhatItHas) {
   const auto& order = Send("");
+  host::TCustomClientOrder filled(order);
+  filled.filled = 500;
+  filled.status = 2;
+  filled.SetNamedText("AveragePrice", "9.9");
+  host.Ledger().Record({"somebody", "fill", "500"}, filled);
   EXPECT_TRUE(engine.Cancel("N1", "dealer1"));
   EXPECT_EQ(order.status, 4);
+  EXPECT_EQ(order.filled, 500);
+  EXPECT_EQ(Average(order), "9.9");
   EXPECT_FALSE(engine.Cancel("N1", "dealer1"));
 }
 
@@ -300,6 +313,19 @@ TEST_F(Engine, AParentShowsTheSumOfItsChildren) {
   EXPECT_EQ(parent.filled, 2000);
   EXPECT_EQ(parent.status, 3);
   EXPECT_EQ(Average(parent), "10.09") << "600 at 10.02 and 1,400 at 10.12";
+}
+
+TEST_F(Engine, AParentCountsWhatOthersFilledOfAChild) {
+  const auto& parent = SendParent(2000);
+  const auto& child = SendChild(parent, "", 1000);
+  Step("10:01:00");
+  host::TCustomClientOrder filled(child);
+  filled.filled = 500;
+  filled.SetNamedText("AveragePrice", "9.9");
+  host.Ledger().Record({"somebody", "fill", "500"}, filled);
+  Step("10:02:00");
+  EXPECT_EQ(parent.filled, 500);
+  EXPECT_EQ(Average(parent), "9.9");
 }
 
 TEST_F(Engine, AParentIsNotWorkedItself) {
