@@ -168,6 +168,31 @@ TEST(PaperMarket, AStepTakesNoMemory) {
   EXPECT_EQ(Allocations, before);
 }
 
+TEST(PaperMarket, OrdersThatWaitTakeNoMemory) {
+  tests::TEventNotes notes;
+  TMemoryHost host(notes);
+  TPaperMarket market(host, SampleTables(), 3);
+  TPaperEngine engine(host, market, 3);
+  for (const char* text : {"TMLO:AlgoId=TVOL,VolPct=20,WPx=0.01;", "TMLO:AlgoId=CLOSE;", "",
+                           "TMLO:AlgoId=STOP,StopLossPx=1000;", "TMLO:AlgoId=PEG,ShowQty=500,WPx=0.01;"}) {
+    host::TCustomClientOrder order;
+    order.key = order.orderNo = host.Orders().NextFreeKey();
+    order.symbol = "AAA";
+    order.quantity = 1000;
+    order.SetTextProperty(host::AlgoTextProperty, text);
+    host.Ledger().Record({"trader", "new", "accepted"}, order);
+  }
+  const text::TDateTime begin = tests::At("10:00:00");
+  const auto step = [&](int minute) {
+    market.Advance(60);
+    engine.Advance(begin + std::chrono::minutes(minute), 60);
+  };
+  for (int i = 1; i < 60; ++i) step(i);
+  const std::size_t before = Allocations;
+  for (int i = 60; i < 120; ++i) step(i);
+  EXPECT_EQ(Allocations, before);
+}
+
 class TReplay : public testing::Test {
  protected:
   static TRecording Recorded() {
@@ -216,6 +241,12 @@ TEST_F(TReplay, AtSpeedTenATenthIsASecond) {
   for (int i = 0; i < 8; ++i) market->Advance(0.1);
   EXPECT_EQ(market->Quote("AAA")->bid, 10);
   EXPECT_EQ(market->Quote("AAA")->volume, 1000);
+}
+
+TEST_F(TReplay, ALineIsNotLateForWhatManySmallStepsLose) {
+  const auto market = Market(1);
+  for (int i = 0; i < 10; ++i) market->Advance(0.1);
+  EXPECT_EQ(market->Quote("AAA")->bid, 10.02);
 }
 
 TEST_F(TReplay, AllLinesOfAStepCountAndTheLastOneStands) {
