@@ -54,7 +54,8 @@ bool TPaperEngine::Cancel(std::string_view key, std::string_view who) {
     return false;
   }
   const TOrderEvent event{std::string(who), "cancel", "accepted"};
-  for (std::size_t i = 0; i < FOrders.size(); ++i) {
+  const std::size_t count = FOrders.size();
+  for (std::size_t i = 0; i < count; ++i) {
     TPaperOrder& child = *FOrders[i];
     if (!child.IsChildOf(order) || IsDone(child.outcome.status)) continue;
     Record(child, event, child.outcome.WithStatus(status::Cancelled));

@@ -1,12 +1,10 @@
-// What becomes of orders beyond the filling: how they begin, change, end and add up.
+// What becomes of orders beyond the filling: how they begin and end, and what the ledger is told.
 
 #include "terminal/paper/paper_engine.h"
 
 #include <limits>
-#include <sstream>
 
 #include "tests/paper/sample_market.h"
-#include "text/number_text.h"
 
 namespace algo::terminal::tests {
 namespace {

@@ -3,29 +3,12 @@
 #include <gtest/gtest.h>
 
 #include <cmath>
-#include <cstdlib>
-#include <new>
 
 #include "terminal/paper/market_fields.h"
 #include "terminal/paper/recorded_prices.h"
+#include "tests/model/allocation_count.h"
 #include "tests/paper/sample_market.h"
 #include "text/number_text.h"
-
-namespace {
-
-std::size_t Allocations = 0;
-
-}  // namespace
-
-// Counts what the program takes from the heap.
-void* operator new(std::size_t size) {
-  ++Allocations;
-  void* memory = std::malloc(size == 0 ? 1 : size);
-  if (memory == nullptr) throw std::bad_alloc();
-  return memory;
-}
-void operator delete(void* memory) noexcept { std::free(memory); }
-void operator delete(void* memory, std::size_t) noexcept { std::free(memory); }
 
 namespace algo::terminal {
 namespace {
@@ -163,9 +146,9 @@ TEST(PaperMarket, AStepTakesNoMemory) {
   TPaperMarket market(host, LoadMarketTables(ExampleFolder()), 3);
   // By then every item has all its fields.
   for (int i = 0; i < 600; ++i) market.Advance(1);
-  const std::size_t before = Allocations;
+  const std::size_t before = model::AllocationCount();
   for (int i = 0; i < 600; ++i) market.Advance(1);
-  EXPECT_EQ(Allocations, before);
+  EXPECT_EQ(model::AllocationCount(), before);
 }
 
 TEST(PaperMarket, OrdersThatWaitTakeNoMemory) {
@@ -188,9 +171,9 @@ TEST(PaperMarket, OrdersThatWaitTakeNoMemory) {
     engine.Advance(begin + std::chrono::minutes(minute), 60);
   };
   for (int i = 1; i < 60; ++i) step(i);
-  const std::size_t before = Allocations;
+  const std::size_t before = model::AllocationCount();
   for (int i = 60; i < 120; ++i) step(i);
-  EXPECT_EQ(Allocations, before);
+  EXPECT_EQ(model::AllocationCount(), before);
 }
 
 class TReplay : public testing::Test {
