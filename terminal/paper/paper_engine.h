@@ -51,8 +51,10 @@ class TPaperEngine {
   bool ParentIsDone(const TPaperOrder& order) const;
   void Work(TPaperOrder& order, TMoment now, double seconds);
   void Fill(TPaperOrder& order, const TStepView& view);
+  double OnDisplay(const TPaperOrder& order, double lot);
   void SumUp(TPaperOrder& parent);
-  void Report(TPaperOrder& order, const TOrderEvent& event, const TOutcome& outcome);
+  void Report(TPaperOrder& order, std::string_view what, std::string_view answer, const TOutcome& outcome);
+  void Record(TPaperOrder& order, const TOrderEvent& event, const TOutcome& outcome);
 
   TMemoryHost& FHost;
   TPaperMarket& FMarket;

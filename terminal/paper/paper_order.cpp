@@ -9,6 +9,13 @@ namespace algo::terminal {
 
 double TOutcome::Average() const { return filled > 0 ? value / filled : 0; }
 
+TOutcome TOutcome::WithStatus(std::int32_t newStatus) const { return {filled, value, newStatus}; }
+
+TOutcome TOutcome::WithProgress(double quantity) const {
+  if (IsDone(status) || filled <= 0) return *this;
+  return WithStatus(filled >= quantity ? status::Filled : status::PartlyFilled);
+}
+
 bool TTerms::Match(const host::TCustomClientOrder& order) const {
   return symbol == order.symbol && side == order.side && quantity == order.quantity && price == order.price &&
          text == order.TextProperty(host::AlgoTextProperty);
