@@ -1,5 +1,6 @@
 #include "terminal/desk/form_windows.h"
 
+#include <QAbstractEventDispatcher>
 #include <QEventLoop>
 #include <algorithm>
 
@@ -43,9 +44,12 @@ void TFormWindows::RunModal(forms::TDialogForm& form) {
   window.setWindowModality(Qt::ApplicationModal);
   FModal.emplace_back(&form, &window);
   window.show();
-  // Whatever happens may answer the form; it is looked at after each thing that did.
+  // Whatever happens may answer the form, so it is looked at whenever nothing is left to be done.
   QEventLoop loop;
-  while (form.ModalResult() == forms::ModalNone) loop.processEvents(QEventLoop::WaitForMoreEvents);
+  connect(QAbstractEventDispatcher::instance(), &QAbstractEventDispatcher::aboutToBlock, &loop, [&] {
+    if (form.ModalResult() != forms::ModalNone) loop.quit();
+  });
+  loop.exec();
   FModal.pop_back();
   if (FModal.empty()) emit ModalFormsGone();
 }
