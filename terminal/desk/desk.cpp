@@ -55,6 +55,7 @@ TDesk::TDesk(const TDeskOptions& options)
   FillMarketLists(FHost.Data(), FTables);
   FTexts.FillInto(FHost.Data());
   FKeeper.LoadInto(FHost.Data(), FHost.Orders());
+  if (options.prepare) options.prepare(FHost.Data());
   FEngine.emplace(FHost, FMarket, options.seed);
   SetSkin(*FSkin);
   forms::TToolkit::Install(&FToolkit);

@@ -73,6 +73,12 @@ TDeskArguments ReadDeskArguments(int argc, char** argv) {
   app.add_option("--skin", skin, "The skin; else the one of the last time")
       ->check(OneOf("light, dark, high-contrast",
                     [](const std::string& name) { return SkinNamed(name) != nullptr; }));
+  auto* play = app.add_option("--play", options.playFile,
+                              "A script to play with keys and mouse, as algo-drive's; ends after it")
+                   ->type_name("FILE");
+  app.add_option("--screens", options.screensFolder, "Where a picture of each step of the play goes")
+      ->type_name("FOLDER")
+      ->needs(play);
   try {
     app.parse(argc, argv);
   } catch (const CLI::CallForHelp& help) {

@@ -3,11 +3,13 @@
 // What the desktop is started with.
 
 #include <cstdint>
+#include <functional>
 #include <optional>
 #include <string>
 
 #include "terminal/desk/skins.h"
 #include "terminal/desk/texts.h"
+#include "terminal/host/host_data.h"
 
 namespace algo::terminal {
 
@@ -20,6 +22,10 @@ struct TDeskOptions {
   std::uint64_t seed = 1;             ///< of the prices that are made up
   std::optional<TLanguage> language;  ///< else the one of the workspace
   const TSkin* skin = nullptr;        ///< else the one of the workspace
+  std::function<void(THostData&)>
+      prepare;                ///< changes the host's data before the module is loaded; may be empty
+  std::string playFile;       ///< a script to play instead of waiting for a trader; empty for none
+  std::string screensFolder;  ///< where pictures of the play go; empty for none
 };
 
 }  // namespace algo::terminal

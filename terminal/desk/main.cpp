@@ -5,6 +5,7 @@
 #include <exception>
 #include <iostream>
 
+#include "terminal/desk/day_player.h"
 #include "terminal/desk/desk_arguments.h"
 #include "terminal/desk/display.h"
 #include "terminal/desk/main_window.h"
@@ -15,6 +16,10 @@ namespace {
 constexpr int CannotStart = 1;
 
 int Run(const algo::terminal::TDeskOptions& options) {
+  if (!options.playFile.empty()) {
+    algo::terminal::TDayPlayer(options, std::cout).Play(options.playFile);
+    return 0;
+  }
   algo::terminal::TDesk desk(options);
   algo::terminal::TMainWindow window(desk);
   window.RestoreWorkspace(options);

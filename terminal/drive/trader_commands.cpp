@@ -1,25 +1,15 @@
 // The trader: everything that comes in through keyboard and mouse.
 
-#include <algorithm>
 #include <array>
 
 #include "terminal/drive/boundary.h"
 #include "terminal/drive/command_table.h"
 #include "terminal/drive/lookup.h"
+#include "terminal/drive/taking.h"
 
 namespace algo::terminal {
 
 namespace {
-
-using forms::TInputResult;
-
-/// Throws ECommandError for an input that the control did not take.
-void CheckTaken(TInputResult result, const forms::TControl& control) {
-  constexpr std::array<std::string_view, 6> Reasons{
-      "", " is not showing", " is disabled", " is read-only", " takes no such input", " has no such item"};
-  const auto reason = Reasons[static_cast<std::size_t>(result)];
-  if (!reason.empty()) throw ECommandError(control.Name() + std::string(reason));
-}
 
 void Type(TSession& session, const TArguments& arguments, TAnswerJson& /*answer*/) {
   const auto frame = FrameOf(session, arguments);
@@ -48,21 +38,6 @@ void Click(TSession& session, const TArguments& arguments, TAnswerJson& answer) 
   if (const auto* editor = dynamic_cast<const forms::TEditor*>(&control)) {
     answer["selected"] = editor->SelectedText();
   }
-}
-
-/// The place of the item that the arguments name, by place or by text. Throws ECommandError when they name
-/// none.
-std::int32_t ItemOf(const forms::TControl& control, const TArguments& arguments) {
-  if (arguments.Has("index") == arguments.Has("item")) {
-    throw ECommandError("either 'index' or 'item' must be given");
-  }
-  if (arguments.Has("index")) return arguments.Integer("index");
-  const auto& text = arguments.Text("item");
-  const auto* combo = dynamic_cast<const forms::TComboBox*>(&control);
-  if (combo == nullptr) return 0;
-  const auto found = std::ranges::find(combo->Items(), text);
-  if (found == combo->Items().end()) throw ECommandError(control.Name() + " has no item '" + text + "'");
-  return static_cast<std::int32_t>(found - combo->Items().begin());
 }
 
 void Pick(TSession& session, const TArguments& arguments, TAnswerJson& /*answer*/) {

@@ -6,92 +6,11 @@
 #include <sstream>
 #include <utility>
 
+#include "terminal/paper/csv_scanner.h"
 #include "terminal/paper/paper_error.h"
 #include "text/number_text.h"
 
 namespace algo::terminal {
-
-namespace {
-
-// Takes a text apart into fields, and counts the lines.
-class TCsvScanner {
- public:
-  TCsvScanner(const std::string& file, std::string_view text) : FFile(file), FRest(text) {
-    constexpr std::string_view ByteOrderMark = "\xEF\xBB\xBF";
-    if (FRest.starts_with(ByteOrderMark)) FRest.remove_prefix(ByteOrderMark.size());
-  }
-
-  /// The line that the next call of ReadFields begins at.
-  std::size_t Line() const { return FLine; }
-
-  /// Whether there is one more line with fields; passes over those without.
-  bool SkipToFields() {
-    while (!FRest.empty() && (FRest[0] == '#' || FRest[0] == '\n' || FRest.starts_with("\r\n"))) {
-      FRest.remove_prefix(std::min(FRest.find('\n'), FRest.size() - 1) + 1);
-      ++FLine;
-    }
-    return !FRest.empty();
-  }
-
-  std::vector<std::string> ReadFields() {
-    std::vector<std::string> fields;
-    do {
-      fields.push_back(FRest.starts_with('"') ? ReadQuoted() : ReadPlain());
-    } while (TakeComma());
-    EndLine();
-    return fields;
-  }
-
- private:
-  std::string ReadPlain() {
-    const std::size_t end = std::min(FRest.find_first_of(",\n"), FRest.size());
-    std::string field(FRest.substr(0, end));
-    FRest.remove_prefix(end);
-    const bool lastOfLine = FRest.empty() || FRest[0] == '\n';
-    if (lastOfLine && field.ends_with('\r')) field.pop_back();
-    return field;
-  }
-
-  std::string ReadQuoted() {
-    const std::size_t begin = FLine;
-    std::string field;
-    FRest.remove_prefix(1);
-    for (;;) {
-      const std::size_t quote = FRest.find('"');
-      if (quote == std::string_view::npos) {
-        throw EPaperError(FFile, begin, "a quoted field does not end; a closing quote is expected");
-      }
-      const std::string_view part = FRest.substr(0, quote);
-      field += part;
-      FLine += static_cast<std::size_t>(std::count(part.begin(), part.end(), '\n'));
-      FRest.remove_prefix(quote + 1);
-      if (!FRest.starts_with('"')) return field;
-      field += '"';
-      FRest.remove_prefix(1);
-    }
-  }
-
-  bool TakeComma() {
-    if (!FRest.starts_with(',')) return false;
-    FRest.remove_prefix(1);
-    return true;
-  }
-
-  void EndLine() {
-    if (FRest.starts_with('\r')) FRest.remove_prefix(1);
-    if (!FRest.empty() && FRest[0] != '\n') {
-      throw EPaperError(FFile, FLine, "text after a closing quote; a comma or the line's end is expected");
-    }
-    if (!FRest.empty()) FRest.remove_prefix(1);
-    ++FLine;
-  }
-
-  const std::string& FFile;
-  std::string_view FRest;
-  std::size_t FLine = 1;
-};
-
-}  // namespace
 
 TCsvTable::TCsvTable(std::string file, std::string_view text, std::span<const std::string_view> wanted)
     : FFile(std::move(file)) {

@@ -4,6 +4,9 @@
 // row says in which part of the day the algorithm works, at what price, when it begins, how much it wants in
 // a step, and how much of the market it may take for that. What holds for every algorithm is not here: the
 // limit, the lots, the quantity on display, and that nothing is filled beyond the order.
+//
+// Nothing here heeds the choices for auctions, style, function and joining, the least amount of a child, the
+// reload percentage and the time-outs: a paper market has no queue for them to matter in.
 
 #include <string_view>
 

@@ -44,14 +44,17 @@ class TPaperEngine {
 
  private:
   void Notice(const host::TCustomClientOrder& order);
+  void NoticeParentOf(const TPaperOrder& order);
   void Settle(TPaperOrder& order, TMoment stepBegin);
   bool TakeTerms(TPaperOrder& order, TMoment stepBegin);
   std::string_view ReadTerms(TPaperOrder& order, TMoment stepBegin) const;
   bool ParentIsDone(const TPaperOrder& order) const;
   void Work(TPaperOrder& order, TMoment now, double seconds);
   void Fill(TPaperOrder& order, const TStepView& view);
+  double OnDisplay(const TPaperOrder& order, double lot);
   void SumUp(TPaperOrder& parent);
-  void Report(TPaperOrder& order, const TOrderEvent& event, const TOutcome& outcome);
+  void Report(TPaperOrder& order, std::string_view what, std::string_view answer, const TOutcome& outcome);
+  void Record(TPaperOrder& order, const TOrderEvent& event, const TOutcome& outcome);
 
   TMemoryHost& FHost;
   TPaperMarket& FMarket;

@@ -9,16 +9,20 @@ namespace algo::terminal {
 
 double TOutcome::Average() const { return filled > 0 ? value / filled : 0; }
 
+TOutcome TOutcome::WithStatus(std::int32_t newStatus) const { return {filled, value, newStatus}; }
+
+TOutcome TOutcome::WithProgress(double quantity) const {
+  if (IsDone(status) || filled <= 0) return *this;
+  return WithStatus(filled >= quantity ? status::Filled : status::PartlyFilled);
+}
+
 bool TTerms::Match(const host::TCustomClientOrder& order) const {
   return symbol == order.symbol && side == order.side && quantity == order.quantity && price == order.price &&
          text == order.TextProperty(host::AlgoTextProperty);
 }
 
-TPaperOrder::TPaperOrder(const host::TCustomClientOrder& storedOrder) : order(storedOrder) {
-  outcome.filled = order.filled;
-  outcome.value = order.filled * text::NumberOr(order.NamedText(AveragePriceProperty), order.price);
-  outcome.status = order.status;
-}
+TPaperOrder::TPaperOrder(const host::TCustomClientOrder& storedOrder)
+    : order(storedOrder), outcome(ShownOutcome()) {}
 
 bool TPaperOrder::IsParent() const { return (order.flags & host::WorkParentMark) != 0; }
 
@@ -29,6 +33,11 @@ bool TPaperOrder::IsChildOf(const TPaperOrder& parent) const {
 
 bool TPaperOrder::IsWorkedHere() const {
   return IsParent() || !order.TextProperty(host::AlgoTextProperty).empty();
+}
+
+TOutcome TPaperOrder::ShownOutcome() const {
+  const double average = text::NumberOr(order.NamedText(AveragePriceProperty), order.price);
+  return {order.filled, order.filled * average, order.status};
 }
 
 bool TPaperOrder::ShowsAnotherOutcome() const {

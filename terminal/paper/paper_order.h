@@ -24,6 +24,11 @@ struct TOutcome {
 
   /// The average price; 0 while nothing is filled.
   double Average() const;
+  /// The same with that status.
+  TOutcome WithStatus(std::int32_t newStatus) const;
+  /// The same with the status of an order of that quantity of which so much is filled; what is done stays so,
+  /// and what is not filled has the status that it has.
+  TOutcome WithProgress(double quantity) const;
 };
 
 /// What of an order the trader decides; the engine reads the order anew when it differs.
@@ -47,6 +52,8 @@ struct TPaperOrder {
   bool IsWorkedHere() const;
   bool IsBuy() const { return order.side == host::SideBuy; }
 
+  /// How far the order has come by what the stored order says.
+  TOutcome ShownOutcome() const;
   /// Whether the stored order shows another outcome than the books.
   bool ShowsAnotherOutcome() const;
 

@@ -11,6 +11,7 @@
 #include "terminal/drive/module_library.h"
 #include "terminal/drive/session.h"
 #include "terminal/play/widget_trader.h"
+#include "terminal/play/window_stage.h"
 
 int main(int argc, char** argv) {
   constexpr int UnusableArguments = 2;
@@ -33,7 +34,8 @@ int main(int argc, char** argv) {
   QApplication application(argc, argv);
   QApplication::setQuitOnLastWindowClosed(false);
   try {
-    algo::terminal::TWidgetTrader trader;
+    algo::terminal::TWindowStage stage;
+    algo::terminal::TWidgetTrader trader(stage);
     algo::terminal::TSession session(module, trader);
     algo::terminal::Drive(session, std::cin, std::cout);
   } catch (const std::exception& error) {

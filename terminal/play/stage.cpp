@@ -1,64 +1,7 @@
 #include "terminal/play/stage.h"
 
-#include <QApplication>
-#include <QLabel>
-#include <QTest>
-#include <QVBoxLayout>
-#include <algorithm>
-
 namespace algo::terminal {
 
-struct TStage::TWindow {
-  TWindow(const std::shared_ptr<forms::TFrame>& shown, const TEditorAids& aids)
-      : frame(shown.get()), rest(new QLabel(&window)), view(new TFrameView(shown, aids, &window)) {
-    auto* column = new QVBoxLayout(&window);
-    column->addWidget(rest);
-    column->addWidget(view);
-    rest->setText(ToQt(shown->ClassName()));
-    rest->setFocusPolicy(Qt::ClickFocus);
-    window.setWindowTitle(rest->text());
-  }
-
-  const forms::TFrame* frame;
-  QWidget window;
-  QLabel* rest;
-  TFrameView* view;
-};
-
-TStage::TStage() = default;
 TStage::~TStage() = default;
-
-TFrameView& TStage::ViewOf(const std::shared_ptr<forms::TFrame>& frame) {
-  Views();
-  auto found = std::find_if(FWindows.begin(), FWindows.end(),
-                            [&](const auto& window) { return window->frame == frame.get(); });
-  if (found == FWindows.end()) {
-    FWindows.push_back(std::make_unique<TWindow>(frame, FAids));
-    found = FWindows.end() - 1;
-    (*found)->window.show();
-    // A window that opens has the focus nowhere in particular, as the frame has.
-    (*found)->rest->setFocus();
-  }
-  QWidget& window = (*found)->window;
-  if (!window.isActiveWindow()) {
-    window.activateWindow();
-    window.raise();
-    (void)QTest::qWaitForWindowActive(&window);
-  }
-  return *(*found)->view;
-}
-
-QWidget& TStage::RestOf(const TFrameView& view) const {
-  const auto found = std::find_if(FWindows.begin(), FWindows.end(),
-                                  [&](const auto& window) { return window->view == &view; });
-  return *(*found)->rest;
-}
-
-std::vector<const TFrameView*> TStage::Views() {
-  std::erase_if(FWindows, [](const auto& window) { return window->view->Frame() == nullptr; });
-  std::vector<const TFrameView*> views;
-  for (const auto& window : FWindows) views.push_back(window->view);
-  return views;
-}
 
 }  // namespace algo::terminal

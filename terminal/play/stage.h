@@ -1,14 +1,11 @@
 #pragma once
 
-// Where frames stand while a script plays: each in a window of its own, made when the trader first turns to
-// it. A window goes with its frame.
+// Where frames stand while a script plays.
 
 #include <QWidget>
-#include <map>
 #include <memory>
 #include <vector>
 
-#include "forms/dialog_form.h"
 #include "forms/frame.h"
 #include "terminal/render/frame_view.h"
 
@@ -16,23 +13,16 @@ namespace algo::terminal {
 
 class TStage {
  public:
-  TStage();
-  ~TStage();
+  virtual ~TStage();
 
-  /// The frame's view, in a window that shows and is active.
-  TFrameView& ViewOf(const std::shared_ptr<forms::TFrame>& frame);
+  /// The frame's view, in a window that shows and is active. Throws EError when the frame is shown nowhere.
+  virtual TFrameView& ViewOf(const std::shared_ptr<forms::TFrame>& frame) = 0;
 
   /// Where the focus can rest in that view's window, outside of the view.
-  QWidget& RestOf(const TFrameView& view) const;
+  virtual QWidget& RestOf(const TFrameView& view) const = 0;
 
-  /// The views whose frames are there, in the order in which they were made; windows of others are closed.
-  std::vector<const TFrameView*> Views();
-
- private:
-  struct TWindow;
-
-  TEditorAids FAids;
-  std::vector<std::unique_ptr<TWindow>> FWindows;
+  /// The views that show a frame at the moment.
+  virtual std::vector<const TFrameView*> Views() = 0;
 };
 
 }  // namespace algo::terminal

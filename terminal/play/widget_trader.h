@@ -10,6 +10,9 @@ namespace algo::terminal {
 
 class TWidgetTrader final : public TTrader {
  public:
+  /// `stage` outlives the trader.
+  explicit TWidgetTrader(TStage& stage) : FStage(stage) {}
+
   forms::TInputResult Type(const TFramePointer& frame, forms::TControl& control,
                            std::string_view text) override;
   forms::TInputResult Enter(const TFramePointer& frame, forms::TControl& control) override;
@@ -20,10 +23,8 @@ class TWidgetTrader final : public TTrader {
   /// Throws ECommandError naming the widgets that do not show what their controls hold.
   void Settle() override;
 
-  TStage& Stage() { return FStage; }
-
  private:
-  TStage FStage;
+  TStage& FStage;
 };
 
 }  // namespace algo::terminal

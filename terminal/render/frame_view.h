@@ -16,6 +16,7 @@
 namespace algo::terminal {
 
 class TFrameView final : public QWidget, private forms::TFrameObserver {
+  Q_OBJECT
  public:
   /// Shows the frame as long as both live. The view does not keep the frame; without it, it is an empty
   /// widget. `aids` outlives the view.

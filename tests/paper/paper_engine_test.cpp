@@ -1,12 +1,10 @@
-// What becomes of orders beyond the filling: how they begin, change, end and add up.
+// What becomes of orders beyond the filling: how they begin and end, and what the ledger is told.
 
 #include "terminal/paper/paper_engine.h"
 
 #include <limits>
-#include <sstream>
 
 #include "tests/paper/sample_market.h"
-#include "text/number_text.h"
 
 namespace algo::terminal::tests {
 namespace {
@@ -141,253 +139,16 @@ TEST_F(Engine, OrdersThatWereThereBeforeGoOnWithWhatTheyHave) {
   EXPECT_EQ(keeper.lines, (std::vector<std::string>{"OLD: paper fill 300 at 10.02"}));
 }
 
-TEST_F(Engine, AnEngineThatIsGoneIsToldNothing) {
-  { TPaperEngine shortLived(host, market, 1); }
-  EXPECT_NO_THROW(Send(Tvol));
-}
-
-// Changes
-
-TEST_F(Engine, AChangedOrderGoesOnWithTheNewFigures) {
-  const auto& order = Send(Tvol);
-  Quote(10, 10.02, 10, 2000);
-  Step("10:01:00");
-  host::TCustomClientOrder changed(order);
-  changed.quantity = 2000;
-  changed.price = 10;
-  changed.SetTextProperty(host::AlgoTextProperty, "TMLO:AlgoId=TVOL,VolPct=50;");
-  Change(changed);
-  Step("10:02:00");
-  EXPECT_EQ(order.filled, 400) << "the offer is above the new limit";
-  Quote(9.98, 10, 10, 2000);
-  Step("10:03:00");
-  EXPECT_EQ(order.filled, 1400) << "half of the volume";
-}
-
-TEST_F(Engine, AChangeMadeOnAnOldCopyTakesNoFillBack) {
-  const auto& order = Send(Tvol);
-  host::TCustomClientOrder changed(order);
-  Quote(10, 10.02, 10, 2000);
-  Step("10:01:00");
-  changed.quantity = 3000;
-  Change(changed);
-  EXPECT_EQ(order.filled, 0) << "as the old copy says, until the next step";
-  Quote(10, 10.02, 10, 0);
-  Step("10:02:00");
-  EXPECT_EQ(order.filled, 400);
-  EXPECT_EQ(order.status, 2);
-  EXPECT_EQ(Average(order), "10.02");
-  EXPECT_EQ(order.quantity, 3000);
-}
-
-TEST_F(Engine, AQuantityBelowWhatIsFilledEndsTheOrder) {
-  const auto& order = Send(Tvol);
-  Quote(10, 10.02, 10, 2000);
-  Step("10:01:00");
-  host::TCustomClientOrder changed(order);
-  for (const double quantity : {300.0, 0.0, -5.0}) {
-    changed.quantity = quantity;
-    Change(changed);
-    Step("10:02:00");
-    EXPECT_EQ(order.quantity, 400);
-    EXPECT_EQ(order.filled, 400);
-    EXPECT_EQ(order.status, 3);
+TEST(EngineLife, AnEngineThatIsGoneIsToldNothing) {
+  TEventNotes notes;
+  TMemoryHost host(notes);
+  TPaperMarket market(host, SampleTables(), 1);
+  {
+    const TPaperEngine engine(host, market, 1);
+    EXPECT_FALSE(host.Ledger().Listeners().Empty());
   }
+  EXPECT_TRUE(host.Ledger().Listeners().Empty());
 }
-
-TEST_F(Engine, AQuantityOfExactlyWhatIsFilledEndsTheOrder) {
-  const auto& order = Send(Tvol);
-  Quote(10, 10.02, 10, 2000);
-  Step("10:01:00");
-  host::TCustomClientOrder changed(order);
-  changed.quantity = 400;
-  Change(changed);
-  Step("10:02:00");
-  EXPECT_EQ(order.status, 3);
-  EXPECT_EQ(order.filled, 400);
-}
-
-TEST_F(Engine, AnOrderThatIsDoneStaysDoneWhateverItIsChangedTo) {
-  const auto& order = Send(Tvol);
-  host::TCustomClientOrder changed(order);
-  EXPECT_TRUE(engine.Cancel(order.key, "trader"));
-  changed.quantity = 5000;
-  Change(changed);
-  Quote(10, 10.02, 10, 2000);
-  Step("10:01:00");
-  EXPECT_EQ(order.status, 4);
-  EXPECT_EQ(order.filled, 0);
-}
-
-TEST_F(Engine, TwapSpreadsTheNewRestOverTheTimeThatIsLeft) {
-  const auto& order = Send("TMLO:AlgoId=TWAP,STime=20261120-10:00:00,ETime=20261120-10:10:00;");
-  Quote(10, 10.02, 10, 100000);
-  Step("10:05:00", 300);
-  EXPECT_EQ(order.filled, 500);
-  host::TCustomClientOrder changed(order);
-  changed.quantity = 2500;
-  Change(changed);
-  Step("10:06:00");
-  EXPECT_EQ(order.filled, 900) << "a fifth of the 2,000 that are left";
-}
-
-TEST_F(Engine, AnOrderChangedIntoNonsenseIsRejectedWithWhatItHas) {
-  const auto& order = Send(Tvol);
-  Quote(10, 10.02, 10, 2000);
-  Step("10:01:00");
-  host::TCustomClientOrder changed(order);
-  changed.SetTextProperty(host::AlgoTextProperty, "nonsense");
-  Change(changed);
-  Step("10:02:00");
-  EXPECT_EQ(order.status, -1);
-  EXPECT_EQ(order.filled, 400);
-}
-
-// Cancelling
-
-TEST_F(Engine, ACancelledOrderKeepsWhatItHas) {
-  const auto& order = Send(Tvol);
-  Quote(10, 10.02, 10, 2000);
-  Step("10:01:00");
-  EXPECT_TRUE(engine.Cancel("N1", "dealer1"));
-  EXPECT_EQ(order.status, 4);
-  EXPECT_EQ(order.filled, 400);
-  EXPECT_EQ(keeper.lines.back(), "N1: dealer1 cancel accepted");
-  Step("10:02:00");
-  EXPECT_EQ(order.filled, 400);
-}
-
-TEST_F(Engine, AnOrderThatIsDoneOrUnknownIsNotCancelled) {
-  Send(Tvol);
-  EXPECT_TRUE(engine.Cancel("N1", "dealer1"));
-  EXPECT_FALSE(engine.Cancel("N1", "dealer1"));
-  EXPECT_EQ(keeper.lines.back(), "N1: dealer1 cancel refused");
-  EXPECT_FALSE(engine.Cancel("N2", "dealer1"));
-  EXPECT_EQ(keeper.lines.size(), 3u);
-}
-
-TEST_F(Engine, AnOrderThatWasNotYetLookedAtCanBeCancelled) {
-  const auto& order = Send(Tvol);
-  EXPECT_TRUE(engine.Cancel("N1", "dealer1"));
-  Quote(10, 10.02, 10, 2000);
-  Step("10:01:00");
-  EXPECT_EQ(order.status, 4);
-  EXPECT_EQ(order.filled, 0);
-}
-
-TEST_F(Engine, AnOrderWithoutAnAlgorithmCanBeCancelled) {
-  const auto& order = Send("");
-  EXPECT_TRUE(engine.Cancel("N1", "dealer1"));
-  EXPECT_EQ(order.status, 4);
-  EXPECT_FALSE(engine.Cancel("N1", "dealer1"));
-}
-
-// Parents and children
-
-TEST_F(Engine, AParentShowsTheSumOfItsChildren) {
-  const auto& parent = SendParent(2000);
-  const auto& first = SendChild(parent, "TMLO:AlgoId=TVOL,VolPct=20;", 1000);
-  const auto& second = SendChild(parent, "TMLO:AlgoId=TVOL,VolPct=40;", 1000);
-  Quote(10, 10.02, 10, 1000);
-  Step("10:01:00");
-  EXPECT_EQ(first.filled, 200);
-  EXPECT_EQ(second.filled, 400);
-  EXPECT_EQ(parent.filled, 600);
-  EXPECT_EQ(parent.status, 2);
-  EXPECT_EQ(Average(parent), "10.02");
-  Quote(10, 10.12, 10, 100000);
-  Step("10:02:00");
-  EXPECT_EQ(parent.filled, 2000);
-  EXPECT_EQ(parent.status, 3);
-  EXPECT_EQ(Average(parent), "10.09") << "600 at 10.02 and 1,400 at 10.12";
-}
-
-TEST_F(Engine, AParentIsNotWorkedItself) {
-  host::TCustomClientOrder wanted = Ordered(Tvol);
-  wanted.flags = host::WorkMark | host::WorkParentMark;
-  const auto& parent = Send(wanted);
-  Quote(10, 10.02, 10, 100000);
-  Step("10:01:00");
-  Step("17:00:00");
-  EXPECT_EQ(parent.filled, 0);
-  EXPECT_EQ(parent.status, 0);
-}
-
-TEST_F(Engine, OrdersThatOnlyNameAParentAreNotItsChildren) {
-  const auto& parent = SendParent(2000);
-  host::TCustomClientOrder stranger = Ordered(Tvol);
-  stranger.parentNo = parent.orderNo;
-  Send(stranger);
-  Quote(10, 10.02, 10, 1000);
-  Step("10:01:00");
-  EXPECT_EQ(parent.filled, 0);
-}
-
-TEST_F(Engine, AChildDoesNotInheritTheAverageOfItsParent) {
-  const auto& parent = SendParent(2000);
-  SendChild(parent, Tvol, 500);
-  Quote(10, 10.02, 10, 1000);
-  Step("10:01:00");
-  host::TCustomClientOrder copy(parent);
-  copy.filled = 0;
-  copy.flags = host::WorkChildMark;
-  copy.parentNo = parent.orderNo;
-  copy.quantity = 500;
-  copy.SetTextProperty(host::AlgoTextProperty, "TMLO:AlgoId=TVOL,STime=20261120-15:00:00;");
-  const auto& child = Send(copy);
-  EXPECT_EQ(Average(child), "10.02");
-  Step("10:02:00");
-  EXPECT_EQ(Average(child), "");
-}
-
-TEST_F(Engine, CancellingAParentCancelsItsChildrenThatAreNotDone) {
-  const auto& parent = SendParent(3000);
-  const auto& done = SendChild(parent, "TMLO:AlgoId=TVOL,VolPct=50;", 200);
-  const auto& live = SendChild(parent, Tvol, 1000);
-  const auto& other = Send(Tvol);
-  Quote(10, 10.02, 10, 1000);
-  Step("10:01:00");
-  keeper.lines.clear();
-  EXPECT_TRUE(engine.Cancel(parent.key, "dealer1"));
-  EXPECT_EQ(keeper.lines, (std::vector<std::string>{
-                              "N3: dealer1 cancel accepted",
-                              "N1: dealer1 cancel accepted",
-                          }));
-  EXPECT_EQ(done.status, 3);
-  EXPECT_EQ(live.status, 4);
-  EXPECT_EQ(parent.status, 4);
-  EXPECT_EQ(other.status, 2);
-  Step("10:02:00");
-  EXPECT_EQ(parent.filled, 400);
-  EXPECT_EQ(parent.status, 4);
-}
-
-TEST_F(Engine, AChildThatIsCutFromACancelledParentIsRejected) {
-  const auto& parent = SendParent(3000);
-  engine.Cancel(parent.key, "dealer1");
-  const auto& child = SendChild(parent, Tvol, 1000);
-  Quote(10, 10.02, 10, 1000);
-  Step("10:01:00");
-  EXPECT_EQ(child.status, -1);
-  EXPECT_EQ(keeper.lines.back(), "N2: paper reject the parent order is done");
-}
-
-TEST_F(Engine, AParentChangedBelowWhatIsFilledIsFilled) {
-  const auto& parent = SendParent(2000);
-  SendChild(parent, "TMLO:AlgoId=TVOL,VolPct=40;", 1000);
-  Quote(10, 10.02, 10, 1000);
-  Step("10:01:00");
-  host::TCustomClientOrder changed(parent);
-  changed.quantity = 300;
-  Change(changed);
-  Quote(10, 10.02, 10, 0);
-  Step("10:02:00");
-  EXPECT_EQ(parent.status, 3);
-  EXPECT_EQ(parent.filled, 400);
-  EXPECT_EQ(parent.quantity, 400);
-}
-
-// Failures
 
 TEST_F(Engine, AFillThatCannotBeKeptHasNotHappened) {
   const auto& order = Send(Tvol);

@@ -3,29 +3,12 @@
 #include <gtest/gtest.h>
 
 #include <cmath>
-#include <cstdlib>
-#include <new>
 
 #include "terminal/paper/market_fields.h"
 #include "terminal/paper/recorded_prices.h"
+#include "tests/model/allocation_count.h"
 #include "tests/paper/sample_market.h"
 #include "text/number_text.h"
-
-namespace {
-
-std::size_t Allocations = 0;
-
-}  // namespace
-
-// Counts what the program takes from the heap.
-void* operator new(std::size_t size) {
-  ++Allocations;
-  void* memory = std::malloc(size == 0 ? 1 : size);
-  if (memory == nullptr) throw std::bad_alloc();
-  return memory;
-}
-void operator delete(void* memory) noexcept { std::free(memory); }
-void operator delete(void* memory, std::size_t) noexcept { std::free(memory); }
 
 namespace algo::terminal {
 namespace {
@@ -163,9 +146,34 @@ TEST(PaperMarket, AStepTakesNoMemory) {
   TPaperMarket market(host, LoadMarketTables(ExampleFolder()), 3);
   // By then every item has all its fields.
   for (int i = 0; i < 600; ++i) market.Advance(1);
-  const std::size_t before = Allocations;
+  const std::size_t before = model::AllocationCount();
   for (int i = 0; i < 600; ++i) market.Advance(1);
-  EXPECT_EQ(Allocations, before);
+  EXPECT_EQ(model::AllocationCount(), before);
+}
+
+TEST(PaperMarket, OrdersThatWaitTakeNoMemory) {
+  tests::TEventNotes notes;
+  TMemoryHost host(notes);
+  TPaperMarket market(host, SampleTables(), 3);
+  TPaperEngine engine(host, market, 3);
+  for (const char* text : {"TMLO:AlgoId=TVOL,VolPct=20,WPx=0.01;", "TMLO:AlgoId=CLOSE;", "",
+                           "TMLO:AlgoId=STOP,StopLossPx=1000;", "TMLO:AlgoId=PEG,ShowQty=500,WPx=0.01;"}) {
+    host::TCustomClientOrder order;
+    order.key = order.orderNo = host.Orders().NextFreeKey();
+    order.symbol = "AAA";
+    order.quantity = 1000;
+    order.SetTextProperty(host::AlgoTextProperty, text);
+    host.Ledger().Record({"trader", "new", "accepted"}, order);
+  }
+  const text::TDateTime begin = tests::At("10:00:00");
+  const auto step = [&](int minute) {
+    market.Advance(60);
+    engine.Advance(begin + std::chrono::minutes(minute), 60);
+  };
+  for (int i = 1; i < 60; ++i) step(i);
+  const std::size_t before = model::AllocationCount();
+  for (int i = 60; i < 120; ++i) step(i);
+  EXPECT_EQ(model::AllocationCount(), before);
 }
 
 class TReplay : public testing::Test {
@@ -216,6 +224,12 @@ TEST_F(TReplay, AtSpeedTenATenthIsASecond) {
   for (int i = 0; i < 8; ++i) market->Advance(0.1);
   EXPECT_EQ(market->Quote("AAA")->bid, 10);
   EXPECT_EQ(market->Quote("AAA")->volume, 1000);
+}
+
+TEST_F(TReplay, ALineIsNotLateForWhatManySmallStepsLose) {
+  const auto market = Market(1);
+  for (int i = 0; i < 10; ++i) market->Advance(0.1);
+  EXPECT_EQ(market->Quote("AAA")->bid, 10.02);
 }
 
 TEST_F(TReplay, AllLinesOfAStepCountAndTheLastOneStands) {

@@ -1,0 +1,37 @@
+#pragma once
+
+// Takes the text of a CSV file apart into the fields of its lines, and counts the lines.
+
+#include <cstddef>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace algo::terminal {
+
+class TCsvScanner {
+ public:
+  /// Passes over a byte-order mark. `file`, the name for messages, and `text` outlive the scanner.
+  TCsvScanner(const std::string& file, std::string_view text);
+
+  /// The number of the line that the next call of ReadFields begins at, from 1.
+  std::size_t Line() const { return FLine; }
+
+  /// Passes over comments and empty lines; whether a line with fields follows.
+  bool SkipToFields();
+
+  /// The fields of the line, one at least. Throws EPaperError when the quotes in it do not match.
+  std::vector<std::string> ReadFields();
+
+ private:
+  std::string ReadPlain();
+  std::string ReadQuoted();
+  bool TakeComma();
+  void EndLine();
+
+  const std::string& FFile;
+  std::string_view FRest;
+  std::size_t FLine = 1;
+};
+
+}  // namespace algo::terminal
