@@ -3,6 +3,7 @@
 #include <QMenu>
 #include <QTreeView>
 
+#include "plugin/host_contract/view_functions.h"
 #include "tests/desk/desk_fixture.h"
 
 namespace algo::terminal::tests {
@@ -144,6 +145,17 @@ TEST_F(TBesideTest, FormsTakeUpALanguageWhileTheyShow) {
   Choose(0, "changeOrder");
   desk->SetLanguage(TLanguage::TraditionalChinese);
   EXPECT_EQ(FromQt(Forms()[0]->windowTitle()), desk->Texts().Resource("Res_Conf_ChangeOrder"));
+}
+
+TEST_F(TBesideTest, AFormTakesTheSizeThatItsFrameWants) {
+  Choose(0, "changeOrder");
+  TFormWindow& form = *Forms()[0];
+  const QSize before = form.size();
+  auto& frame = dynamic_cast<host::TViewFrame&>(*FrameIn(form).Frame());
+  form.resize(before + QSize(100, 100));
+  frame.Layout().Find("lgAlgo")->SetVisible(false);
+  host::SendViewNotify(frame, 1025);
+  EXPECT_LT(form.width(), before.width());
 }
 
 TEST_F(TBesideTest, TheProgramEndsWithFormsOpen) {
