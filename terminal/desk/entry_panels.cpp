@@ -21,9 +21,11 @@ TEntryPanel* TEntryPanels::Open() {
   if (panel == nullptr) return nullptr;
   // Beside the last one as a tab, so that the others keep their room.
   if (FPanels.size() > 1) FWindow.tabifyDockWidget(FPanels[FPanels.size() - 2], panel);
-  panel->Fit();
   panel->show();
   panel->raise();
+  panel->Fit();
+  // Whoever opens a view means to type into it.
+  panel->FocusFirst();
   return panel;
 }
 
@@ -42,6 +44,10 @@ std::vector<TKeptEntry> TEntryPanels::Kept() const {
                     FDesk.Provider().GetLayoutData(panel->Instance())});
   }
   return kept;
+}
+
+void TEntryPanels::FocusFirst() {
+  if (!FPanels.empty()) FPanels.front()->FocusFirst();
 }
 
 void TEntryPanels::CloseAll() {

@@ -24,6 +24,7 @@ int Run(const algo::terminal::TDeskOptions& options) {
   algo::terminal::TMainWindow window(desk);
   window.RestoreWorkspace(options);
   window.show();
+  window.Entries().FocusFirst();
   desk.Start();
   return QApplication::exec();
 }
