@@ -30,6 +30,14 @@ std::string DatabaseIn(const std::string& folder) {
   return (std::filesystem::path(folder) / "algo-desk.db").string();
 }
 
+std::unique_ptr<TLoadedModule> LoadModule(const std::string& file, const void* owner) {
+  try {
+    return std::make_unique<TLoadedModule>(file, owner);
+  } catch (const EError& error) {
+    throw EError(std::string(error.what()) + ". Name the file of the module with --module.");
+  }
+}
+
 std::unique_ptr<TPriceSource> PricesFor(const TDeskOptions& options, const TMarketTables& tables) {
   if (options.replayFile.empty()) return std::make_unique<TGeneratedPrices>(tables, options.seed);
   return std::make_unique<TRecordedPrices>(LoadRecording(options.replayFile, tables), tables, options.speed);
@@ -63,7 +71,7 @@ TDesk::TDesk(const TDeskOptions& options)
     if (const auto view = std::dynamic_pointer_cast<host::TViewFrame>(form.Frame()))
       FViews.insert(HandleOf(*view));
   });
-  FModule = std::make_unique<TLoadedModule>(options.moduleFile, this);
+  FModule = LoadModule(options.moduleFile, this);
   connect(&FTimer, &QTimer::timeout, this, &TDesk::StepByClock);
 }
 

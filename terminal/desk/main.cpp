@@ -2,8 +2,10 @@
 
 #include <QApplication>
 #include <QMessageBox>
+#include <algorithm>
 #include <exception>
 #include <iostream>
+#include <string>
 
 #include "terminal/desk/day_player.h"
 #include "terminal/desk/desk_arguments.h"
@@ -45,7 +47,9 @@ int main(int argc, char** argv) {
   try {
     return Run(*arguments.options);
   } catch (const std::exception& error) {
-    std::cerr << "algo-desk: " << error.what() << '\n';
+    std::string line = error.what();
+    std::replace(line.begin(), line.end(), '\n', ' ');
+    std::cerr << "algo-desk: " << line << '\n';
     if (SomebodyLooks()) QMessageBox::critical(nullptr, "Algo Desk", ToQt(error.what()));
     return CannotStart;
   }

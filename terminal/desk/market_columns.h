@@ -29,7 +29,7 @@ struct TMarketColumn {
 
 inline constexpr std::array MarketColumns{
     TMarketColumn{"Symbol", TMarketColumnKind::Symbol, 0, 9},
-    TMarketColumn{"Name", TMarketColumnKind::Name, 0, 28},
+    TMarketColumn{"Name", TMarketColumnKind::Name, 0, 34},
     TMarketColumn{"Exchange", TMarketColumnKind::Exchange, 0, 10},
     TMarketColumn{"Last", TMarketColumnKind::Price, host::PriceField, 10},
     TMarketColumn{"Change", TMarketColumnKind::Change, host::PriceField, 9},

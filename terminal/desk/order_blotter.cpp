@@ -4,7 +4,6 @@
 #include <QHBoxLayout>
 #include <QHeaderView>
 #include <QMenu>
-#include <QRadioButton>
 #include <QVBoxLayout>
 #include <array>
 
@@ -16,14 +15,8 @@ namespace algo::terminal {
 
 namespace {
 
-struct TShownRow {
-  TOrdersShown shown;
-  const char* name;
-  const char* textKey;
-};
-constexpr std::array ShownRows{TShownRow{TOrdersShown::All, "showAll", "All"},
-                               TShownRow{TOrdersShown::Open, "showOpen", "Open"},
-                               TShownRow{TOrdersShown::Done, "showDone", "Done"}};
+// In the order of TOrdersShown.
+constexpr std::array ShownKeys{"All", "Open", "Done"};
 
 struct TCommandRow {
   TOrderCommand command;
@@ -43,7 +36,7 @@ TOrderBlotter::TOrderBlotter(TMemoryHost& host, const TTexts& texts)
       FOrders(host, texts),
       FFilter(FOrders),
       FTree(*new QTreeView),
-      FShown(*new QButtonGroup(this)),
+      FShown(*new QComboBox),
       FText(*new QLineEdit) {
   FTree.setObjectName("orderTree");
   FTree.setModel(&FFilter);
@@ -82,11 +75,9 @@ void TOrderBlotter::Retranslate() {
   FNote->setText(FTexts.Desk("No orders yet"));
   FText.setPlaceholderText(FTexts.Desk("Filter"));
   FText.setAccessibleName(FTexts.Desk("Filter"));
-  for (const TShownRow& row : ShownRows) {
-    auto& button = *FShown.button(static_cast<int>(row.shown));
-    button.setText(FTexts.Desk(row.textKey));
-    button.setAccessibleName(button.text());
-  }
+  FShown.setAccessibleName(FTexts.Desk("Orders shown"));
+  for (int i = 0; i < FShown.count(); ++i)
+    FShown.setItemText(i, FTexts.Desk(ShownKeys[static_cast<std::size_t>(i)]));
   FOrders.Retranslate();
 }
 
@@ -107,18 +98,14 @@ QWidget& TOrderBlotter::MakeFilterRow() {
   auto& bar = *new QWidget;
   auto* row = new QHBoxLayout(&bar);
   row->setContentsMargins(4, 2, 4, 0);
-  for (const TShownRow& shown : ShownRows) {
-    auto* button = new QRadioButton(&bar);
-    button->setObjectName(shown.name);
-    button->setChecked(shown.shown == TOrdersShown::All);
-    FShown.addButton(button, static_cast<int>(shown.shown));
-    row->addWidget(button);
-  }
+  FShown.setObjectName("ordersShown");
+  for (const char* key : ShownKeys) FShown.addItem(key);
+  row->addWidget(&FShown);
   FText.setObjectName("orderFilter");
   FText.setClearButtonEnabled(true);
   row->addWidget(&FText, 1);
-  connect(&FShown, &QButtonGroup::idClicked, this,
-          [this](int id) { FFilter.Show(static_cast<TOrdersShown>(id)); });
+  connect(&FShown, &QComboBox::currentIndexChanged, &FFilter,
+          [this](int place) { FFilter.Show(static_cast<TOrdersShown>(place)); });
   connect(&FText, &QLineEdit::textChanged, &FFilter, &TOrderFilter::ShowText);
   return bar;
 }

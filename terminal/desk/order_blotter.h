@@ -2,7 +2,7 @@
 
 // The order blotter: all orders, children below their parents, with filters and what can be done to an order.
 
-#include <QButtonGroup>
+#include <QComboBox>
 #include <QLineEdit>
 #include <QTreeView>
 #include <functional>
@@ -48,7 +48,7 @@ class TOrderBlotter final : public TPanel {
   TOrderModel FOrders;
   TOrderFilter FFilter;
   QTreeView& FTree;
-  QButtonGroup& FShown;
+  QComboBox& FShown;
   QLineEdit& FText;
   TEmptyNote* FNote = nullptr;
 };
