@@ -2,6 +2,7 @@
 
 #include <QContextMenuEvent>
 #include <QMenu>
+#include <QMenuBar>
 #include <QTest>
 #include <QTreeView>
 #include <algorithm>
@@ -14,6 +15,23 @@
 #include "terminal/render/qt_text.h"
 
 namespace algo::terminal {
+
+namespace {
+
+/// Opens the menu that has the entry and clicks the entry in it. Throws ECommandError when no menu has it.
+void ChooseInMenu(QMainWindow& window, const QString& name) {
+  const auto* action = window.findChild<QAction*>(name);
+  auto* menu = action == nullptr ? nullptr : qobject_cast<QMenu*>(action->parent());
+  if (menu == nullptr) throw ECommandError("the menus have no '" + FromQt(name) + "'");
+  QMenuBar& bar = *window.menuBar();
+  QTest::mouseClick(&bar, Qt::LeftButton, Qt::NoModifier, bar.actionGeometry(menu->menuAction()).center());
+  QApplication::processEvents();
+  QTest::mouseClick(menu, Qt::LeftButton, Qt::NoModifier,
+                    menu->actionGeometry(const_cast<QAction*>(action)).center());
+  QApplication::processEvents();
+}
+
+}  // namespace
 
 std::shared_ptr<forms::TFrame> TDayPlayer::FrameOf(const TArguments& arguments) {
   const auto& label = arguments.Text("frame");
@@ -39,20 +57,22 @@ TEntryPanel& TDayPlayer::PanelOf(const TArguments& arguments) {
 void TDayPlayer::ChangeHost(const TArguments& arguments) {
   TCommandJson changes = arguments.All();
   for (const char* own : {"do", "id"}) changes.erase(own);
-  if (FOpen) MergeHostData(changes, FOpen->desk.Host().Data());
+  if (FOpen) return MergeHostData(changes, FOpen->desk.Host().Data());
   FHostChanges.push_back(std::move(changes));
 }
 
 void TDayPlayer::Load(const TArguments& /*arguments*/) {
   if (FOpen) throw ECommandError("the desk is open already");
   FOpen = std::make_unique<TOpen>(FOptions, *this);
+  FHostChanges.clear();
   QObject::connect(&FOpen->desk.Events(), &TDeskEvents::FormCame, &FOpen->window,
                    [this](forms::TDialogForm& form) { FForms["change:" + FChanged] = form.Frame(); });
 }
 
 void TDayPlayer::Unload(const TArguments& /*arguments*/) {
   EndStep();
-  Open().window.close();
+  FLeft = Open().desk.Host().Data();
+  FOpen->window.close();
   FPanels.clear();
   FForms.clear();
   FModal.clear();
@@ -73,8 +93,7 @@ void TDayPlayer::OpenView(const TArguments& arguments) {
       FPanels[label] = panel;
       return;
     }
-    QTest::keyClick(&window, Qt::Key_N, Qt::ControlModifier);
-    QApplication::processEvents();
+    ChooseInMenu(window, ToQt(FOpen->desk.Provider().GetName()));
   }
   throw ECommandError("no view opened");
 }
@@ -86,10 +105,7 @@ void TDayPlayer::CloseView(const TArguments& arguments) {
 }
 
 void TDayPlayer::ChangeLanguage(const TArguments& arguments) {
-  const QString code = ToQt(LanguageCode(static_cast<TLanguage>(arguments.Integer("language"))));
-  auto* action = Open().window.findChild<QAction*>(code);
-  if (action == nullptr) throw ECommandError("the desk has no such language");
-  action->trigger();
+  ChooseInMenu(Open().window, ToQt(LanguageCode(static_cast<TLanguage>(arguments.Integer("language")))));
 }
 
 void TDayPlayer::ApplyLayout(const TArguments& arguments) {

@@ -5,6 +5,7 @@
 #include <QTimer>
 #include <algorithm>
 #include <fstream>
+#include <iostream>
 #include <utility>
 
 #include "terminal/drive/driver.h"
@@ -13,6 +14,16 @@
 #include "text/text.h"
 
 namespace algo::terminal {
+
+namespace {
+
+/// A screen that nobody looks at says so at each window; nobody needs to hear it.
+void TellButForTheScreen(QtMsgType type, const QMessageLogContext& context, const QString& message) {
+  if (message.startsWith(QLatin1String("This plugin does not support"))) return;
+  std::cerr << FromQt(qFormatLogMessage(type, context, message)) << std::endl;
+}
+
+}  // namespace
 
 TDayPlayer::TOpen::TOpen(const TDeskOptions& options, TDayPlayer& player)
     : desk(options),
@@ -28,7 +39,9 @@ TDayPlayer::TOpen::TOpen(const TDeskOptions& options, TDayPlayer& player)
 
 TDayPlayer::TDayPlayer(TDeskOptions options, std::ostream& account)
     : FOptions(std::move(options)), FAccount(account), FScreens(ToQt(FOptions.screensFolder)) {
+  qInstallMessageHandler(TellButForTheScreen);
   FOptions.prepare = [this](THostData& data) {
+    if (FLeft) data = *FLeft;
     for (const TCommandJson& changes : FHostChanges) MergeHostData(changes, data);
   };
 }

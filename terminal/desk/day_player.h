@@ -7,6 +7,7 @@
 #include <deque>
 #include <map>
 #include <memory>
+#include <optional>
 #include <ostream>
 #include <string>
 #include <vector>
@@ -75,7 +76,8 @@ class TDayPlayer {
   TDeskOptions FOptions;
   std::ostream& FAccount;
   TScreenshots FScreens;
-  std::vector<TCommandJson> FHostChanges;  ///< what a desktop that opens later starts from
+  std::vector<TCommandJson> FHostChanges;  ///< those that came while the desktop was closed
+  std::optional<THostData> FLeft;          ///< the host's data as the desktop left them that was open before
   std::unique_ptr<TOpen> FOpen;
   std::map<std::string, QPointer<TEntryPanel>> FPanels;  ///< the views that the script opened, by its labels
   std::map<std::string, std::weak_ptr<forms::TFrame>>

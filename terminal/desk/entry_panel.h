@@ -30,6 +30,9 @@ class TEntryPanel final : public TPanel {
   /// Takes the size that the frame wants now: a floating panel all of it, a docked one the width.
   void Fit();
 
+  /// Puts the trader into the first field of the view that takes input.
+  void FocusFirst() { FPane.View().FocusFirst(); }
+
  signals:
   /// The trader dropped a line of the market watch.
   void PriceDropped(const std::string& symbol, double price);

@@ -22,9 +22,11 @@ TEntryPanel* TEntryPanels::Open() {
   // Beside the last one as a tab, so that the others keep their room.
   if (FPanels.size() > 1) FWindow.tabifyDockWidget(FPanels[FPanels.size() - 2], panel);
   if (FDesk.Provider().GetIsWindow()) panel->setFloating(true);
-  panel->Fit();
   panel->show();
   panel->raise();
+  panel->Fit();
+  // Whoever opens a view means to type into it.
+  panel->FocusFirst();
   return panel;
 }
 
@@ -43,6 +45,10 @@ std::vector<TKeptEntry> TEntryPanels::Kept() const {
                     FDesk.Provider().GetLayoutData(panel->Instance())});
   }
   return kept;
+}
+
+void TEntryPanels::FocusFirst() {
+  if (!FPanels.empty()) FPanels.front()->FocusFirst();
 }
 
 void TEntryPanels::CloseAll() {

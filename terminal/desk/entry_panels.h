@@ -29,6 +29,9 @@ class TEntryPanels final : public QObject {
   /// What is open, to be kept.
   std::vector<TKeptEntry> Kept() const;
 
+  /// Puts the trader into the first field of the first view; with no effect when none is open.
+  void FocusFirst();
+
   void CloseAll();
 
   void Retranslate();

@@ -26,6 +26,7 @@ int Run(const algo::terminal::TDeskOptions& options) {
   algo::terminal::TMainWindow window(desk);
   window.RestoreWorkspace(options);
   window.show();
+  window.Entries().FocusFirst();
   desk.Start();
   return QApplication::exec();
 }

@@ -1,6 +1,9 @@
 #include "terminal/desk/order_model.h"
 
 #include <QColor>
+#include <QFontMetrics>
+#include <QGuiApplication>
+#include <QSize>
 
 #include "plugin/host_contract/look_and_feel_service.h"
 #include "terminal/desk/order_columns.h"
@@ -62,6 +65,9 @@ int TOrderModel::columnCount(const QModelIndex& /*parent*/) const {
   return static_cast<int>(OrderColumns().size());
 }
 
+// Room above and below a row's text, for the bar of what is filled.
+constexpr int RowRim = 8;
+
 QVariant TOrderModel::data(const QModelIndex& index, int role) const {
   if (!index.isValid()) return {};
   const TNode& node = NodeAt(index);
@@ -72,6 +78,8 @@ QVariant TOrderModel::data(const QModelIndex& index, int role) const {
       return ShownText(column.value(*node.order, FTexts), index.column());
     case Qt::TextAlignmentRole:
       return AlignmentOf(column);
+    case Qt::SizeHintRole:
+      return QSize(0, QFontMetrics(QGuiApplication::font()).height() + RowRim);
     case Qt::ForegroundRole:
       return index.column() == SideColumn() ? QColor::fromRgb(SideColor(*node.order)) : QVariant();
     case ValueRole:

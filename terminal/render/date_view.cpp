@@ -28,6 +28,10 @@ TDateView::TDateView(forms::TDateEdit& control, const TFrameInput& input, QWidge
   row->addWidget(&FLine, 1);
   row->addWidget(&FButton);
   FWhole.setFocusProxy(&FLine);
+  // A date that is cut off is worse than none.
+  const int text = FLine.fontMetrics().horizontalAdvance(QStringLiteral("8888-88-88 88:88:88"));
+  constexpr int Rim = 14;
+  FLine.setMinimumWidth(text + Rim);
   BindLine(FLine, control, input);
   FButton.setArrowType(Qt::DownArrow);
   FButton.setFocusPolicy(Qt::NoFocus);

@@ -30,6 +30,16 @@ TFrameView::~TFrameView() {
   if (const auto frame = FInput.Frame()) frame->RemoveObserver(*this);
 }
 
+void TFrameView::FocusFirst() {
+  const auto frame = FInput.Frame();
+  if (!frame) return;
+  for (const auto& control : frame->Controls()) {
+    if (!control->CanFocus() || control->ReadOnly()) continue;
+    FInput.Focus(*control);
+    return;
+  }
+}
+
 TControlView* TFrameView::Find(const forms::TControl& control) const {
   const auto found = FViews.find(&control);
   return found == FViews.end() ? nullptr : found->second.get();

@@ -29,6 +29,9 @@ class TFrameView final : public QWidget, private forms::TFrameObserver {
   /// The view of the control; nullptr for one that was never shown, and for one of another frame.
   TControlView* Find(const forms::TControl& control) const;
 
+  /// Gives the focus to the first control that takes input; with no effect when there is none.
+  void FocusFirst();
+
   /// Runs after what is shown, or where, changed, so that a window can take the new size.
   std::function<void()> OnLayoutChanged;
 
