@@ -21,6 +21,7 @@ TFormWindow::TFormWindow(forms::TDialogForm& form, TDeskEvents& events, const TE
   whole->setContentsMargins(0, 0, 0, 0);
   whole->addWidget(&FPane);
   setWindowFlag(Qt::WindowContextHelpButtonHint, false);
+  connect(&FPane, &TFramePane::LaidOut, this, &TFormWindow::GrowToFrame);
   Refresh();
 }
 
@@ -39,15 +40,18 @@ void TFormWindow::Refresh() {
   // The trader may have chosen another size, which stays until the form asks for a new one.
   if (form->ClientSize() != FClientSize) {
     FClientSize = form->ClientSize();
-    const QSize asked(static_cast<int>(std::ceil(FClientSize.width)),
-                      static_cast<int>(std::ceil(FClientSize.height)));
-    // The widgets may need a little more than the form was told that they would.
-    resize(asked.expandedTo(FPane.View().minimumSizeHint()).boundedTo(screen()->availableSize()));
+    resize(static_cast<int>(std::ceil(FClientSize.width)), static_cast<int>(std::ceil(FClientSize.height)));
+    GrowToFrame();
   }
   const bool onTop = windowFlags().testFlag(Qt::WindowStaysOnTopHint);
   // A change of the flag takes the window out of sight.
   if (form->StaysOnTop() != onTop && !isVisible())
     setWindowFlag(Qt::WindowStaysOnTopHint, form->StaysOnTop());
+}
+
+void TFormWindow::GrowToFrame() {
+  // The widgets may need a little more than the form was told that they would.
+  resize(size().expandedTo(FPane.View().minimumSizeHint()).boundedTo(screen()->availableSize()));
 }
 
 void TFormWindow::reject() {

@@ -34,6 +34,8 @@ class TFormWindow final : public QDialog {
   void keyPressEvent(QKeyEvent* event) override;
 
  private:
+  void GrowToFrame();
+
   TDeskEvents& FEvents;
   std::weak_ptr<forms::TDialogForm> FForm;
   TFramePane& FPane;

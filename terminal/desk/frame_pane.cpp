@@ -1,5 +1,6 @@
 #include "terminal/desk/frame_pane.h"
 
+#include <QEvent>
 #include <QStyle>
 
 namespace algo::terminal {
@@ -21,6 +22,12 @@ QSize TFramePane::sizeHint() const {
   // Without it the first scroll bar that shows takes room, and a second one shows.
   const int bar = style()->pixelMetric(QStyle::PM_ScrollBarExtent);
   return FrameSize() + QSize(bar, 0);
+}
+
+bool TFramePane::event(QEvent* event) {
+  const bool handled = QScrollArea::event(event);
+  if (event->type() == QEvent::LayoutRequest) emit LaidOut();
+  return handled;
 }
 
 }  // namespace algo::terminal

@@ -23,6 +23,13 @@ class TFramePane final : public QScrollArea {
 
   QSize sizeHint() const override;
 
+ signals:
+  /// What the frame shows, and so the room that it needs, changed.
+  void LaidOut();
+
+ protected:
+  bool event(QEvent* event) override;
+
  private:
   TFrameView& FView;
 };
