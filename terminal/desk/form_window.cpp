@@ -17,8 +17,11 @@ TFormWindow::TFormWindow(forms::TDialogForm& form, const TEditorAids& aids, QWid
   whole->setContentsMargins(0, 0, 0, 0);
   whole->addWidget(&FPane);
   setWindowFlag(Qt::WindowContextHelpButtonHint, false);
+  connect(&FPane, &TFramePane::LaidOut, this, &TFormWindow::Grow);
   Refresh();
 }
+
+void TFormWindow::Grow() { resize(size().expandedTo(FPane.sizeHint()).boundedTo(screen()->availableSize())); }
 
 void TFormWindow::Refresh() {
   const auto form = FForm.lock();

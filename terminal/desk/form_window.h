@@ -30,6 +30,9 @@ class TFormWindow final : public QDialog {
   void keyPressEvent(QKeyEvent* event) override;
 
  private:
+  /// Makes room for all of the frame, as far as the screen has it.
+  void Grow();
+
   std::weak_ptr<forms::TDialogForm> FForm;
   TFramePane& FPane;
   forms::TSize FClientSize;

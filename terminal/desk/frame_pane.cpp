@@ -1,5 +1,6 @@
 #include "terminal/desk/frame_pane.h"
 
+#include <QEvent>
 #include <QStyle>
 
 namespace algo::terminal {
@@ -13,6 +14,12 @@ TFramePane::TFramePane(const std::shared_ptr<forms::TFrame>& frame, const TEdito
   // The controls take the focus, the area around them does not.
   setFocusPolicy(Qt::NoFocus);
   setWidget(&FView);
+}
+
+bool TFramePane::eventFilter(QObject* watched, QEvent* event) {
+  const bool taken = QScrollArea::eventFilter(watched, event);
+  if (watched == &FView && event->type() == QEvent::LayoutRequest) emit LaidOut();
+  return taken;
 }
 
 QSize TFramePane::FrameSize() const { return FView.sizeHint(); }

@@ -23,6 +23,13 @@ class TFramePane final : public QScrollArea {
 
   QSize sizeHint() const override;
 
+ signals:
+  /// The frame was laid out anew, and may want another size than it has.
+  void LaidOut();
+
+ protected:
+  bool eventFilter(QObject* watched, QEvent* event) override;
+
  private:
   TFrameView& FView;
 };
