@@ -66,7 +66,6 @@ TDesk::TDesk(const TDeskOptions& options)
   if (options.prepare) options.prepare(FHost.Data());
   FEngine.emplace(FHost, FMarket, options.seed);
   SetSkin(*FSkin);
-  forms::TToolkit::Install(&FToolkit);
   connect(&FEvents, &TDeskEvents::ModalFormCame, this, [this](const forms::TDialogForm& form) {
     if (const auto view = std::dynamic_pointer_cast<host::TViewFrame>(form.Frame()))
       FViews.insert(HandleOf(*view));
@@ -78,7 +77,6 @@ TDesk::TDesk(const TDeskOptions& options)
 TDesk::~TDesk() {
   FTimer.stop();
   FModule->DropProvider();
-  forms::TToolkit::Install(nullptr);
 }
 
 host::TInstanceHandle TDesk::OpenView() {

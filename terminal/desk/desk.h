@@ -67,11 +67,20 @@ class TDesk final : public QObject {
   void SkinChanged();
 
  private:
+  /// Texts are measured as they are drawn, as long as it lives.
+  struct TInstalledToolkit {
+    TInstalledToolkit() { forms::TToolkit::Install(&toolkit); }
+    ~TInstalledToolkit() { forms::TToolkit::Install(nullptr); }
+    TInstalledToolkit(const TInstalledToolkit&) = delete;
+    TInstalledToolkit& operator=(const TInstalledToolkit&) = delete;
+    TQtToolkit toolkit;
+  };
+
   void StepByClock();
 
   TTexts FTexts;
   const TSkin* FSkin;
-  TQtToolkit FToolkit;
+  TInstalledToolkit FToolkit;
   TDeskEvents FEvents;
   TMarketTables FTables;
   TSqliteKeeper FKeeper;

@@ -21,6 +21,7 @@ TEntryPanel* TEntryPanels::Open() {
   if (panel == nullptr) return nullptr;
   // Beside the last one as a tab, so that the others keep their room.
   if (FPanels.size() > 1) FWindow.tabifyDockWidget(FPanels[FPanels.size() - 2], panel);
+  if (FDesk.Provider().GetIsWindow()) panel->setFloating(true);
   panel->show();
   panel->raise();
   panel->Fit();

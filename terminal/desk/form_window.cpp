@@ -10,8 +10,12 @@
 
 namespace algo::terminal {
 
-TFormWindow::TFormWindow(forms::TDialogForm& form, const TEditorAids& aids, QWidget* parent)
-    : QDialog(parent), FForm(form.weak_from_this()), FPane(*new TFramePane(form.Frame(), aids)) {
+TFormWindow::TFormWindow(forms::TDialogForm& form, TDeskEvents& events, const TEditorAids& aids,
+                         QWidget* parent)
+    : QDialog(parent),
+      FEvents(events),
+      FForm(form.weak_from_this()),
+      FPane(*new TFramePane(form.Frame(), aids)) {
   setObjectName("form");
   auto* whole = new QVBoxLayout(this);
   whole->setContentsMargins(0, 0, 0, 0);
@@ -22,6 +26,12 @@ TFormWindow::TFormWindow(forms::TDialogForm& form, const TEditorAids& aids, QWid
 }
 
 void TFormWindow::Grow() { resize(size().expandedTo(FPane.sizeHint()).boundedTo(screen()->availableSize())); }
+
+void TFormWindow::Fit(const host::TViewFrame& frame) {
+  const auto form = FForm.lock();
+  if (!form || form->Frame().get() != &frame) return;
+  form->SetClientSize({static_cast<double>(frame.GetWidth()), static_cast<double>(frame.GetHeight())});
+}
 
 void TFormWindow::Refresh() {
   const auto form = FForm.lock();
@@ -44,7 +54,9 @@ void TFormWindow::Refresh() {
 }
 
 void TFormWindow::reject() {
-  if (const auto form = FForm.lock()) form->Close();
+  FEvents.Guard([this] {
+    if (const auto form = FForm.lock()) form->Close();
+  });
 }
 
 void TFormWindow::keyPressEvent(QKeyEvent* event) {

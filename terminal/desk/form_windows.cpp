@@ -19,6 +19,12 @@ TFormWindows::TFormWindows(TDeskEvents& events, const TEditorAids& aids, QWidget
     window->raise();
     window->activateWindow();
   });
+  connect(&events, &TDeskEvents::ViewChanged, this, [this](const host::TViewFrame& frame) {
+    for (const auto& [form, window] : FModal) window->Fit(frame);
+    for (const auto& window : FOthers) {
+      if (window) window->Fit(frame);
+    }
+  });
   connect(&events, &TDeskEvents::FormLooksDifferent, this, [this](forms::TDialogForm& form) {
     if (TFormWindow* window = Find(form)) window->Refresh();
   });
@@ -40,7 +46,7 @@ void TFormWindows::CloseOthers() {
 }
 
 void TFormWindows::RunModal(forms::TDialogForm& form) {
-  TFormWindow window(form, FAids, FModal.empty() ? &FParent : FModal.back().second);
+  TFormWindow window(form, FEvents, FAids, FModal.empty() ? &FParent : FModal.back().second);
   window.setWindowModality(Qt::ApplicationModal);
   FModal.emplace_back(&form, &window);
   window.show();
@@ -56,7 +62,7 @@ void TFormWindows::RunModal(forms::TDialogForm& form) {
 
 void TFormWindows::Show(forms::TDialogForm& form) {
   if (TFormWindow* window = Find(form)) return window->show();
-  auto* window = new TFormWindow(form, FAids, &FParent);
+  auto* window = new TFormWindow(form, FEvents, FAids, &FParent);
   FOthers.emplace_back(window);
   window->show();
 }

@@ -60,7 +60,8 @@ TOrderBlotter::TOrderBlotter(TMemoryHost& host, const TTexts& texts)
   column->addWidget(&FTree);
   setWidget(content);
 
-  connect(&FTree, &QTreeView::doubleClicked, this, [this] { Choose(TOrderCommand::Copy); });
+  connect(&FTree, &QTreeView::doubleClicked, this,
+          [this](const QModelIndex& row) { Choose(TOrderCommand::Copy, row); });
   // A child that comes in is news, so it is not left folded away.
   connect(&FFilter, &QAbstractItemModel::rowsInserted, this,
           [this](const QModelIndex& parent) { FTree.expand(parent); });
@@ -138,14 +139,15 @@ void TOrderBlotter::OpenMenu(const QModelIndex& row, const QPoint& where) {
     QAction* action = menu->addAction(FTexts.Desk(entry.textKey));
     action->setObjectName(entry.name);
     action->setEnabled(offered);
-    connect(action, &QAction::triggered, this, [this, command = entry.command] { Choose(command); });
+    connect(action, &QAction::triggered, this,
+            [this, command = entry.command, kept = QPersistentModelIndex(row)] { Choose(command, kept); });
   }
   menu->popup(FTree.viewport()->mapToGlobal(where));
 }
 
-void TOrderBlotter::Choose(TOrderCommand command) {
-  const host::TCustomClientOrder* order = FFilter.OrderAt(FTree.currentIndex());
-  // The order may have been filled while the menu was open.
+void TOrderBlotter::Choose(TOrderCommand command, const QModelIndex& row) {
+  const host::TCustomClientOrder* order = FFilter.OrderAt(row);
+  // While the menu was open the order may have been filled, or have left what is shown.
   if (order != nullptr && IsOffered(command, *order)) emit Commanded(command, *order);
 }
 

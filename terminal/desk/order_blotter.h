@@ -42,7 +42,7 @@ class TOrderBlotter final : public TPanel {
   QWidget& MakeFilterRow();
   void FitColumns();
   void OpenMenu(const QModelIndex& row, const QPoint& where);
-  void Choose(TOrderCommand command);
+  void Choose(TOrderCommand command, const QModelIndex& row);
 
   const TTexts& FTexts;
   TOrderModel FOrders;

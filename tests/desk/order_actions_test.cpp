@@ -3,6 +3,7 @@
 #include <QMenu>
 #include <QTreeView>
 
+#include "plugin/host_contract/view_functions.h"
 #include "tests/desk/desk_fixture.h"
 
 namespace algo::terminal::tests {
@@ -142,8 +143,22 @@ TEST_F(TBesideTest, TheCloseBoxClosesTheFormForGood) {
 
 TEST_F(TBesideTest, FormsTakeUpALanguageWhileTheyShow) {
   Choose(0, "changeOrder");
+  // Also when it is the only thing of the module that shows.
+  Entry().close();
+  QTest::qWait(1);
   desk->SetLanguage(TLanguage::TraditionalChinese);
   EXPECT_EQ(FromQt(Forms()[0]->windowTitle()), desk->Texts().Resource("Res_Conf_ChangeOrder"));
+}
+
+TEST_F(TBesideTest, AFormTakesTheSizeThatItsFrameWants) {
+  Choose(0, "changeOrder");
+  TFormWindow& form = *Forms()[0];
+  const QSize before = form.size();
+  auto& frame = dynamic_cast<host::TViewFrame&>(*FrameIn(form).Frame());
+  form.resize(before + QSize(100, 100));
+  frame.Layout().Find("lgAlgo")->SetVisible(false);
+  host::SendViewNotify(frame, 1025);
+  EXPECT_LT(form.width(), before.width());
 }
 
 TEST_F(TBesideTest, TheProgramEndsWithFormsOpen) {
@@ -211,6 +226,37 @@ TEST_F(TOrderActionsTest, ByKeyTheMenuIsForTheCurrentRow) {
   QTest::keyClick(&menu, Qt::Key_Return);
   EXPECT_EQ(Order("N1").status, 4);
   EXPECT_EQ(Order("N2").status, 0);
+}
+
+TEST_F(TOrderActionsTest, AMenuIsForItsRowAndNotForTheCurrentOne) {
+  Open();
+  Put("N1");
+  Put("N2");
+  Tree().setCurrentIndex(Tree().model()->index(1, 0));
+  const QPoint first = Tree().visualRect(Tree().model()->index(0, 0)).center();
+  QContextMenuEvent asked(QContextMenuEvent::Mouse, first, Tree().viewport()->mapToGlobal(first));
+  QApplication::sendEvent(Tree().viewport(), &asked);
+  The<QAction>("cancelOrder").trigger();
+  EXPECT_EQ(Order("N2").status, 4);
+  EXPECT_EQ(Order("N1").status, 0);
+  The<QMenu>("orderMenu").close();
+}
+
+TEST_F(TOrderActionsTest, AnOrderThatLeftTheListWhileItsMenuWasOpenIsLeftAlone) {
+  Open();
+  Put("N1");
+  QTest::keyClick(&The("ordersShown"), Qt::Key_Down);
+  Tree().setCurrentIndex(Tree().model()->index(0, 0));
+  QContextMenuEvent asked(QContextMenuEvent::Keyboard, {0, 0}, {0, 0});
+  QApplication::sendEvent(&Tree(), &asked);
+  auto filled = Order("N1");
+  filled.filled = 4000;
+  filled.status = 3;
+  desk->Host().Ledger().Record({"test", "fill", "4000"}, filled);
+  The<QAction>("cancelOrder").trigger();
+  EXPECT_EQ(Order("N1").status, 3);
+  EXPECT_EQ(desk->Keeper().EventsOf("N1").back().event.what, "fill");
+  The<QMenu>("orderMenu").close();
 }
 
 TEST_F(TOrderActionsTest, BelowTheLastRowThereIsNoMenu) {
