@@ -15,6 +15,9 @@ TEntryPanel::TEntryPanel(const QString& name, TDesk& desk, host::TInstanceHandle
   setAttribute(Qt::WA_DeleteOnClose);
   setAcceptDrops(true);
   setWidget(&FPane);
+  connect(&FPane, &TFramePane::LaidOut, this, [this] {
+    if (FPane.width() < FPane.sizeHint().width()) Fit();
+  });
 }
 
 TEntryPanel::~TEntryPanel() {

@@ -27,7 +27,8 @@ class TEntryPanel final : public TPanel {
   /// The caption that the provider gives its views, with the number of the panel where it is not the first.
   void ShowCaption(int number);
 
-  /// Takes the size that the frame wants now: a floating panel all of it, a docked one the width.
+  /// Takes the size that the frame wants, as soon as it is laid out: a floating panel all of it, a docked one
+  /// the width.
   void Fit();
 
   /// Puts the trader into the first field of the view that takes input.

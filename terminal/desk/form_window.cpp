@@ -21,9 +21,11 @@ TFormWindow::TFormWindow(forms::TDialogForm& form, TDeskEvents& events, const TE
   whole->setContentsMargins(0, 0, 0, 0);
   whole->addWidget(&FPane);
   setWindowFlag(Qt::WindowContextHelpButtonHint, false);
-  connect(&FPane, &TFramePane::LaidOut, this, &TFormWindow::GrowToFrame);
+  connect(&FPane, &TFramePane::LaidOut, this, &TFormWindow::Grow);
   Refresh();
 }
+
+void TFormWindow::Grow() { resize(size().expandedTo(FPane.sizeHint()).boundedTo(screen()->availableSize())); }
 
 void TFormWindow::Fit(const host::TViewFrame& frame) {
   const auto form = FForm.lock();
@@ -41,17 +43,12 @@ void TFormWindow::Refresh() {
   if (form->ClientSize() != FClientSize) {
     FClientSize = form->ClientSize();
     resize(static_cast<int>(std::ceil(FClientSize.width)), static_cast<int>(std::ceil(FClientSize.height)));
-    GrowToFrame();
+    Grow();
   }
   const bool onTop = windowFlags().testFlag(Qt::WindowStaysOnTopHint);
   // A change of the flag takes the window out of sight.
   if (form->StaysOnTop() != onTop && !isVisible())
     setWindowFlag(Qt::WindowStaysOnTopHint, form->StaysOnTop());
-}
-
-void TFormWindow::GrowToFrame() {
-  // The widgets may need a little more than the form was told that they would.
-  resize(size().expandedTo(FPane.View().minimumSizeHint()).boundedTo(screen()->availableSize()));
 }
 
 void TFormWindow::reject() {

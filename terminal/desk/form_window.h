@@ -34,7 +34,8 @@ class TFormWindow final : public QDialog {
   void keyPressEvent(QKeyEvent* event) override;
 
  private:
-  void GrowToFrame();
+  /// Makes room for all of the frame, as far as the screen has it.
+  void Grow();
 
   TDeskEvents& FEvents;
   std::weak_ptr<forms::TDialogForm> FForm;

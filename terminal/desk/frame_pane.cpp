@@ -16,18 +16,18 @@ TFramePane::TFramePane(const std::shared_ptr<forms::TFrame>& frame, const TEdito
   setWidget(&FView);
 }
 
+bool TFramePane::eventFilter(QObject* watched, QEvent* event) {
+  const bool taken = QScrollArea::eventFilter(watched, event);
+  if (watched == &FView && event->type() == QEvent::LayoutRequest) emit LaidOut();
+  return taken;
+}
+
 QSize TFramePane::FrameSize() const { return FView.sizeHint(); }
 
 QSize TFramePane::sizeHint() const {
   // Without it the first scroll bar that shows takes room, and a second one shows.
   const int bar = style()->pixelMetric(QStyle::PM_ScrollBarExtent);
   return FrameSize() + QSize(bar, 0);
-}
-
-bool TFramePane::event(QEvent* event) {
-  const bool handled = QScrollArea::event(event);
-  if (event->type() == QEvent::LayoutRequest) emit LaidOut();
-  return handled;
 }
 
 }  // namespace algo::terminal

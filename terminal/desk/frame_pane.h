@@ -24,11 +24,11 @@ class TFramePane final : public QScrollArea {
   QSize sizeHint() const override;
 
  signals:
-  /// What the frame shows, and so the room that it needs, changed.
+  /// The frame was laid out anew, and may want another size than it has.
   void LaidOut();
 
  protected:
-  bool event(QEvent* event) override;
+  bool eventFilter(QObject* watched, QEvent* event) override;
 
  private:
   TFrameView& FView;

@@ -14,7 +14,8 @@ namespace algo::terminal {
 
 TMainWindow::TMainWindow(TDesk& desk)
     : FDesk(desk),
-      FBoxes(*this),
+      FPaperNote(*new QLabel),
+      FBoxes(*this, desk.Texts()),
       FForms(desk.Events(), desk.Aids(), *this),
       FWatch(*new TMarketWatch(desk)),
       FOrders(*new TOrderBlotter(desk.Host(), desk.Texts())),
@@ -25,6 +26,9 @@ TMainWindow::TMainWindow(TDesk& desk)
   setObjectName("mainWindow");
   menuBar()->setObjectName("menuBar");
   statusBar()->setObjectName("statusBar");
+  // Not a message, which the hint of a menu would take away.
+  FPaperNote.setObjectName("paperNote");
+  statusBar()->addWidget(&FPaperNote);
   setDockNestingEnabled(true);
   setDockOptions(dockOptions() | QMainWindow::GroupedDragging);
   PlacePanels();
@@ -114,7 +118,7 @@ void TMainWindow::Retranslate() {
   setWindowTitle("Algo Desk");
   setAccessibleName(windowTitle());
   // What is shown all the time is what must never be mistaken.
-  statusBar()->showMessage(texts.Desk("Paper trading"));
+  FPaperNote.setText(texts.Desk("Paper trading"));
   FWatch.Retranslate();
   FOrders.Retranslate();
   FMessages.Retranslate();

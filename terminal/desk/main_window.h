@@ -2,6 +2,7 @@
 
 // The main window: menu bar, panels, message boxes, and the windows of the module's dialog forms.
 
+#include <QLabel>
 #include <QMainWindow>
 #include <QPointer>
 #include <optional>
@@ -55,6 +56,7 @@ class TMainWindow final : public QMainWindow {
   void ShowSkin();
 
   TDesk& FDesk;
+  QLabel& FPaperNote;
   TMessageBoxes FBoxes;
   TFormWindows FForms;
   TMarketWatch& FWatch;

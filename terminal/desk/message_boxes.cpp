@@ -1,10 +1,11 @@
 #include "terminal/desk/message_boxes.h"
 
+#include <QAbstractButton>
 #include <QApplication>
 
 namespace algo::terminal {
 
-TMessageBoxes::TMessageBoxes(QWidget& window) : FWindow(window) {}
+TMessageBoxes::TMessageBoxes(QWidget& window, const TTexts& texts) : FWindow(window), FTexts(texts) {}
 
 void TMessageBoxes::Show(const QString& text) {
   if (FWaiting.contains(text) || (FBox && FBox->text() == text)) return;
@@ -25,6 +26,7 @@ void TMessageBoxes::ShowNext() {
                          QMessageBox::Ok, dialog != nullptr ? dialog : &FWindow);
   FBox->setObjectName("messageBox");
   FBox->setAccessibleName(FBox->text());
+  FBox->button(QMessageBox::Ok)->setText(FTexts.Desk("OK"));
   FBox->setTextFormat(Qt::PlainText);
   FBox->setAttribute(Qt::WA_DeleteOnClose);
   FBox->setWindowModality(Qt::ApplicationModal);

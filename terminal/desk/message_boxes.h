@@ -8,13 +8,15 @@
 #include <QStringList>
 #include <QWidget>
 
+#include "terminal/desk/texts.h"
+
 namespace algo::terminal {
 
 class TMessageBoxes final : public QObject {
   Q_OBJECT
  public:
-  /// `window` outlives the boxes, which show before it under its title.
-  explicit TMessageBoxes(QWidget& window);
+  /// Both outlive the boxes, which show before the window under its title.
+  TMessageBoxes(QWidget& window, const TTexts& texts);
 
   /// Shows the text, or has it wait for its turn. What waits already is not shown twice.
   void Show(const QString& text);
@@ -26,6 +28,7 @@ class TMessageBoxes final : public QObject {
   void ShowNext();
 
   QWidget& FWindow;
+  const TTexts& FTexts;
   QPointer<QMessageBox> FBox;
   QStringList FWaiting;
 };

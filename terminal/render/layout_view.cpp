@@ -43,6 +43,13 @@ int StretchOf(const forms::TLayoutElement& child, const forms::TLayoutGroup& gro
   return IsHorizontal(group) && !isBox ? 1 : 0;
 }
 
+/// Whether the element is the item of a button that shows the same text itself.
+bool RepeatsItsButton(const forms::TLayoutElement& element) {
+  const auto* item = dynamic_cast<const forms::TLayoutItem*>(&element);
+  return item != nullptr && item->Control().Kind() == forms::TControlKind::Button &&
+         item->Control().Caption() == item->Caption();
+}
+
 void ShowCaption(QLabel& label, const forms::TLayoutElement& element, bool heading) {
   const QString caption = ToQt(element.Caption());
   if (label.text() != caption) label.setText(caption);
@@ -50,7 +57,7 @@ void ShowCaption(QLabel& label, const forms::TLayoutElement& element, bool headi
   font.bold = font.bold || heading;
   const QFont chosen = DesktopFont(font);
   if (label.font() != chosen) label.setFont(chosen);
-  label.setVisible(!caption.isEmpty());
+  label.setVisible(!caption.isEmpty() && !RepeatsItsButton(element));
 }
 
 }  // namespace
@@ -155,7 +162,7 @@ void TLayoutView::CollectCaptions(const forms::TLayoutGroup& group, std::vector<
     if (!HasContent(*child)) continue;
     if (const auto* inner = AsGroup(child)) {
       CollectCaptions(*inner, captions);
-    } else if ((first || !IsHorizontal(group)) && !child->Caption().empty()) {
+    } else if ((first || !IsHorizontal(group)) && !child->Caption().empty() && !RepeatsItsButton(*child)) {
       // Only what stands at the left edge of the column lines up with the others.
       captions.push_back(FViews.at(child).caption);
     }

@@ -55,7 +55,7 @@ TEST_F(TLooksTest, ALanguageIsTakenUpAtOnceEverywhere) {
   EXPECT_EQ(Entry().windowTitle(), ToQt(desk->Texts().Resource("Res_AlgoOrderEntry")));
   EXPECT_EQ(The("orders").windowTitle(), "委託列表");
   EXPECT_EQ(The<QTableView>("marketTable").model()->index(0, 1).data().toString(), "樣本海港銀行");
-  EXPECT_EQ(window->statusBar()->currentMessage(), "模擬交易：委託不會離開本機");
+  EXPECT_EQ(The<QLabel>("paperNote").text(), "模擬交易：委託不會離開本機");
   EXPECT_EQ(ToQt(Entry().View().Frame()->FindControl("btnSubmit")->Caption()),
             ToQt(desk->Texts().Resource("Res_Submit")));
   EXPECT_EQ(Text(Entry().View(), "edtQty"), "400");
