@@ -12,7 +12,7 @@ sources=("$@")
 if [[ ${#sources[@]} -eq 0 ]]; then
   # The compile commands name exactly the sources that are built, so none is checked with made-up flags.
   mapfile -t sources < <(sed -n 's/^ *"file": "\(.*\)",\{0,1\}$/\1/p' "$commands" |
-    grep -vE "^$PWD/(tests|benchmarks|fuzz)/" | sort -u)
+    grep -vE "^$PWD/(build|tests|benchmarks|fuzz)/" | sort -u)
 fi
 if [[ ${#sources[@]} -eq 0 ]]; then
   echo "check-tidy: no sources found" >&2
