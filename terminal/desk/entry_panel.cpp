@@ -37,7 +37,8 @@ void TEntryPanel::ShowCaption(int number) {
 void TEntryPanel::Fit() {
   FPane.updateGeometry();
   if (isFloating()) {
-    resize(FPane.sizeHint() + QSize(0, Title().sizeHint().height()));
+    // Around the form stand the title bar and the frame of the window, whatever those take.
+    resize(size() + FPane.sizeHint() - FPane.size());
   } else if (auto* window = qobject_cast<QMainWindow*>(parentWidget())) {
     FitDocked(*window);
   }

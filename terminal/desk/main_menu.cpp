@@ -75,22 +75,22 @@ void TMainMenu::AddView() {
 
 void TMainMenu::AddLanguages() {
   QMenu& menu = MenuIn(FBar, LanguageMenu, FDesk.Texts().Desk("Language"));
-  auto* group = new QActionGroup(&menu);
+  auto& group = *new QActionGroup(&menu);
   for (const TLanguage language : Languages) {
     QAction& action = Add(menu, ToQt(LanguageCode(language)), LanguageOwnName(language),
                           [this, language] { FDeeds.setLanguage(language); });
-    MakeChoice(*group, action, language == FDesk.Texts().Language());
+    MakeChoice(group, action, language == FDesk.Texts().Language());
   }
 }
 
 void TMainMenu::AddSkins() {
   const TTexts& texts = FDesk.Texts();
   QMenu& menu = MenuIn(FBar, SkinMenu, texts.Desk("Skin"));
-  auto* group = new QActionGroup(&menu);
+  auto& group = *new QActionGroup(&menu);
   for (const TSkin& skin : Skins) {
     QAction& action =
         Add(menu, ToQt(skin.name), texts.Desk(skin.textKey), [this, &skin] { FDeeds.setSkin(skin); });
-    MakeChoice(*group, action, skin.name == FDesk.Skin().name);
+    MakeChoice(group, action, skin.name == FDesk.Skin().name);
   }
 }
 

@@ -4,7 +4,6 @@
 #include <QCloseEvent>
 #include <QMessageBox>
 #include <QStatusBar>
-#include <QTimer>
 
 #include "terminal/desk/picking.h"
 #include "terminal/desk/views.h"
@@ -58,9 +57,12 @@ void TMainWindow::ConnectDesk() {
   connect(&FDesk, &TDesk::LanguageChanged, this, &TMainWindow::Retranslate);
   connect(&FDesk, &TDesk::SkinChanged, this, &TMainWindow::ShowSkin);
   // Whoever waited for the forms has yet to go on, so the window closes after him.
-  connect(&FForms, &TFormWindows::ModalFormsGone, this, [this] {
-    if (FCloseWanted) QTimer::singleShot(0, this, &QWidget::close);
-  });
+  connect(
+      &FForms, &TFormWindows::ModalFormsGone, this,
+      [this] {
+        if (FCloseWanted) close();
+      },
+      Qt::QueuedConnection);
 }
 
 void TMainWindow::ConnectPanels() {

@@ -1,6 +1,7 @@
 // Orders on their way from an entry view to the blotter, by mouse and keys.
 
 #include <QMessageBox>
+#include <QScrollBar>
 #include <QTreeView>
 
 #include "plugin/host_contract/view_functions.h"
@@ -193,9 +194,9 @@ TEST_F(TEntryTest, AFloatingPanelFollowsTheSizeOfItsForm) {
   const QSize small = pick(Qt::Key_End, "Short sell");
   const QSize large = pick(Qt::Key_Home, "Target volume");
   EXPECT_NE(small, large);
-  const QSize frame = Entry().View().sizeHint();
-  EXPECT_GE(Entry().width(), frame.width());
-  EXPECT_GE(Entry().height(), frame.height());
+  const auto& pane = The<TFramePane>("pane", &Entry());
+  EXPECT_FALSE(pane.horizontalScrollBar()->isVisible());
+  EXPECT_FALSE(pane.verticalScrollBar()->isVisible());
 }
 
 }  // namespace
