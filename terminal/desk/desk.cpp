@@ -3,6 +3,7 @@
 #include <QApplication>
 #include <QDateTime>
 #include <chrono>
+#include <exception>
 #include <filesystem>
 #include <system_error>
 
@@ -10,6 +11,7 @@
 #include "terminal/desk/sample_user.h"
 #include "terminal/paper/generated_prices.h"
 #include "terminal/paper/recorded_prices.h"
+#include "terminal/render/qt_text.h"
 
 namespace algo::terminal {
 
@@ -120,8 +122,13 @@ void TDesk::Step(double seconds) {
 
 void TDesk::StepByClock() {
   const double seconds = static_cast<double>(FClock.restart()) / 1000;
-  // A failure would come again at the next step and bury the trader in messages.
-  if (!FEvents.Guard([&] { Step(seconds); })) FTimer.stop();
+  try {
+    Step(seconds);
+  } catch (const std::exception& error) {
+    // It would come again at the next step and bury the trader in messages.
+    FTimer.stop();
+    FEvents.MessageShown(error.what() + (' ' + FromQt(FTexts.Desk("Market.Stopped"))));
+  }
 }
 
 void TDesk::Cancel(const host::TCustomClientOrder& order) {
