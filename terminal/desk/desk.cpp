@@ -60,6 +60,7 @@ TDesk::TDesk(const TDeskOptions& options)
       FHost(FEvents, FKeeper),
       FMarket(FHost, FTables, PricesFor(options, FTables)),
       FAids(FEvents, FHost, FTables, FTexts) {
+  FHost.Data().worksOrders = true;
   FillSampleUser(FHost.Data());
   FillFirstSettings(FHost.Data());
   FillMarketLists(FHost.Data(), FTables);

@@ -39,6 +39,9 @@ struct THostData {
   std::map<std::string, host::TInstrument, std::less<>> instruments;   ///< known instruments by symbol
   std::map<std::int32_t, forms::TColor> colors;                        ///< skin colours by index
   bool accept = true;  ///< what order actions are answered with
+  /// Whether the host works the orders itself: what it filled while a change was made on a copy is then kept,
+  /// and not replaced by what stands in the copy.
+  bool worksOrders = false;
   TFaults faults;
 
   /// The setting under the key; empty when there is none.

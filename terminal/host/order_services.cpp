@@ -77,7 +77,7 @@ void TMemoryOrderActionManager::CarryOut(const host::TCustomClientOrder& order, 
     case host::TOrderAction::Change:
       // An order that is not the host's own was accepted for somebody else to carry out.
       if (const auto* stored = orders.Find(order.key)) {
-        return FLedger.Record(event, AsChangedOrder(*stored, order));
+        return FLedger.Record(event, FHost.data.worksOrders ? AsChangedOrder(*stored, order) : order);
       }
       return FLedger.Note(event, order);
     case host::TOrderAction::Work:

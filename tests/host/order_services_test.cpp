@@ -78,6 +78,19 @@ TEST_F(TOrderServicesTest, AChangeReplacesTheStoredOrderOfItsKey) {
   EXPECT_EQ(host.Orders().All().size(), 1U);
 }
 
+TEST_F(TOrderServicesTest, AChangeReplacesWhatWasFilledTooUnlessTheHostWorksTheOrders) {
+  Put("K1").filled = 300;
+  order.filled = 100;
+  EXPECT_TRUE(Take(TOrderAction::Change));
+  EXPECT_EQ(host.Orders().Find("K1")->filled, 100);
+  host.Data().worksOrders = true;
+  host.Orders().Find("K1")->filled = 300;
+  order.quantity = 700;
+  EXPECT_TRUE(Take(TOrderAction::Change));
+  EXPECT_EQ(host.Orders().Find("K1")->filled, 300);
+  EXPECT_EQ(host.Orders().Find("K1")->quantity, 700);
+}
+
 TEST_F(TOrderServicesTest, AChangeOfAnOrderThatIsNotStoredStoresNothing) {
   EXPECT_TRUE(Take(TOrderAction::Change));
   EXPECT_TRUE(host.Orders().All().empty());
