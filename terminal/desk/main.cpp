@@ -34,12 +34,12 @@ int Run(const algo::terminal::TDeskOptions& options) {
 }  // namespace
 
 int main(int argc, char** argv) {
-  using namespace algo::terminal;
+  namespace terminal = algo::terminal;
   // Names the folder in which the platform keeps data of this program.
   QCoreApplication::setApplicationName("algo-desk");
-  const TDeskArguments arguments = ReadDeskArguments(argc, argv);
+  const terminal::TDeskArguments arguments = terminal::ReadDeskArguments(argc, argv);
   if (!arguments.options) return arguments.status;
-  if (!HasWindowSystem()) {
+  if (!terminal::HasWindowSystem()) {
     std::cerr << "algo-desk: there is no display to show windows on; start it in a desktop session\n";
     return CannotStart;
   }
@@ -50,7 +50,7 @@ int main(int argc, char** argv) {
     std::string line = error.what();
     std::replace(line.begin(), line.end(), '\n', ' ');
     std::cerr << "algo-desk: " << line << '\n';
-    if (SomebodyLooks()) QMessageBox::critical(nullptr, "Algo Desk", ToQt(error.what()));
+    if (terminal::SomebodyLooks()) QMessageBox::critical(nullptr, "Algo Desk", terminal::ToQt(error.what()));
     return CannotStart;
   }
 }

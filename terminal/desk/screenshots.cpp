@@ -58,7 +58,7 @@ QString TScreenshots::Take(const QWidget& window, const QString& what) {
       what.toLower().replace(QRegularExpression(QStringLiteral("[^a-z0-9]+")), QStringLiteral("-"));
   while (words.startsWith('-')) words.remove(0, 1);
   while (words.endsWith('-')) words.chop(1);
-  const QString name = QStringLiteral("%1-%2.png").arg(++FCount, 2, 10, QLatin1Char('0')).arg(words);
+  QString name = QStringLiteral("%1-%2.png").arg(++FCount, 2, 10, QLatin1Char('0')).arg(words);
   if (!picture.save(QDir(FFolder).filePath(name))) {
     throw EError("'" + FromQt(QDir(FFolder).filePath(name)) + "' cannot be written");
   }
