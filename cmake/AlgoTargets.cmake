@@ -57,3 +57,11 @@ function(algo_uses_module target)
     add_dependencies(${target} algo_order_entry)
   endif()
 endfunction()
+
+# algo_compiles_alone(<target>...)
+#
+# Compiles each source of the targets by itself where the others are compiled several at a time (the sanitizers' build,
+# which nobody edits in): their files use the same short names, each for its own.
+function(algo_compiles_alone)
+  set_target_properties(${ARGN} PROPERTIES UNITY_BUILD OFF)
+endfunction()
