@@ -10,6 +10,19 @@
 
 namespace algo::terminal {
 
+namespace {
+
+/// Lays out everything below the widget, innermost first: by itself Qt works its way up an event at a time,
+/// and each would be painted.
+void Settle(QWidget& widget) {
+  for (QObject* child : widget.children()) {
+    if (child->isWidgetType()) Settle(static_cast<QWidget&>(*child));
+  }
+  if (widget.layout() != nullptr) widget.layout()->activate();
+}
+
+}  // namespace
+
 TFrameView::TFrameView(const std::shared_ptr<forms::TFrame>& frame, const TEditorAids& aids, QWidget* parent)
     : QWidget(parent), FInput(frame), FAids(aids), FContent(new QWidget(this)) {
   auto* whole = new QVBoxLayout(this);
@@ -105,6 +118,7 @@ void TFrameView::LayoutChanged() {
   // All of it is repainted once, when it has come to rest.
   setUpdatesEnabled(false);
   ShowAll(*frame);
+  Settle(*this);
   setUpdatesEnabled(true);
   if (OnLayoutChanged) OnLayoutChanged();
 }
