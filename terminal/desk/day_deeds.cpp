@@ -11,6 +11,7 @@
 #include "plugin/host_contract/channel_manager.h"
 #include "terminal/desk/day_player.h"
 #include "terminal/drive/host_merge.h"
+#include "terminal/drive/lookup.h"
 #include "terminal/drive/taking.h"
 #include "terminal/render/qt_text.h"
 
@@ -162,17 +163,6 @@ void TDayPlayer::SetValue(const TArguments& arguments) {
   if (spin == nullptr) throw ECommandError("only a number can be set");
   spin->SetValue(AsNumber("value", arguments.Required("value")));
 }
-
-namespace {
-
-forms::TControl& ControlOf(const forms::TFrame& frame, const TArguments& arguments) {
-  const auto& name = arguments.Text("control");
-  forms::TControl* control = frame.FindControl(name);
-  if (control == nullptr) throw ECommandError("there is no control '" + name + "'");
-  return *control;
-}
-
-}  // namespace
 
 void TDayPlayer::Type(const TArguments& arguments) {
   const auto frame = FrameOf(arguments);

@@ -120,7 +120,6 @@ void TFrameView::LayoutChanged() {
   ShowAll(*frame);
   Settle(*this);
   setUpdatesEnabled(true);
-  if (OnLayoutChanged) OnLayoutChanged();
 }
 
 void TFrameView::FocusChanged() {

@@ -4,7 +4,6 @@
 // sending back what the trader does. Focus follows the model, and the model follows the desktop's focus.
 
 #include <QWidget>
-#include <functional>
 #include <memory>
 #include <unordered_map>
 
@@ -31,9 +30,6 @@ class TFrameView final : public QWidget, private forms::TFrameObserver {
 
   /// Gives the focus to the first control that takes input; with no effect when there is none.
   void FocusFirst();
-
-  /// Runs after what is shown, or where, changed, so that a window can take the new size.
-  std::function<void()> OnLayoutChanged;
 
  protected:
   bool eventFilter(QObject* watched, QEvent* event) override;
