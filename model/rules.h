@@ -13,14 +13,14 @@
 namespace algo::model {
 
 /// How the trader is told: a text of the module's resources, or the host's own text for an error code.
-enum class TTold : std::uint8_t { Resource, HostCode };
+enum class TMessageSource : std::uint8_t { Resource, HostCode };
 
 /// What a failed rule says.
-struct TComplaint {
-  TTold told;
+struct TRuleFailure {
+  TMessageSource told;
   std::string_view id;
 
-  bool operator==(const TComplaint&) const = default;
+  bool operator==(const TRuleFailure&) const = default;
 };
 
 /// What the rules that every new order has to satisfy read.
@@ -37,12 +37,12 @@ struct TNewOrder {
 // Each check returns what the first failed rule says, nothing when all pass. None allocates.
 
 /// Side, account, symbol, quantity and algorithm.
-std::optional<TComplaint> CheckCommonRules(const TNewOrder& order);
+std::optional<TRuleFailure> CheckCommonRules(const TNewOrder& order);
 
 /// Start before end, where both are given; equal times pass.
-std::optional<TComplaint> CheckTimes(const TParamValues& values);
+std::optional<TRuleFailure> CheckTimes(const TParamValues& values);
 
 /// The algorithm's own rules.
-std::optional<TComplaint> CheckAlgoRules(const TAlgoRow& algo, const TParamValues& values);
+std::optional<TRuleFailure> CheckAlgoRules(const TAlgoRow& algo, const TParamValues& values);
 
 }  // namespace algo::model

@@ -5,7 +5,7 @@
 #include "plugin/host_contract/class_registry.h"
 #include "plugin/host_contract/module_entry.h"
 #include "plugin/view_provider.h"
-#include "views/entry/boundary.h"
+#include "views/boundary/boundary.h"
 #include "views/work/available_quantity.h"
 
 namespace algo::plugin {
@@ -15,9 +15,9 @@ namespace {
 int starts = 0;
 
 std::unique_ptr<host::TIBaseView> MakeProvider(const void* owner) {
-  return views::Cross(std::unique_ptr<host::TIBaseView>(), [owner]() -> std::unique_ptr<host::TIBaseView> {
-    return std::make_unique<TIAlgoEntryOrder>(owner);
-  });
+  return views::AtBoundary(
+      std::unique_ptr<host::TIBaseView>(),
+      [owner]() -> std::unique_ptr<host::TIBaseView> { return std::make_unique<TIAlgoEntryOrder>(owner); });
 }
 
 void Start() {
@@ -33,14 +33,14 @@ void Stop() {
 bool SetOrderAlgo(host::TViewFrame& frame, host::TCustomClientOrder& order) {
   const auto* entry = dynamic_cast<const views::TAlgoOrderEntryFrame*>(&frame);
   if (entry == nullptr) return false;
-  return views::Cross(false, [&] {
+  return views::AtBoundary(false, [&] {
     entry->SetOrderAlgo(order);
     return true;
   });
 }
 
 double WorkParentAvailableQty(host::TCustomOrder* parent) {
-  return views::Cross(0.0, [parent] { return views::GetWorkParentOrderAvailableQty(parent); });
+  return views::AtBoundary(0.0, [parent] { return views::GetWorkParentOrderAvailableQty(parent); });
 }
 
 constexpr host::TModuleEntry Entry{host::ContractVersion, Start, Stop, SetOrderAlgo, WorkParentAvailableQty};

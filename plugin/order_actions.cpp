@@ -6,7 +6,7 @@
 #include "plugin/host_contract/order_action_manager.h"
 #include "plugin/host_contract/view_functions.h"
 #include "plugin/view_provider.h"
-#include "views/entry/boundary.h"
+#include "views/boundary/boundary.h"
 
 namespace algo::plugin {
 
@@ -52,7 +52,7 @@ bool TIAlgoEntryOrder::Confirmed(const THosted<TFrame>& dialog, std::string_view
   const THide hide{*form};
   form->SetCaption(Resource(captionId));
   FitToFrame(*form, *frame);
-  const views::TOutsideLoop modalLoop;
+  const views::TNestedLoopScope modalLoop;
   return form->ShowModal() == forms::ModalOk;
 }
 

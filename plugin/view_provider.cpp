@@ -3,7 +3,7 @@
 #include "plugin/host_contract/config_manager.h"
 #include "plugin/host_contract/language_manager.h"
 #include "plugin/host_contract/user_app_profile.h"
-#include "views/entry/boundary.h"
+#include "views/boundary/boundary.h"
 #include "views/entry/entry_frame.h"
 
 namespace algo::plugin {
@@ -36,7 +36,7 @@ TIAlgoEntryOrder::TIAlgoEntryOrder(const void* owner) : TIBaseView(owner) {
         host::TCustomGlobalChannelManager::GetInstance().Subscribe(
             host::OrderActionChannel,
             [this](const void* sender, host::TChannelRecord* record) {
-              views::Cross([&] { TakeOrderAction(sender, record); });
+              views::AtBoundary([&] { TakeOrderAction(sender, record); });
             },
             this);
       },
@@ -49,15 +49,15 @@ TIAlgoEntryOrder::TIAlgoEntryOrder(const void* owner) : TIBaseView(owner) {
 }
 
 TIAlgoEntryOrder::~TIAlgoEntryOrder() {
-  views::Cross([this] { FRegistrations.ReleaseAll(); });
+  views::AtBoundary([this] { FRegistrations.ReleaseAll(); });
   FChange.form.reset();
   while (!FOpenChanges.empty()) {
     // Out of the list first: closing calls back and looks for the form there.
     const auto open = FOpenChanges.extract(FOpenChanges.begin());
-    views::Cross([&] { open.mapped().form->Close(); });
+    views::AtBoundary([&] { open.mapped().form->Close(); });
   }
   FWork.form.reset();
-  views::Cross([this] { CloseAllInstances(); });
+  views::AtBoundary([this] { CloseAllInstances(); });
 }
 
 std::string TIAlgoEntryOrder::GetName() { return "AlgoOrderEntry_" + std::to_string(views::AlgoEntryViewID); }
@@ -71,7 +71,7 @@ std::int32_t TIAlgoEntryOrder::GetMenuIndex(std::int32_t level) { return MenuRow
 std::int32_t TIAlgoEntryOrder::GetMenuID(std::int32_t level) { return MenuRow(level).id; }
 
 std::string TIAlgoEntryOrder::GetMenuCaption(std::int32_t level) {
-  return views::Cross(std::string(), [level] {
+  return views::AtBoundary(std::string(), [level] {
     const std::string_view id = MenuRow(level).captionId;
     return id.empty() ? std::string() : Resource(id);
   });
@@ -80,11 +80,12 @@ std::string TIAlgoEntryOrder::GetMenuCaption(std::int32_t level) {
 std::int32_t TIAlgoEntryOrder::GetMenuGroupIndex(std::int32_t /*level*/) { return 0; }
 
 bool TIAlgoEntryOrder::GetIsVisible() {
-  return views::Cross(false, [] { return host::TCustomUserAppProfile::GetInstance().HasRight(ViewRight); });
+  return views::AtBoundary(false,
+                           [] { return host::TCustomUserAppProfile::GetInstance().HasRight(ViewRight); });
 }
 
 bool TIAlgoEntryOrder::GetDefaultCaption(std::string& caption) {
-  return views::Cross(false, [&caption] {
+  return views::AtBoundary(false, [&caption] {
     caption = Resource("Res_AlgoOrderEntry");
     return true;
   });
@@ -93,7 +94,7 @@ bool TIAlgoEntryOrder::GetDefaultCaption(std::string& caption) {
 bool TIAlgoEntryOrder::GetDefaultSize(std::int32_t& /*width*/, std::int32_t& /*height*/) { return true; }
 
 host::TInstanceHandle TIAlgoEntryOrder::OpenNewInstance() {
-  return views::Cross(host::TInstanceHandle{0}, [this] {
+  return views::AtBoundary(host::TInstanceHandle{0}, [this] {
     auto frame = std::make_shared<views::TAlgoOrderEntryFrame>();
     const host::TInstanceHandle handle = host::HandleOf(*frame);
     AddView(std::move(frame));
@@ -102,11 +103,11 @@ host::TInstanceHandle TIAlgoEntryOrder::OpenNewInstance() {
 }
 
 void TIAlgoEntryOrder::CloseInstance(host::TInstanceHandle instance) {
-  views::Cross([&] { TIBaseView::CloseInstance(instance); });
+  views::AtBoundary([&] { TIBaseView::CloseInstance(instance); });
 }
 
 bool TIAlgoEntryOrder::SetLanguage(host::TInstanceHandle instance, std::int32_t language) {
-  return views::Cross(false, [&] {
+  return views::AtBoundary(false, [&] {
     TIBaseView::SetLanguage(instance, language);
     // A copy: what the frames set off may close a form.
     for (const auto& [key, open] : std::map(FOpenChanges)) {

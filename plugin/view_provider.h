@@ -12,8 +12,8 @@
 
 #include "plugin/host_contract/base_view.h"
 #include "plugin/host_contract/channel_manager.h"
+#include "views/boundary/registrations.h"
 #include "views/change/change_frame.h"
-#include "views/entry/registrations.h"
 #include "views/work/work_order_frame.h"
 
 namespace algo::plugin {

@@ -10,22 +10,24 @@ root=${1:-$(dirname "${BASH_SOURCE[0]}")/..}
 cd "$root"
 
 arrows='
-text                 ->
-model                -> text
-forms                -> text
-plugin/host_contract -> forms text
-views/entry          -> text model forms plugin/host_contract
-views/change         -> text model forms plugin/host_contract views/entry
-views/work           -> text model forms plugin/host_contract views/entry views/change
-plugin               -> text forms plugin/host_contract views/entry views/change views/work
-terminal/host        -> text forms plugin/host_contract
-terminal/drive       -> text forms plugin/host_contract terminal/host
-terminal/account     -> text forms plugin/host_contract terminal/host
-terminal/storage     -> text forms plugin/host_contract terminal/host
-terminal/paper       -> text forms plugin/host_contract terminal/host
-terminal/render      -> text forms
-terminal/play        -> text forms plugin/host_contract terminal/host terminal/drive terminal/render
-terminal/desk        -> text forms plugin/host_contract terminal/host terminal/storage terminal/paper terminal/render terminal/drive terminal/play
+text                        ->
+model                       -> text
+forms                       -> text
+plugin/host_contract        -> forms text
+plugin/host_contract/checks -> forms plugin/host_contract
+views/boundary              -> plugin/host_contract
+views/entry                 -> text model forms plugin/host_contract views/boundary
+views/change                -> text model forms plugin/host_contract views/entry
+views/work                  -> text model forms plugin/host_contract views/entry views/change
+plugin                      -> text forms plugin/host_contract views/boundary views/entry views/change views/work
+terminal/host               -> text forms plugin/host_contract
+terminal/drive              -> text forms plugin/host_contract terminal/host plugin/host_contract/checks
+terminal/report             -> text forms plugin/host_contract terminal/host
+terminal/storage            -> text forms plugin/host_contract terminal/host
+terminal/paper              -> text forms plugin/host_contract terminal/host
+terminal/render             -> text forms
+terminal/ui_driver          -> text forms plugin/host_contract terminal/host terminal/drive terminal/render
+terminal/desk               -> text forms plugin/host_contract terminal/host terminal/storage terminal/paper terminal/render terminal/drive terminal/ui_driver
 '
 
 mapfile -t files < <(

@@ -11,8 +11,8 @@
 #include "plugin/host_contract/channel_manager.h"
 #include "terminal/desk/day_player.h"
 #include "terminal/drive/host_merge.h"
+#include "terminal/drive/input_checks.h"
 #include "terminal/drive/lookup.h"
-#include "terminal/drive/taking.h"
 #include "terminal/render/qt_text.h"
 
 namespace algo::terminal {

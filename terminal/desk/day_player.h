@@ -16,7 +16,7 @@
 #include "terminal/desk/main_window.h"
 #include "terminal/desk/screenshots.h"
 #include "terminal/drive/arguments.h"
-#include "terminal/play/widget_trader.h"
+#include "terminal/ui_driver/widget_trader.h"
 
 namespace algo::terminal {
 

@@ -23,7 +23,7 @@
 #include "terminal/paper/paper_engine.h"
 #include "terminal/paper/paper_market.h"
 #include "terminal/render/qt_toolkit.h"
-#include "terminal/storage/sqlite_keeper.h"
+#include "terminal/storage/sqlite_storage.h"
 
 namespace algo::terminal {
 
@@ -39,7 +39,7 @@ class TDesk final : public QObject {
 
   TDeskEvents& Events() { return FEvents; }
   TMemoryHost& Host() { return FHost; }
-  TSqliteKeeper& Keeper() { return FKeeper; }
+  TSqliteStorage& Keeper() { return FKeeper; }
   host::TIBaseView& Provider() { return FModule->Provider(); }
   const TMarketTables& Tables() const { return FTables; }
   const TEditorAids& Aids() const { return FAids; }
@@ -83,7 +83,7 @@ class TDesk final : public QObject {
   TInstalledToolkit FToolkit;
   TDeskEvents FEvents;
   TMarketTables FTables;
-  TSqliteKeeper FKeeper;
+  TSqliteStorage FKeeper;
   TMemoryHost FHost;
   TPaperMarket FMarket;
   std::optional<TPaperEngine> FEngine;  ///< made when the orders are there that it takes over

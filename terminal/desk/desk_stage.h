@@ -3,7 +3,7 @@
 // The main window as a stage: frames stand in its panels and dialogs.
 
 #include "terminal/desk/main_window.h"
-#include "terminal/play/stage.h"
+#include "terminal/ui_driver/stage.h"
 
 namespace algo::terminal {
 

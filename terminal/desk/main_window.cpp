@@ -5,7 +5,7 @@
 #include <QMessageBox>
 #include <QStatusBar>
 
-#include "terminal/desk/picking.h"
+#include "terminal/desk/link_posts.h"
 #include "terminal/desk/views.h"
 #include "terminal/render/qt_text.h"
 
@@ -102,7 +102,7 @@ void TMainWindow::TellAbout() {
 }
 
 void TMainWindow::Carry(TOrderCommand command, const host::TCustomClientOrder& order) {
-  const TPickedIn here{view_id::OrderBlotter, FOrders.Title().Group()};
+  const TLinkSource here{view_id::OrderBlotter, FOrders.Title().Group()};
   switch (command) {
     case TOrderCommand::Change:
       return AskForAction(FDesk.Host(), here, order, host::TOrderAction::Change);

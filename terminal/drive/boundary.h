@@ -14,7 +14,7 @@ namespace algo::terminal {
 /// Runs `call`, which leads into the module, and returns what it returns. Throws ECommandError for whatever
 /// comes out.
 template <class TCall>
-decltype(auto) IntoModule(TCall&& call) {
+decltype(auto) CallModule(TCall&& call) {
   const std::string crossed = "exception crossed the boundary: ";
   try {
     return std::forward<TCall>(call)();

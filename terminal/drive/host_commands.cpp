@@ -19,7 +19,7 @@ void Host(TSession& session, const TArguments& arguments, TAnswerJson& /*answer*
 }
 
 void ConfigChanged(TSession& session, const TArguments& /*arguments*/, TAnswerJson& /*answer*/) {
-  IntoModule([&] { session.Host().TellConfigChanged(); });
+  CallModule([&] { session.Host().TellConfigChanged(); });
 }
 
 void Load(TSession& session, const TArguments& /*arguments*/, TAnswerJson& /*answer*/) { session.Load(); }

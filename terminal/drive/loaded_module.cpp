@@ -16,7 +16,7 @@ constexpr std::string_view ProviderClass = "TIAlgoEntryOrder";
 TLoadedModule::TLoadedModule(const std::string& file, const void* owner) : FLibrary(file) {
   const auto* make = host::TClassRegistry::GetInstance().Find(ProviderClass);
   if (make == nullptr) throw ECommandError("the module offers no class " + std::string(ProviderClass));
-  FProvider = IntoModule([&] { return (*make)(owner); });
+  FProvider = CallModule([&] { return (*make)(owner); });
   if (!FProvider) throw ECommandError("the module made no view provider");
 }
 

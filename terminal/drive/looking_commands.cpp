@@ -125,7 +125,7 @@ void Set(TSession& session, const TArguments& arguments, TAnswerJson& /*answer*/
       throw ECommandError(name + " has no '" + std::string(assignable.name) + "' to set");
   }
   if (assignments.empty()) throw ECommandError("nothing to set was given");
-  IntoModule([&] {
+  CallModule([&] {
     for (const auto& assign : assignments) assign();
   });
 }
@@ -133,7 +133,7 @@ void Set(TSession& session, const TArguments& arguments, TAnswerJson& /*answer*/
 void Commit(TSession& session, const TArguments& arguments, TAnswerJson& /*answer*/) {
   const auto frame = FrameOf(session, arguments);
   auto& control = ControlOf(*frame, arguments);
-  IntoModule([&] { control.Commit(); });
+  CallModule([&] { control.Commit(); });
 }
 
 constexpr std::array Commands{TCommand{"read", Read}, TCommand{"set", Set}, TCommand{"commit", Commit}};

@@ -38,12 +38,12 @@ void Market(TSession& session, const TArguments& arguments, TAnswerJson& /*answe
   const auto changes = FieldChanges(arguments);
   const bool notify = arguments.BooleanOr("notify", true);
   const bool others = arguments.BooleanOr("others", false);
-  IntoModule([&] { session.Host().SetMarket(symbol, state, changes, notify, others); });
+  CallModule([&] { session.Host().SetMarket(symbol, state, changes, notify, others); });
 }
 
 void Spread(TSession& session, const TArguments& arguments, TAnswerJson& /*answer*/) {
   const auto codes = AsTexts("codes", arguments.Required("codes"));
-  IntoModule([&] { session.Host().TellSpread(codes); });
+  CallModule([&] { session.Host().TellSpread(codes); });
 }
 
 constexpr std::array Commands{TCommand{"market", Market}, TCommand{"spread", Spread}};

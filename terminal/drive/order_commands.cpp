@@ -74,7 +74,7 @@ void PostAction(TSession& session, const TArguments& arguments, TAnswerJson& ans
       record.action == static_cast<std::int32_t>(host::TOrderAction::Change) && !session.ChangesAreModal();
   const TFrameNames::TMaking making(
       session.Names(), {}, besideOthers && stored != nullptr ? "change:" + stored->key : std::string());
-  IntoModule([&] { session.Host().PostAsHost(host::OrderActionChannel, record); });
+  CallModule([&] { session.Host().PostAsHost(host::OrderActionChannel, record); });
   answer["result"] = record.result;
 }
 
@@ -84,7 +84,7 @@ void PostCopy(TSession& session, std::int32_t channel, const TArguments& argumen
   record.groupId = arguments.TextOr("group", {});
   const TPosted posted = PostedOrder(session, arguments);
   record.object = posted.order;
-  IntoModule([&] { session.Host().PostAsHost(channel, record); });
+  CallModule([&] { session.Host().PostAsHost(channel, record); });
 }
 
 void Post(TSession& session, const TArguments& arguments, TAnswerJson& answer) {
@@ -101,7 +101,7 @@ void Post(TSession& session, const TArguments& arguments, TAnswerJson& answer) {
 void Available(TSession& session, const TArguments& arguments, TAnswerJson& answer) {
   const auto& entry = session.Module().Entry();
   host::TCustomClientOrder* order = StoredOrderOf(session, arguments);
-  answer["quantity"] = NumberJson(IntoModule([&] { return entry.workParentAvailableQty(order); }));
+  answer["quantity"] = NumberJson(CallModule([&] { return entry.workParentAvailableQty(order); }));
 }
 
 constexpr std::array Commands{TCommand{"order", Order}, TCommand{"orders", Orders}, TCommand{"post", Post},

@@ -83,7 +83,7 @@ void TSession::Load() {
 host::TLeftBehind TSession::Unload() {
   if (!FModule) throw ECommandError("no module is loaded");
   if (FDialogs.Innermost() != nullptr) throw ECommandError("a modal dialog is showing");
-  IntoModule([this] { FModule->DropProvider(); });
+  CallModule([this] { FModule->DropProvider(); });
   const auto left = FStrict.LeftBehind();
   // The module's code has to outlive whatever the host still holds of it; even the mere names of frames that
   // are gone lead back into it.

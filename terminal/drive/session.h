@@ -5,7 +5,7 @@
 #include <optional>
 #include <string>
 
-#include "plugin/host_contract/strict_host.h"
+#include "plugin/host_contract/checks/strict_host.h"
 #include "terminal/drive/dialogs.h"
 #include "terminal/drive/event_log.h"
 #include "terminal/drive/frame_names.h"

@@ -4,8 +4,8 @@
 
 #include "terminal/drive/boundary.h"
 #include "terminal/drive/command_table.h"
+#include "terminal/drive/input_checks.h"
 #include "terminal/drive/lookup.h"
-#include "terminal/drive/taking.h"
 
 namespace algo::terminal {
 
@@ -15,26 +15,26 @@ void Type(TSession& session, const TArguments& arguments, TAnswerJson& /*answer*
   const auto frame = FrameOf(session, arguments);
   auto& control = ControlOf(*frame, arguments);
   const auto& text = arguments.Text("text");
-  CheckTaken(IntoModule([&] { return session.Trader().Type(frame, control, text); }), control);
+  CheckTaken(CallModule([&] { return session.Trader().Type(frame, control, text); }), control);
 }
 
 void Leave(TSession& session, const TArguments& arguments, TAnswerJson& /*answer*/) {
   const auto frame = FrameOf(session, arguments);
-  IntoModule([&] { session.Trader().Leave(frame); });
+  CallModule([&] { session.Trader().Leave(frame); });
 }
 
 void Enter(TSession& session, const TArguments& arguments, TAnswerJson& answer) {
   const auto frame = FrameOf(session, arguments);
   forms::TControl* control = arguments.Has("control") ? &ControlOf(*frame, arguments) : frame->Focused();
   if (control == nullptr) throw ECommandError("no control has the focus");
-  CheckTaken(IntoModule([&] { return session.Trader().Enter(frame, *control); }), *control);
+  CheckTaken(CallModule([&] { return session.Trader().Enter(frame, *control); }), *control);
   answer["focus"] = frame->Focused() == nullptr ? std::string() : frame->Focused()->Name();
 }
 
 void Click(TSession& session, const TArguments& arguments, TAnswerJson& answer) {
   const auto frame = FrameOf(session, arguments);
   auto& control = ControlOf(*frame, arguments);
-  CheckTaken(IntoModule([&] { return session.Trader().Click(frame, control); }), control);
+  CheckTaken(CallModule([&] { return session.Trader().Click(frame, control); }), control);
   if (const auto* editor = dynamic_cast<const forms::TEditor*>(&control)) {
     answer["selected"] = editor->SelectedText();
   }
@@ -44,7 +44,7 @@ void Pick(TSession& session, const TArguments& arguments, TAnswerJson& /*answer*
   const auto frame = FrameOf(session, arguments);
   auto& control = ControlOf(*frame, arguments);
   const auto index = ItemOf(control, arguments);
-  CheckTaken(IntoModule([&] { return session.Trader().Pick(frame, control, index); }), control);
+  CheckTaken(CallModule([&] { return session.Trader().Pick(frame, control, index); }), control);
 }
 
 void Dismiss(TSession& session, const TArguments& arguments, TAnswerJson& /*answer*/) {
@@ -61,7 +61,7 @@ void CloseForm(TSession& session, const TArguments& arguments, TAnswerJson& /*an
   if (form == nullptr || form->Modal() || !form->Showing()) {
     throw ECommandError("'" + arguments.Text("frame") + "' sits in no form that shows beside others");
   }
-  IntoModule([&] { session.Trader().Close(*form); });
+  CallModule([&] { session.Trader().Close(*form); });
 }
 
 constexpr std::array Commands{

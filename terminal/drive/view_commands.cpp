@@ -21,7 +21,7 @@ TAnswerJson MenuLevel(host::TIBaseView& provider, std::int32_t level) {
 void Provider(TSession& session, const TArguments& /*arguments*/, TAnswerJson& answer) {
   host::TIBaseView& provider = session.Provider();
   TAnswerJson told;
-  IntoModule([&] {
+  CallModule([&] {
     told["name"] = provider.GetName();
     told["view_id"] = provider.GetViewID();
     told["menu_level"] = provider.GetMenuLevel();
@@ -41,7 +41,7 @@ void Provider(TSession& session, const TArguments& /*arguments*/, TAnswerJson& a
 }
 
 void AddSize(host::TViewFrame& frame, TAnswerJson& answer) {
-  IntoModule([&] {
+  CallModule([&] {
     answer["width"] = frame.GetWidth();
     answer["height"] = frame.GetHeight();
   });
@@ -53,7 +53,7 @@ void Open(TSession& session, const TArguments& arguments, TAnswerJson& answer) {
   if (TFrameNames::IsReserved(label)) throw ECommandError("no view can be opened under '" + label + "'");
   if (session.Names().Find(label)) throw ECommandError("'" + label + "' is open already");
   const TFrameNames::TMaking making(session.Names(), label, {});
-  const auto handle = IntoModule([&] { return provider.OpenNewInstance(); });
+  const auto handle = CallModule([&] { return provider.OpenNewInstance(); });
   const auto frame = provider.FindView(handle);
   if (!frame) throw ECommandError("the view could not be opened");
   session.Names().Name(frame, label);
@@ -64,38 +64,38 @@ void Close(TSession& session, const TArguments& arguments, TAnswerJson& /*answer
   const auto frame = OpenedFrameOf(session, arguments);
   // The label goes first: events still know it, but from the module's point of view the instance is gone.
   session.Names().Forget(arguments.Text("frame"));
-  IntoModule([&] { session.Provider().CloseInstance(host::HandleOf(*frame)); });
+  CallModule([&] { session.Provider().CloseInstance(host::HandleOf(*frame)); });
 }
 
 void Language(TSession& session, const TArguments& arguments, TAnswerJson& answer) {
   const auto frame = OpenedFrameOf(session, arguments);
   const auto language = arguments.Integer("language");
   answer["result"] =
-      IntoModule([&] { return session.Provider().SetLanguage(host::HandleOf(*frame), language); });
+      CallModule([&] { return session.Provider().SetLanguage(host::HandleOf(*frame), language); });
 }
 
 void Skin(TSession& session, const TArguments& arguments, TAnswerJson& /*answer*/) {
   const auto frame = OpenedFrameOf(session, arguments);
   const auto& name = arguments.Text("name");
-  IntoModule([&] { session.Provider().SetSkin(host::HandleOf(*frame), name); });
+  CallModule([&] { session.Provider().SetSkin(host::HandleOf(*frame), name); });
 }
 
 void Group(TSession& session, const TArguments& arguments, TAnswerJson& answer) {
   const auto frame = FrameOf(session, arguments);
   const auto& id = arguments.Text("id");
-  answer["result"] = IntoModule([&] { return frame->SetGroupID(id); });
-  answer["group"] = IntoModule([&] { return frame->GetGroupID(); });
+  answer["result"] = CallModule([&] { return frame->SetGroupID(id); });
+  answer["group"] = CallModule([&] { return frame->GetGroupID(); });
 }
 
 void Layout(TSession& session, const TArguments& arguments, TAnswerJson& answer) {
   const auto frame = OpenedFrameOf(session, arguments);
   const auto handle = host::HandleOf(*frame);
   if (!arguments.Has("text")) {
-    answer["text"] = IntoModule([&] { return session.Provider().GetLayoutData(handle); });
+    answer["text"] = CallModule([&] { return session.Provider().GetLayoutData(handle); });
     return;
   }
   const auto& text = arguments.Text("text");
-  answer["result"] = IntoModule([&] { return session.Provider().SetLayoutData(handle, text); });
+  answer["result"] = CallModule([&] { return session.Provider().SetLayoutData(handle, text); });
 }
 
 void Size(TSession& session, const TArguments& arguments, TAnswerJson& answer) {
@@ -105,7 +105,7 @@ void Size(TSession& session, const TArguments& arguments, TAnswerJson& answer) {
 void Compose(TSession& session, const TArguments& arguments, TAnswerJson& answer) {
   const auto frame = OpenedFrameOf(session, arguments);
   const auto order = host::MakeClientOrder();
-  IntoModule([&] { session.Module().Entry().setOrderAlgo(*frame, *order); });
+  CallModule([&] { session.Module().Entry().setOrderAlgo(*frame, *order); });
   answer["text"] = order->TextProperty(host::AlgoTextProperty);
 }
 

@@ -14,11 +14,12 @@
 namespace algo::terminal {
 
 struct TMemoryHost::TServices {
-  TServices(THostEvents& events, TKeeper& keeper) : ledger(orders, keeper), context{data, events, keeper} {}
+  TServices(THostEvents& events, TOrderStorage& keeper)
+      : ledger(orders, keeper), context{data, events, keeper} {}
 
   THostData data;
   TOrderStore orders;
-  TOrderLedger ledger;
+  TOrderJournal ledger;
   THostContext context;
 
   host::TInstalledService<TMemoryConfigManager> config{context};
@@ -38,8 +39,8 @@ struct TMemoryHost::TServices {
 
 namespace {
 
-TKeeper& KeepsNothing() {
-  static TKeeper nothing;
+TOrderStorage& KeepsNothing() {
+  static TOrderStorage nothing;
   return nothing;
 }
 
@@ -47,7 +48,7 @@ TKeeper& KeepsNothing() {
 
 TMemoryHost::TMemoryHost(THostEvents& events) : TMemoryHost(events, KeepsNothing()) {}
 
-TMemoryHost::TMemoryHost(THostEvents& events, TKeeper& keeper)
+TMemoryHost::TMemoryHost(THostEvents& events, TOrderStorage& keeper)
     : FServices(std::make_unique<TServices>(events, keeper)) {}
 
 TMemoryHost::~TMemoryHost() { FServices->views->DropForms(); }
@@ -56,7 +57,7 @@ THostData& TMemoryHost::Data() { return FServices->data; }
 
 TOrderStore& TMemoryHost::Orders() { return FServices->orders; }
 
-TOrderLedger& TMemoryHost::Ledger() { return FServices->ledger; }
+TOrderJournal& TMemoryHost::Ledger() { return FServices->ledger; }
 
 void TMemoryHost::TellConfigChanged() { FServices->config->Tell(); }
 

@@ -14,8 +14,8 @@
 #include "plugin/host_contract/channel_manager.h"
 #include "terminal/host/host_data.h"
 #include "terminal/host/host_events.h"
-#include "terminal/host/keeper.h"
-#include "terminal/host/order_ledger.h"
+#include "terminal/host/order_journal.h"
+#include "terminal/host/order_storage.h"
 #include "terminal/host/order_store.h"
 
 namespace algo::terminal {
@@ -34,7 +34,7 @@ class TMemoryHost {
   /// Installs all services, which keep nothing beyond the host's life. `events` outlives the host.
   explicit TMemoryHost(THostEvents& events);
   /// The same, but what changes for good goes to the keeper first. Both outlive the host.
-  TMemoryHost(THostEvents& events, TKeeper& keeper);
+  TMemoryHost(THostEvents& events, TOrderStorage& keeper);
   /// Lets go of the forms that still show, then puts back the services that were installed before.
   ~TMemoryHost();
   TMemoryHost(const TMemoryHost&) = delete;
@@ -43,7 +43,7 @@ class TMemoryHost {
   THostData& Data();
   TOrderStore& Orders();
   /// Through which the terminal itself, a market for one, changes orders.
-  TOrderLedger& Ledger();
+  TOrderJournal& Ledger();
 
   /// Tells every listener for settings that they changed.
   void TellConfigChanged();

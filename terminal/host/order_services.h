@@ -11,7 +11,7 @@
 #include "plugin/host_contract/order_action_manager.h"
 #include "plugin/host_contract/order_adapter.h"
 #include "terminal/host/host_context.h"
-#include "terminal/host/order_ledger.h"
+#include "terminal/host/order_journal.h"
 
 namespace algo::terminal {
 
@@ -34,7 +34,7 @@ class TMemoryOrderAdapter final : public host::TCustomOrderAdapter {
 /// order of that key where there is one, a work order adds a child. What it refuses is noted.
 class TMemoryOrderActionManager final : public host::TCustomOrderActionManager {
  public:
-  TMemoryOrderActionManager(const THostContext& host, TOrderLedger& ledger) : FHost(host), FLedger(ledger) {}
+  TMemoryOrderActionManager(const THostContext& host, TOrderJournal& ledger) : FHost(host), FLedger(ledger) {}
 
   bool TakeAction(const void* sender, host::TCustomClientOrder* order, host::TOrderAction action,
                   std::int32_t argument) override;
@@ -43,7 +43,7 @@ class TMemoryOrderActionManager final : public host::TCustomOrderActionManager {
   void CarryOut(const host::TCustomClientOrder& order, host::TOrderAction action);
 
   const THostContext& FHost;
-  TOrderLedger& FLedger;
+  TOrderJournal& FLedger;
 };
 
 }  // namespace algo::terminal

@@ -11,10 +11,10 @@ std::string SelectSql(const char* which) {
          which + " ORDER BY sequence";
 }
 
-std::vector<TKeptEvent> EventsOf(TRun& run) {
-  std::vector<TKeptEvent> events;
+std::vector<TStoredEvent> EventsOf(TRun& run) {
+  std::vector<TStoredEvent> events;
   while (run.Next()) {
-    TKeptEvent& kept = events.emplace_back();
+    TStoredEvent& kept = events.emplace_back();
     run.Take(kept.sequence);
     run.Take(kept.time);
     run.Take(kept.event.who);
@@ -44,12 +44,12 @@ void TEventRows::Keep(const std::string& time, const TOrderEvent& event,
       order.status);
 }
 
-std::vector<TKeptEvent> TEventRows::All() {
+std::vector<TStoredEvent> TEventRows::All() {
   TRun run(FAll);
   return EventsOf(run);
 }
 
-std::vector<TKeptEvent> TEventRows::Of(std::string_view orderKey) {
+std::vector<TStoredEvent> TEventRows::Of(std::string_view orderKey) {
   TRun run(FOf, orderKey);
   return EventsOf(run);
 }

@@ -7,9 +7,9 @@
 #include <string_view>
 #include <vector>
 
-#include "terminal/host/keeper.h"
-#include "terminal/storage/kept_event.h"
+#include "terminal/host/order_storage.h"
 #include "terminal/storage/statement.h"
+#include "terminal/storage/stored_event.h"
 
 namespace algo::terminal {
 
@@ -22,10 +22,10 @@ class TEventRows {
   void Keep(const std::string& time, const TOrderEvent& event, const host::TCustomClientOrder& order);
 
   /// All events, oldest first. Throws EStorageError.
-  std::vector<TKeptEvent> All();
+  std::vector<TStoredEvent> All();
 
   /// The events of the order with that key, oldest first. Throws EStorageError.
-  std::vector<TKeptEvent> Of(std::string_view orderKey);
+  std::vector<TStoredEvent> Of(std::string_view orderKey);
 
  private:
   TStatement FKeep;

@@ -11,21 +11,21 @@ namespace {
 
 using enum TParam;
 
-std::optional<TComplaint> Check(std::string_view code, const TParamValues& values) {
+std::optional<TRuleFailure> Check(std::string_view code, const TParamValues& values) {
   const TAlgoRow* row = FindAlgoByCode(code);
   EXPECT_NE(row, nullptr) << code;
   return CheckAlgoRules(*row, values);
 }
 
-std::optional<TComplaint> CheckOne(std::string_view code, TParam param, double value) {
+std::optional<TRuleFailure> CheckOne(std::string_view code, TParam param, double value) {
   TParamValues values;
   values.SetNumber(param, value);
   return Check(code, values);
 }
 
-std::optional<TComplaint> Says(std::string_view message) {
+std::optional<TRuleFailure> Says(std::string_view message) {
   if (message.empty()) return std::nullopt;
-  return TComplaint{TTold::Resource, message};
+  return TRuleFailure{TMessageSource::Resource, message};
 }
 
 // What one field alone makes each algorithm say: at the bound, just inside it, beyond it. Nothing said is "".

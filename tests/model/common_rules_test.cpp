@@ -14,8 +14,8 @@ bool Known(std::string_view account) { return account == "A1"; }
 // An order to which nothing is to be said.
 TNewOrder GoodOrder() { return {0, "A1", Known, "0005", true, 100, true}; }
 
-TComplaint Resource(std::string_view id) { return {TTold::Resource, id}; }
-TComplaint HostCode(std::string_view id) { return {TTold::HostCode, id}; }
+TRuleFailure Resource(std::string_view id) { return {TMessageSource::Resource, id}; }
+TRuleFailure HostCode(std::string_view id) { return {TMessageSource::HostCode, id}; }
 
 TEST(CommonRules, PassAnOrderThatIsComplete) {
   EXPECT_EQ(CheckCommonRules(GoodOrder()), std::nullopt);

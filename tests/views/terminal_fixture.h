@@ -11,7 +11,7 @@
 #include <string>
 #include <vector>
 
-#include "plugin/host_contract/strict_host.h"
+#include "plugin/host_contract/checks/strict_host.h"
 #include "plugin/view_provider.h"
 #include "terminal/host/memory_host.h"
 #include "views/entry/entry_frame.h"

@@ -41,7 +41,7 @@ constexpr std::array ControlTexts{
 }  // namespace
 
 bool TAlgoOrderEntryFrame::SetLanguage(std::int32_t /*language*/) {
-  return Cross(false, [this] {
+  return AtBoundary(false, [this] {
     const forms::TLayoutUpdate update(Layout());
     SetCaptions();
     FillPickLists();

@@ -81,8 +81,8 @@ void TAlgoOrderEntryFrame::Detach() {
 
 void TAlgoOrderEntryFrame::RunInput(const std::function<void()>& input) {
   if (Detached()) return;
-  const TOutsideLoop fresh;
-  Cross(input);
+  const TNestedLoopScope fresh;
+  AtBoundary(input);
 }
 
 bool TAlgoOrderEntryFrame::WorksOnProfileAccount() const {
@@ -139,7 +139,7 @@ void TAlgoOrderEntryFrame::RegisterWithHost() {
 }
 
 bool TAlgoOrderEntryFrame::SetGroupID(std::string_view id) {
-  return Cross(false, [&] {
+  return AtBoundary(false, [&] {
     if (id == FGroupID) return true;
     FGroupID = id;
     if (!WorksOnProfileAccount()) {
@@ -169,7 +169,7 @@ void TAlgoOrderEntryFrame::TellEditorsOfGroup() {
 }
 
 void TAlgoOrderEntryFrame::SetSkin(std::string_view /*name*/) {
-  Cross([this] {
+  AtBoundary([this] {
     auto& skin = host::TCustomLookAndFeelService::GetInstance();
     SideButton(TField::btnBuy).SetColor(host::ButtonColorSlot, skin.ColorOf(host::BuyColor, 0));
     SideButton(TField::btnSell).SetColor(host::ButtonColorSlot, skin.ColorOf(host::SellColor, 0));

@@ -27,9 +27,9 @@
 #include "plugin/host_contract/market_data.h"
 #include "plugin/host_contract/orders.h"
 #include "plugin/host_contract/view_frame.h"
-#include "views/entry/boundary.h"
+#include "views/boundary/boundary.h"
+#include "views/boundary/registrations.h"
 #include "views/entry/fields.h"
-#include "views/entry/registrations.h"
 
 namespace algo::views {
 
@@ -148,7 +148,7 @@ class TAlgoOrderEntryFrame : public host::TViewFrame {
   model::TParamValues Values() const;
 
   /// What the first failed rule of the times and of the chosen algorithm complains of.
-  std::optional<model::TComplaint> CheckAlgoFields() const;
+  std::optional<model::TRuleFailure> CheckAlgoFields() const;
 
   /// A text to be shown names an algorithm that is not offered. The entry frame keeps its own choice.
   virtual void AlgoNotOffered() {}
@@ -172,7 +172,7 @@ class TAlgoOrderEntryFrame : public host::TViewFrame {
   virtual void btnClearClick();
 
   /// Tells the trader what a rule complains of.
-  void Tell(const model::TComplaint& complaint) const;
+  void Tell(const model::TRuleFailure& complaint) const;
 
   /// The price to write into an order for a price as shown: divided by `item`'s multiplier where it has one.
   /// Throws EConversionError when that gives no finite number.
@@ -191,7 +191,7 @@ class TAlgoOrderEntryFrame : public host::TViewFrame {
     return [this, method, alive = std::weak_ptr<const bool>(FAlive)](TArguments... arguments) {
       if (alive.expired()) return;
       const auto kept = KeepAlive();
-      Cross([&] { (static_cast<TFrameClass*>(this)->*method)(arguments...); });
+      AtBoundary([&] { (static_cast<TFrameClass*>(this)->*method)(arguments...); });
     };
   }
 
@@ -308,7 +308,7 @@ class TAlgoOrderEntryFrame : public host::TViewFrame {
   bool GetWorkOrder(host::TCustomClientOrder& order);
   void WorkOrder(host::TCustomClientOrder& order) const;
 
-  std::optional<model::TComplaint> CheckCommon() const;
+  std::optional<model::TRuleFailure> CheckCommon() const;
   void FillCommonFields(host::TCustomClientOrder& order) const;
 
   std::string FGroupID;

@@ -3,7 +3,7 @@
 #include <string>
 
 #include "text/text.h"
-#include "views/entry/enter_order.h"
+#include "views/entry/enter_key_path.h"
 #include "views/entry/entry_frame.h"
 
 namespace algo::views {

@@ -52,7 +52,7 @@ std::string WithoutSeparators(std::string text) {
 }  // namespace
 
 std::string TAlgoOrderEntryFrame::GetLayoutData() {
-  return Cross(std::string(), [this] {
+  return AtBoundary(std::string(), [this] {
     std::string line;
     for (const TLayoutRow& row : LayoutRows) {
       if (const auto value = LayoutValue(row)) {
@@ -92,7 +92,7 @@ std::optional<std::string> TAlgoOrderEntryFrame::LayoutValue(const TLayoutRow& r
 }
 
 bool TAlgoOrderEntryFrame::SetLayoutData(std::string_view text) {
-  return Cross(false, [&] {
+  return AtBoundary(false, [&] {
     const TLayoutValues values = ReadValues(text);
     const auto apply = [&](std::size_t index) { ApplyLayoutValue(LayoutRows[index], values[index]); };
     for (const std::string_view key : ReadFirst) {

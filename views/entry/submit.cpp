@@ -20,9 +20,9 @@ void TAlgoOrderEntryFrame::PopupMsg(std::string_view resourceId) const {
   ShowMessage(GetResource(resourceId));
 }
 
-void TAlgoOrderEntryFrame::Tell(const model::TComplaint& complaint) const {
-  if (complaint.told == model::TTold::Resource) return PopupMsg(complaint.id);
-  const TOutsideLoop messageBox;
+void TAlgoOrderEntryFrame::Tell(const model::TRuleFailure& complaint) const {
+  if (complaint.told == model::TMessageSource::Resource) return PopupMsg(complaint.id);
+  const TNestedLoopScope messageBox;
   host::TCustomMessageBoxCtrl::GetInstance().ShowErrorCode(complaint.id);
 }
 
@@ -45,7 +45,7 @@ model::TParamValues TAlgoOrderEntryFrame::Values() const {
   return values;
 }
 
-std::optional<model::TComplaint> TAlgoOrderEntryFrame::CheckCommon() const {
+std::optional<model::TRuleFailure> TAlgoOrderEntryFrame::CheckCommon() const {
   return model::CheckCommonRules({
       .side = FOrderType,
       .account = FCurrentAccount,
@@ -60,7 +60,7 @@ std::optional<model::TComplaint> TAlgoOrderEntryFrame::CheckCommon() const {
   });
 }
 
-std::optional<model::TComplaint> TAlgoOrderEntryFrame::CheckAlgoFields() const {
+std::optional<model::TRuleFailure> TAlgoOrderEntryFrame::CheckAlgoFields() const {
   const model::TParamValues values = Values();
   if (const auto complaint = model::CheckTimes(values)) return complaint;
   const model::TAlgoRow* algo = ChosenAlgo();

@@ -89,7 +89,7 @@ void TAlgoWorkOrderFrame::ReadConfig() {
 }
 
 bool TAlgoWorkOrderFrame::SetLanguage(std::int32_t language) {
-  return Cross(false, [&] {
+  return AtBoundary(false, [&] {
     TAlgoOrderChangeFrame::SetLanguage(language);
     SetWorkCaptions();
     return true;
@@ -107,7 +107,7 @@ void TAlgoWorkOrderFrame::SetWorkCaptions() {
 }
 
 bool TAlgoWorkOrderFrame::SetGroupID(std::string_view id) {
-  return Cross(false, [&] {
+  return AtBoundary(false, [&] {
     TAlgoOrderChangeFrame::SetGroupID(id);
     if (id == FGroupID) return true;
     FGroupID = id;

@@ -55,7 +55,7 @@ class TAlgoWorkOrderFrame : public TAlgoOrderChangeFrame {
   double GetLotSize() const;
   double GetSpinEditValue(const forms::TSpinEdit* editor) const;
   bool CheckInput();
-  std::optional<model::TComplaint> FirstComplaint() const;
+  std::optional<model::TRuleFailure> FirstComplaint() const;
   void UpdateOrder();
 
   forms::TTextEdit* tedtOrderNum = nullptr;

@@ -83,28 +83,30 @@ bool TAlgoWorkOrderFrame::CheckInput() {
   return !complaint && CheckOrderValid();
 }
 
-std::optional<model::TComplaint> TAlgoWorkOrderFrame::FirstComplaint() const {
-  using enum model::TTold;
-  using TComplaint = model::TComplaint;
+std::optional<model::TRuleFailure> TAlgoWorkOrderFrame::FirstComplaint() const {
+  using enum model::TMessageSource;
+  using TRuleFailure = model::TRuleFailure;
   const std::string account = Edit(TField::edtAccount).Text();
-  if (account.empty()) return TComplaint{HostCode, "DC10013001"};
-  if (!host::TCustomAccountAdapter::GetInstance().IsKnown(account)) return TComplaint{HostCode, "DC10013002"};
-  if (Edit(TField::edtSymbol).Text().empty()) return TComplaint{HostCode, "DC1000001"};
+  if (account.empty()) return TRuleFailure{HostCode, "DC10013001"};
+  if (!host::TCustomAccountAdapter::GetInstance().IsKnown(account))
+    return TRuleFailure{HostCode, "DC10013002"};
+  if (Edit(TField::edtSymbol).Text().empty()) return TRuleFailure{HostCode, "DC1000001"};
   const double quantity = GetSpinEditValue(&Spin(TField::edtQty));
-  if (quantity <= 0) return TComplaint{HostCode, "DC1004001"};
-  if (quantity > GetWorkParentOrderAvailableQty(FMyOrder)) return TComplaint{Resource, "Res_QuantityInvalid"};
+  if (quantity <= 0) return TRuleFailure{HostCode, "DC1004001"};
+  if (quantity > GetWorkParentOrderAvailableQty(FMyOrder))
+    return TRuleFailure{Resource, "Res_QuantityInvalid"};
   if (FConfirmWorkOrdPri && Check(TField::cbLockPrice).Checked() && FMyOrder->price != 0) {
     // A buying child may be cheaper than its parent; a selling one has the parent's price and no other.
     const double price = GetSpinEditValue(&Spin(TField::edtPrice));
     if (FMyOrder->side == host::SideBuy && price - FMyOrder->price > model::PriceEpsilon) {
-      return TComplaint{Resource, "Res_ChangeUpPrice"};
+      return TRuleFailure{Resource, "Res_ChangeUpPrice"};
     }
     if (FMyOrder->side == host::SideSell && Differs(price, FMyOrder->price)) {
-      return TComplaint{Resource, "Res_ChangeDownPrice"};
+      return TRuleFailure{Resource, "Res_ChangeDownPrice"};
     }
   }
   const double lot = GetLotSize();
-  if (std::floor(quantity / lot) * lot != quantity) return TComplaint{Resource, "Res_WorkOddLotWarning"};
+  if (std::floor(quantity / lot) * lot != quantity) return TRuleFailure{Resource, "Res_WorkOddLotWarning"};
   return std::nullopt;
 }
 

@@ -1,0 +1,32 @@
+// algo-report: reads the answers of algo-drive and tells people what became of it.
+
+#include <CLI/CLI.hpp>
+#include <iostream>
+#include <string>
+
+#include "terminal/report/run_report.h"
+
+int main(int argc, char** argv) {
+  constexpr int UnusableArguments = 2;
+
+  CLI::App app{
+      "Reads answers of algo-drive from standard input and prints the orders that came of them, field by\n"
+      "field, with the messages that the trader was shown. The exit status is 1 when a command was refused."};
+  app.name("algo-report");
+  app.footer("Use: algo-drive < script.jsonl | algo-report");
+  try {
+    app.parse(argc, argv);
+  } catch (const CLI::CallForHelp& help) {
+    return app.exit(help);
+  } catch (const CLI::ParseError& error) {
+    std::cerr << "algo-report: " << error.what() << '\n';
+    return UnusableArguments;
+  }
+
+  std::ios::sync_with_stdio(false);
+  algo::terminal::TRunReport account(std::cout);
+  std::string line;
+  while (std::getline(std::cin, line)) account.AddLine(line);
+  account.Finish();
+  return account.AllOk() ? 0 : 1;
+}

@@ -1,0 +1,108 @@
+#include "terminal/ui_driver/widget_trader.h"
+
+#include <QAbstractItemView>
+#include <QApplication>
+#include <QComboBox>
+#include <QStyle>
+#include <QStyleOptionButton>
+#include <QTest>
+
+#include "forms/choices.h"
+#include "terminal/drive/json.h"
+#include "terminal/render/qt_text.h"
+#include "terminal/ui_driver/differences.h"
+
+namespace algo::terminal {
+
+using forms::TInputResult;
+
+namespace {
+
+QWidget& InputOf(TFrameView& view, const forms::TControl& control) { return view.Find(control)->Input(); }
+
+/// Where a click hits the control, which of a check box is its indicator alone.
+QPoint ClickPoint(const QWidget& widget, forms::TControlKind kind) {
+  if (kind != forms::TControlKind::Check) return widget.rect().center();
+  QStyleOptionButton option;
+  option.initFrom(&widget);
+  return widget.style()->subElementRect(QStyle::SE_CheckBoxIndicator, &option, &widget).center();
+}
+
+/// Why a change of a list or an editor is not taken, or that it may be tried.
+TInputResult TakesChange(const forms::TFrame& frame, const forms::TControl& control) {
+  const TInputResult result = frame.TakesInput(control);
+  return result == TInputResult::Taken && control.ReadOnly() ? TInputResult::ReadOnly : result;
+}
+
+}  // namespace
+
+TInputResult TWidgetTrader::Type(const TFramePointer& frame, forms::TControl& control,
+                                 std::string_view text) {
+  if (dynamic_cast<forms::TEditor*>(&control) == nullptr) return TInputResult::Unsuited;
+  if (const auto result = TakesChange(*frame, control); result != TInputResult::Taken) return result;
+  QWidget& input = InputOf(FStage.ViewOf(frame), control);
+  input.setFocus(Qt::TabFocusReason);
+  if (const auto result = TakesChange(*frame, control); result != TInputResult::Taken) return result;
+  QTest::keyClick(&input, Qt::Key_A, Qt::ControlModifier);
+  if (text.empty()) {
+    QTest::keyClick(&input, Qt::Key_Delete);
+    return TInputResult::Taken;
+  }
+  for (const QChar key : ToQt(text)) {
+    // Control characters are no characters of a text, and some of them are keys that do other things.
+    if (key.category() == QChar::Other_Control) continue;
+    QTest::sendKeyEvent(QTest::Click, &input, Qt::Key_unknown, QString(key), Qt::NoModifier);
+  }
+  return TInputResult::Taken;
+}
+
+TInputResult TWidgetTrader::Enter(const TFramePointer& frame, forms::TControl& control) {
+  if (const auto result = frame->TakesInput(control); result != TInputResult::Taken) return result;
+  QWidget& input = InputOf(FStage.ViewOf(frame), control);
+  input.setFocus(Qt::TabFocusReason);
+  if (const auto result = frame->TakesInput(control); result != TInputResult::Taken) return result;
+  QTest::keyClick(&input, Qt::Key_Return);
+  return TInputResult::Taken;
+}
+
+TInputResult TWidgetTrader::Click(const TFramePointer& frame, forms::TControl& control) {
+  if (const auto result = frame->TakesInput(control); result != TInputResult::Taken) return result;
+  QWidget& input = InputOf(FStage.ViewOf(frame), control);
+  QTest::mouseClick(&input, Qt::LeftButton, Qt::NoModifier, ClickPoint(input, control.Kind()));
+  if (frame.use_count() > 1) {
+    // The click opened the list; nothing is to be picked from it.
+    if (auto* list = qobject_cast<QComboBox*>(&input)) list->hidePopup();
+  }
+  return TInputResult::Taken;
+}
+
+TInputResult TWidgetTrader::Pick(const TFramePointer& frame, forms::TControl& control, std::int32_t index) {
+  const auto* combo = dynamic_cast<const forms::TComboBox*>(&control);
+  if (combo == nullptr) return TInputResult::Unsuited;
+  if (const auto result = TakesChange(*frame, control); result != TInputResult::Taken) return result;
+  if (index < 0 || index >= combo->Count()) return TInputResult::OutOfRange;
+  auto& list = static_cast<QComboBox&>(InputOf(FStage.ViewOf(frame), control));
+  list.setFocus(Qt::TabFocusReason);
+  if (const auto result = TakesChange(*frame, control); result != TInputResult::Taken) return result;
+  QTest::keyClick(&list, Qt::Key_F4);
+  QAbstractItemView& rows = *list.view();
+  QTest::keyClick(&rows, Qt::Key_Home);
+  for (std::int32_t row = 0; row < index; ++row) QTest::keyClick(&rows, Qt::Key_Down);
+  QTest::keyClick(&rows, Qt::Key_Return);
+  return TInputResult::Taken;
+}
+
+void TWidgetTrader::Leave(const TFramePointer& frame) {
+  const TFrameView& view = FStage.ViewOf(frame);
+  QWidget& rest = FStage.RestOf(view);
+  QTest::mouseClick(&rest, Qt::LeftButton);
+}
+
+void TWidgetTrader::Settle() {
+  QApplication::processEvents();
+  QStringList differences;
+  for (const TFrameView* view : FStage.Views()) differences += DifferencesOf(*view);
+  if (!differences.isEmpty()) throw ECommandError(FromQt(differences.join(QStringLiteral("; "))));
+}
+
+}  // namespace algo::terminal

@@ -1,0 +1,32 @@
+#pragma once
+
+// A stage without a terminal around it: each frame in a window of its own, made when the trader first turns
+// to it. A window goes with its frame.
+
+#include <memory>
+#include <vector>
+
+#include "terminal/render/editor_aids.h"
+#include "terminal/ui_driver/stage.h"
+
+namespace algo::terminal {
+
+class TWindowStage final : public TStage {
+ public:
+  TWindowStage();
+  ~TWindowStage() override;
+
+  TFrameView& ViewOf(const std::shared_ptr<forms::TFrame>& frame) override;
+
+  QWidget& RestOf(const TFrameView& view) const override;
+
+  std::vector<const TFrameView*> Views() override;
+
+ private:
+  struct TWindow;
+
+  TEditorAids FAids;
+  std::vector<std::unique_ptr<TWindow>> FWindows;
+};
+
+}  // namespace algo::terminal

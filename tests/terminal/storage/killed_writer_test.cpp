@@ -1,0 +1,107 @@
+// An order whose action was answered as accepted is on record, however the terminal ends.
+//
+// ALGO_KILL_ROUNDS and ALGO_KILL_SEED set how often the terminal is killed, and the moments.
+
+#include <chrono>
+#include <cstdlib>
+#include <map>
+#include <random>
+#include <thread>
+
+#include "terminal/storage/connection.h"
+#include "terminal/storage/statement.h"
+#include "tests/terminal/storage/killed_program.h"
+#include "tests/terminal/storage/storage_fixture.h"
+
+namespace algo::terminal::tests {
+namespace {
+
+std::uint32_t FromEnvironment(const char* name, std::uint32_t otherwise) {
+  const char* const text = std::getenv(name);
+  return text == nullptr ? otherwise : static_cast<std::uint32_t>(std::strtoul(text, nullptr, 10));
+}
+
+constexpr std::uint32_t RoundsOfADatabase = 5;
+
+struct TKilledWriter : TStorageTest {
+  /// Lets the writer work up to a random moment, now and then before it has opened the database, and adds
+  /// what it reported.
+  void WriteUntilKilled() {
+    TKilledProgram writer("algo-killed-writer", file);
+    const bool opening = random() % 3 == 0;
+    auto linesToWaitFor = opening ? 0 : 1 + random() % 24;
+    const auto microseconds = random() % (opening ? 30000 : 3000);
+    while (linesToWaitFor-- > 0) {
+      const auto line = writer.Line();
+      ASSERT_TRUE(line) << "the writer ended by itself";
+      Report(*line);
+    }
+    std::this_thread::sleep_for(std::chrono::microseconds(microseconds));
+    ASSERT_TRUE(writer.Kill()) << "the writer ended by itself";
+    while (const auto line = writer.Line()) Report(*line);
+  }
+
+  void Report(const std::string& line) {
+    const auto blank = line.find(' ');
+    const int count = std::stoi(line.substr(blank));
+    const auto [known, isNew] = reported.insert({line.substr(0, blank), count});
+    ASSERT_EQ(known->second + (isNew ? 0 : 1), count) << "a key came twice: " << line;
+    known->second = count;
+  }
+
+  /// The database holds what was reported, and of the last action that was not reported all or nothing.
+  void ExpectEverythingReported() {
+    // Opened by the keeper first: it has to cope with what the writer left, and not with what was tidied.
+    auto keeper = Open();
+    TOrderStore kept;
+    keeper->LoadInto(data, kept);
+    for (const auto& [key, count] : reported) ASSERT_NE(kept.Find(key), nullptr) << key;
+
+    int unreported = 0;
+    for (const auto& order : kept.All()) {
+      const int count = static_cast<int>(order->quantity);
+      int& known = reported[order->key];
+      ASSERT_GE(count, known) << order->key;
+      unreported += count - known;
+      known = count;
+      ASSERT_EQ(keeper->EventsOf(order->key).size(), static_cast<std::size_t>(count)) << order->key;
+      ASSERT_EQ(order->NumberedTexts().size(), static_cast<std::size_t>(count)) << order->key;
+    }
+    ASSERT_LE(unreported, 1);
+    surplus += unreported;
+
+    keeper.reset();
+    TConnection connection(file);
+    ASSERT_EQ(First<std::string>(connection, "PRAGMA integrity_check"), "ok");
+  }
+
+  std::mt19937 random;
+  std::map<std::string, int> reported;
+  int surplus = 0;
+};
+
+TEST_F(TKilledWriter, HasEveryAcceptedOrderOnRecord) {
+  const std::uint32_t rounds = FromEnvironment("ALGO_KILL_ROUNDS", 100);
+  const std::uint32_t seed = FromEnvironment("ALGO_KILL_SEED", std::random_device()());
+  std::cout << "ALGO_KILL_SEED=" << seed << " ALGO_KILL_ROUNDS=" << rounds << "\n";
+  random.seed(seed);
+
+  std::size_t orderCount = 0;
+  for (std::uint32_t round = 0; round < rounds; ++round) {
+    SCOPED_TRACE("round " + std::to_string(round));
+    if (round % RoundsOfADatabase == 0) {
+      file = folder.Path("terminal" + std::to_string(round) + ".db");
+      orderCount += reported.size();
+      reported.clear();
+    }
+    WriteUntilKilled();
+    if (!HasFatalFailure()) ExpectEverythingReported();
+    if (HasFatalFailure()) return;
+  }
+  orderCount += reported.size();
+  std::cout << orderCount << " orders on record, " << surplus << " actions kept but not yet reported\n";
+  EXPECT_GT(orderCount, rounds / 2) << "the writer hardly came to write";
+}
+
+}  // namespace
+}  // namespace algo::terminal::tests

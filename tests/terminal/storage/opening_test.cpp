@@ -1,0 +1,119 @@
+// Which files are opened, and what is said of the others. What is refused is left as it was.
+
+#include "terminal/storage/connection.h"
+#include "tests/terminal/storage/opening_fixture.h"
+
+namespace algo::terminal::tests {
+namespace {
+
+namespace fs = std::filesystem;
+
+TEST_F(TOpening, AFileThatIsNotThereIsMade) {
+  EXPECT_EQ(Refusal(), "");
+  EXPECT_TRUE(FileBytes(file).starts_with("SQLite format 3"));
+  EXPECT_EQ(FileNames(), (std::vector<std::string>{"terminal.db"}));
+}
+
+TEST_F(TOpening, AnEmptyFileBecomesADatabase) {
+  WriteFileBytes(file, "");
+  Open()->KeepOrder({"me", "new", "accepted"}, OrderWithKey("K"));
+  Load();
+  EXPECT_EQ(LoadedKeys(), (std::vector<std::string>{"K"}));
+}
+
+TEST_F(TOpening, NamesThatSqliteGivesAMeaningOfItsOwnAreFilesAllTheSame) {
+  const fs::path before = fs::current_path();
+  fs::current_path(folder.Path());
+  { const TSqliteStorage keeper(":memory:"); }
+  fs::current_path(before);
+  EXPECT_EQ(FileNames(), (std::vector<std::string>{":memory:"}));
+  EXPECT_EQ(MessageOf([] { TSqliteStorage(""); }),
+            "The database '' has no name that a file can have. Choose another file.");
+}
+
+TEST_F(TOpening, AFolderThatDoesNotExistIsNotMade) {
+  file = folder.Path("no/terminal.db");
+  EXPECT_EQ(Refusal(), FullMessage("cannot be made, because its folder does not exist. Make the folder, or "
+                                   "choose another file."));
+  EXPECT_EQ(FileNames(), (std::vector<std::string>{}));
+}
+
+TEST_F(TOpening, AFolderIsNoDatabase) {
+  fs::create_directory(file);
+  EXPECT_EQ(Refusal(), FullMessage("is no file. Choose another file."));
+}
+
+TEST_F(TOpening, AFileThatIsNoDatabaseIsRefused) {
+  for (const std::string& bytes :
+       {std::string("x"), std::string("{\"my\":\"notes\"}"), std::string(8192, '\0')}) {
+    WriteFileBytes(file, bytes);
+    EXPECT_EQ(Refusal(),
+              FullMessage("is no database. Choose another file, or put a copy of the database back."));
+    EXPECT_EQ(FileBytes(file), bytes);
+  }
+}
+
+TEST_F(TOpening, ADatabaseOfAnotherProgramIsRefused) {
+  for (const char* sql : {"CREATE TABLE notes (text)", "PRAGMA journal_mode=WAL; CREATE TABLE more (text)",
+                          "PRAGMA application_id=1; PRAGMA user_version=1"}) {
+    TConnection(file).Execute(sql);
+    const std::string bytes = FileBytes(file);
+    EXPECT_EQ(Refusal(), FullMessage("belongs to another program. Choose another file.")) << sql;
+    EXPECT_EQ(FileBytes(file), bytes);
+    EXPECT_EQ(FileNames(), (std::vector<std::string>{"terminal.db"}));
+  }
+}
+
+TEST_F(TOpening, ADatabaseOfANewerTerminalIsRefused) {
+  Open()->KeepOrder({"me", "new", "accepted"}, OrderWithKey("K"));
+  for (const char* sql : {"PRAGMA user_version=2", "PRAGMA user_version=-1"}) {
+    TConnection(file).Execute(sql);
+    const std::string bytes = FileBytes(file);
+    EXPECT_EQ(Refusal(),
+              FullMessage("was last used by a newer version of the terminal. Start that version, or "
+                          "choose another file."));
+    EXPECT_EQ(FileBytes(file), bytes);
+  }
+}
+
+TEST_F(TOpening, ADamagedDatabaseIsRefused) {
+  {
+    const auto keeper = Open();
+    for (int i = 0; i < 50; ++i) {
+      auto order = OrderWithKey("K" + std::to_string(i));
+      order.SetTextProperty(440, std::string(2000, 'x'));
+      keeper->KeepOrder({"me", "new", "accepted"}, order);
+    }
+  }
+  const std::string whole = FileBytes(file);
+  ASSERT_GT(whole.size(), 100000U);
+  const std::string message = FullMessage(
+      "is damaged. Put a copy of it back, or move it away to begin with an "
+      "empty one.");
+
+  std::string torn = whole;
+  torn.replace(4096, whole.size() - 4096, whole.size() - 4096, '\x55');
+  const std::string cut = whole.substr(0, whole.size() / 2);
+  const std::string head = whole.substr(0, 100);
+  for (const std::string& bytes : {torn, cut, head}) {
+    WriteFileBytes(file, bytes);
+    EXPECT_TRUE(Refusal().starts_with(message)) << Refusal();
+    EXPECT_EQ(FileBytes(file), bytes);
+  }
+  WriteFileBytes(file, whole);
+  EXPECT_EQ(Refusal(), "");
+}
+
+TEST_F(TOpening, ASecondTerminalIsKeptOutUntilTheFirstIsGone) {
+  auto first = Open();
+  first->KeepOrder({"me", "new", "accepted"}, OrderWithKey("K"));
+  EXPECT_TRUE(Refusal().starts_with(
+      FullMessage("is in use by another program. Close that program, then try again.")));
+  first->KeepOrder({"me", "new", "accepted"}, OrderWithKey("L"));
+  first.reset();
+  Load();
+  EXPECT_EQ(LoadedKeys(), (std::vector<std::string>{"K", "L"}));
+}
+
+}  // namespace
+}  // namespace algo::terminal::tests

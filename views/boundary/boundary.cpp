@@ -1,0 +1,29 @@
+#include "views/boundary/boundary.h"
+
+#include <exception>
+#include <string>
+
+#include "plugin/host_contract/message_box.h"
+
+namespace algo::views {
+
+void ShowMessage(const std::string& text) {
+  const TNestedLoopScope messageBox;
+  host::TCustomMessageBoxCtrl::GetInstance().ShowText(text);
+}
+
+void ReportCurrentError() noexcept {
+  try {
+    try {
+      throw;
+    } catch (const std::exception& error) {
+      ShowMessage(error.what());
+    } catch (...) {
+      ShowMessage("Unknown error");
+    }
+  } catch (...) {  // NOLINT(bugprone-empty-catch): the message box is the last resort; when it fails nobody
+                   // is left
+  }
+}
+
+}  // namespace algo::views
