@@ -11,14 +11,15 @@ cd "$root"
 
 arrows='
 text                        ->
-model                       -> text
+model                       -> text plugin/host_contract/flags
 forms                       -> text
+plugin/host_contract/flags  ->
 plugin/host_contract        -> forms text
 plugin/host_contract/checks -> forms plugin/host_contract
 views/boundary              -> plugin/host_contract
-views/entry                 -> text model forms plugin/host_contract views/boundary
+views/entry                 -> text model forms plugin/host_contract plugin/host_contract/flags views/boundary
 views/change                -> text model forms plugin/host_contract views/entry
-views/work                  -> text model forms plugin/host_contract views/entry views/change
+views/work                  -> text model forms plugin/host_contract views/boundary views/entry views/change
 plugin                      -> text forms plugin/host_contract views/boundary views/entry views/change views/work
 terminal/host               -> text forms plugin/host_contract
 terminal/drive              -> text forms plugin/host_contract terminal/host plugin/host_contract/checks

@@ -136,7 +136,7 @@ TEST(AlgoRules, LookAtNoOtherField) {
   for (const TAlgoRow& row : AlgoRows()) {
     TParamValues values;
     for (const TParamRow& param : ParamRows()) {
-      if (param.kind == TValueKind::Number) values.SetNumber(param.param, -1e9);
+      if (IsNumber(param.kind)) values.SetNumber(param.param, -1e9);
     }
     for (const TCase& field : AllCases) {
       if (field.code == row.code) values.SetNumber(field.param, std::nullopt);
@@ -161,7 +161,7 @@ TEST(AlgoRules, AreNoneForTheSimplestAlgorithms) {
   for (const std::string_view code : {"CLOSE", "OPEN", "SHORT SELL"}) {
     TParamValues values;
     for (const TParamRow& param : ParamRows()) {
-      if (param.kind == TValueKind::Number) values.SetNumber(param.param, -1);
+      if (IsNumber(param.kind)) values.SetNumber(param.param, -1);
     }
     EXPECT_EQ(Check(code, values), std::nullopt) << code;
   }

@@ -8,11 +8,11 @@
 #include "forms/dialog_form.h"
 #include "plugin/host_contract/order_action_manager.h"
 #include "text/number_text.h"
+#include "views/entry/price_multiplier.h"
 
 namespace algo::views {
 
-TAlgoOrderChangeFrame::TAlgoOrderChangeFrame(std::string className)
-    : TAlgoOrderEntryFrame(std::move(className)) {
+TAlgoOrderChangeFrame::TAlgoOrderChangeFrame(const TFramePurpose& purpose) : TAlgoOrderEntryFrame(purpose) {
   for (const model::TAlgoRow& row : model::AlgoRows()) FOrderConstList.emplace_back(row.code);
 }
 
@@ -33,20 +33,20 @@ void TAlgoOrderChangeFrame::ChangeOrder(host::TCustomClientOrder* order) {
   if (FMyOrder != nullptr) InitializeViewbyOrder(*FMyOrder);
 }
 
-void TAlgoOrderChangeFrame::LetGoOfOrder() {
+void TAlgoOrderChangeFrame::ReleaseOrder() {
   FMyOrder = nullptr;
   FOwnOrder.reset();
 }
 
 void TAlgoOrderChangeFrame::Detach() {
-  LetGoOfOrder();
+  ReleaseOrder();
   TAlgoOrderEntryFrame::Detach();
 }
 
 bool TAlgoOrderChangeFrame::CheckOrderValid() const {
-  const auto complaint = CheckAlgoFields();
-  if (complaint) Tell(*complaint);
-  return !complaint;
+  const auto failure = CheckAlgoFields();
+  if (failure) Tell(*failure);
+  return !failure;
 }
 
 bool TAlgoOrderChangeFrame::CheckOrder(std::string_view text) const {
@@ -80,7 +80,7 @@ void TAlgoOrderChangeFrame::SubmitChange() {
   if (!FIsChangeOrderShowModalView && FOrderOperatorMode == TOperatorMode::Change && Form() != nullptr) {
     host::TCustomOrderActionManager::GetInstance().TakeAction(nullptr, FMyOrder, host::TOrderAction::Change,
                                                               1);
-    LetGoOfOrder();
+    ReleaseOrder();
     // The host may have closed the form while it took the action.
     if (Form() != nullptr) Form()->Close();
   }
@@ -90,12 +90,6 @@ void TAlgoOrderChangeFrame::SubmitChange() {
 
 void TAlgoOrderChangeFrame::cbPopupClick() {
   if (FOrderOperatorMode == TOperatorMode::Add) TAlgoOrderEntryFrame::cbPopupClick();
-}
-
-void TAlgoOrderChangeFrame::AlgoNotOffered() {
-  // Better no algorithm than another one: the order can be looked at, and an attempt to send it fails.
-  FAlgoNotOffered = true;
-  Combo(TField::cmbOrderType).SetIndex(-1);
 }
 
 }  // namespace algo::views

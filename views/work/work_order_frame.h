@@ -34,7 +34,6 @@ class TAlgoWorkOrderFrame : public TAlgoOrderChangeFrame {
   void btnSubmitClick() override;
   void btnClearClick() override;
   void cbLockPriceChange() override;
-  void cmbOrderTypeChange() override;
 
  private:
   // work_form.cpp
@@ -55,7 +54,7 @@ class TAlgoWorkOrderFrame : public TAlgoOrderChangeFrame {
   double GetLotSize() const;
   double GetSpinEditValue(const forms::TSpinEdit* editor) const;
   bool CheckInput();
-  std::optional<model::TRuleFailure> FirstComplaint() const;
+  std::optional<model::TRuleFailure> FirstFailure() const;
   void UpdateOrder();
 
   forms::TTextEdit* tedtOrderNum = nullptr;
@@ -68,7 +67,6 @@ class TAlgoWorkOrderFrame : public TAlgoOrderChangeFrame {
   bool FAvailQtyAsQty = true;
   bool FConfirmWorkOrdPri = false;
   bool FIsUpdating = false;
-  std::function<void()> FOnAlgoTypeChange;
 };
 
 }  // namespace algo::views

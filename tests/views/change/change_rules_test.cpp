@@ -194,7 +194,7 @@ TEST_F(ChangeRules, LookAtTheTimesBeforeAnyFieldOfTheAlgorithm) {
   }
 }
 
-TEST_F(ChangeRules, TellTheFirstComplaintAlone) {
+TEST_F(ChangeRules, TellTheFirstFailureAlone) {
   TCustomClientOrder order = OrderWith("TMLO:AlgoId=PEG;");
   Change(order, [&](forms::TDialogForm&, TChangeFrame& frame) {
     for (const char* control : {"edtMinOrdAmt", "edtWPx", "edtTimeOut", "edtJoinThr"}) {

@@ -18,7 +18,7 @@ class WorkParent : public TOrderDialogTest {
   }
 };
 
-TEST_F(WorkParent, TellsOneComplaintAfterTheOtherInTheirOrder) {
+TEST_F(WorkParent, TellsOneFailureAfterTheOtherInTheirOrder) {
   auto& frame = Open();
   Combo(frame, "cmbOrderType").SetIndex(-1);
   EXPECT_EQ(ToldByWork(frame), TMessageSource{"Res_BuySellMiss"});

@@ -93,7 +93,7 @@ TEST_F(WorkHost, NeedsNoDialogAndNoListenerForItsSize) {
   Click(*frame, "btnSubmit");
   EXPECT_TRUE(Told().empty());
   EXPECT_EQ(parent.TextProperty(440), "TMLO:AlgoId=PEG,Closing=0,Closing=0;");
-  frame->LetGoOfOrder();
+  frame->ReleaseOrder();
   Click(*frame, "btnSubmit");
   EXPECT_TRUE(Told().empty());
   frame->Detach();

@@ -41,7 +41,7 @@ class WorkRules : public TOrderDialogTest {
   }
 };
 
-TEST_F(WorkRules, TellOneComplaintAfterTheOtherInTheirOrder) {
+TEST_F(WorkRules, TellOneFailureAfterTheOtherInTheirOrder) {
   CheckPrices(true);
   Data().texts["Res"] = {{"Res_QuantityInvalid", "Too much"}};
   TCustomClientOrder parent = ParentOrder();
