@@ -7,7 +7,7 @@
 #include "terminal/drive/host_merge.h"
 #include "terminal/drive/session.h"
 
-namespace algo::terminal {
+namespace algo::terminal::drive {
 
 namespace {
 
@@ -43,4 +43,4 @@ constexpr std::array Commands{TCommand{"host", Host}, TCommand{"config_changed",
 
 std::span<const TCommand> HostCommands() { return Commands; }
 
-}  // namespace algo::terminal
+}  // namespace algo::terminal::drive

@@ -5,7 +5,7 @@
 #include "terminal/drive/boundary.h"
 #include "terminal/drive/command_table.h"
 
-namespace algo::terminal {
+namespace algo::terminal::drive {
 
 namespace {
 
@@ -98,4 +98,4 @@ const TLoadedModule& TSession::Module() const {
   return *FModule;
 }
 
-}  // namespace algo::terminal
+}  // namespace algo::terminal::drive

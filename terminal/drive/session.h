@@ -14,7 +14,7 @@
 #include "terminal/drive/trader.h"
 #include "terminal/host/memory_host.h"
 
-namespace algo::terminal {
+namespace algo::terminal::drive {
 
 class TSession {
  public:
@@ -65,4 +65,4 @@ class TSession {
   bool FChangesAreModal = true;
 };
 
-}  // namespace algo::terminal
+}  // namespace algo::terminal::drive
