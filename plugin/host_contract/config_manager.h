@@ -13,6 +13,8 @@ namespace algo::host {
 
 class ALGO_SHARED TCustomConfigManager : public THostService<TCustomConfigManager> {
  public:
+  using TListener = std::function<void()>;
+
   virtual ~TCustomConfigManager();
 
   /// The name of the section under which the user's own settings lie.
@@ -32,7 +34,7 @@ class ALGO_SHARED TCustomConfigManager : public THostService<TCustomConfigManage
 
   /// Calls `listener` whenever settings were changed from outside, until the owner is removed. One listener
   /// an owner.
-  virtual void AddListener(std::function<void()> listener, TOwner owner) = 0;
+  virtual void AddListener(TListener listener, TOwner owner) = 0;
   virtual void RemoveListener(TOwner owner) = 0;
 };
 

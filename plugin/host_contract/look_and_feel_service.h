@@ -18,13 +18,15 @@ inline constexpr std::int32_t ButtonColorSlot = 7;
 
 class ALGO_SHARED TCustomLookAndFeelService : public THostService<TCustomLookAndFeelService> {
  public:
+  using TListener = std::function<void(std::string_view skin)>;
+
   virtual ~TCustomLookAndFeelService();
 
   /// The colour of that index in the current skin. The module always passes 0 as `variant`.
   virtual forms::TColor ColorOf(std::int32_t index, std::int32_t variant) = 0;
 
   /// Calls `listener` with the new skin's name when the skin changes, until the owner is removed.
-  virtual void AddListener(std::function<void(std::string_view skin)> listener, TOwner owner) = 0;
+  virtual void AddListener(TListener listener, TOwner owner) = 0;
   virtual void RemoveListener(TOwner owner) = 0;
 };
 

@@ -35,7 +35,7 @@ class TSession {
   void Load();
   /// Closes everything the module has open, unloads it and returns what it left behind. Throws ECommandError
   /// when none is loaded.
-  host::TLeftBehind Unload();
+  host::checks::TLeftBehind Unload();
 
   /// The loaded module. Throws ECommandError when none is.
   const TLoadedModule& Module() const;
@@ -60,7 +60,7 @@ class TSession {
   TDialogs FDialogs;
   TEventLog FLog;
   TMemoryHost FHost;
-  host::TStrictHost FStrict;
+  host::checks::TStrictHost FStrict;
   std::optional<TLoadedModule> FModule;
   bool FChangesAreModal = true;
 };
