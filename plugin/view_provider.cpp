@@ -24,10 +24,6 @@ constexpr TMenuRow NoMenuRow{-1, 0, {}};
 
 const TMenuRow& MenuRow(std::int32_t level) { return level == 0 || level == 1 ? MenuRows[level] : NoMenuRow; }
 
-std::string Resource(std::string_view id) {
-  return host::TCustomLanguageManager::GetInstance().GetText(host::Const_ResourceStringTag, id, 3, 0, 0);
-}
-
 }  // namespace
 
 TIAlgoEntryOrder::TIAlgoEntryOrder(const void* owner) : TIBaseView(owner) {
@@ -73,7 +69,7 @@ std::int32_t TIAlgoEntryOrder::GetMenuID(std::int32_t level) { return MenuRow(le
 std::string TIAlgoEntryOrder::GetMenuCaption(std::int32_t level) {
   return views::AtBoundary(std::string(), [level] {
     const std::string_view id = MenuRow(level).captionId;
-    return id.empty() ? std::string() : Resource(id);
+    return id.empty() ? std::string() : host::ResourceText(id);
   });
 }
 
@@ -86,7 +82,7 @@ bool TIAlgoEntryOrder::GetIsVisible() {
 
 bool TIAlgoEntryOrder::GetDefaultCaption(std::string& caption) {
   return views::AtBoundary(false, [&caption] {
-    caption = Resource("Res_AlgoOrderEntry");
+    caption = host::ResourceText("Res_AlgoOrderEntry");
     return true;
   });
 }
@@ -112,7 +108,7 @@ bool TIAlgoEntryOrder::SetLanguage(host::TInstanceHandle instance, std::int32_t 
     // A copy: what the frames set off may close a form.
     for (const auto& [key, open] : std::map(FOpenChanges)) {
       open.frame->SetLanguage(language);
-      if (open.frame->Form() != nullptr) open.frame->Form()->SetCaption(Resource("Res_Conf_ChangeOrder"));
+      if (open.frame->Form() != nullptr) open.frame->Form()->SetCaption(host::ResourceText("Res_Conf_ChangeOrder"));
     }
     return true;
   });

@@ -26,4 +26,7 @@ class ALGO_SHARED TCustomLanguageManager : public THostService<TCustomLanguageMa
                               std::int32_t variant, std::int32_t options) = 0;
 };
 
+/// The resource text of that id, in the user's language.
+ALGO_SHARED std::string ResourceText(std::string_view id);
+
 }  // namespace algo::host

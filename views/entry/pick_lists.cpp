@@ -71,7 +71,7 @@ class TAlgoOrderEntryFrame::TRefill {
 };
 
 std::string TAlgoOrderEntryFrame::GetResource(std::string_view id) const {
-  return host::TCustomLanguageManager::GetInstance().GetText(host::Const_ResourceStringTag, id, 3, 0, 0);
+  return host::ResourceText(id);
 }
 
 auto TAlgoOrderEntryFrame::Chosen() const -> TChosen {
