@@ -2,6 +2,7 @@
 
 #include "plugin/host_contract/config_manager.h"
 #include "plugin/host_contract/language_manager.h"
+#include "plugin/host_contract/listen.h"
 #include "plugin/host_contract/user_app_profile.h"
 #include "views/boundary/boundary.h"
 #include "views/entry/entry_frame.h"
@@ -27,25 +28,19 @@ const TMenuRow& MenuRow(std::int32_t level) { return level == 0 || level == 1 ? 
 }  // namespace
 
 TIAlgoEntryOrder::TIAlgoEntryOrder(const void* owner) : TIBaseView(owner) {
-  FRegistrations.Add(
-      [this] {
-        host::TCustomGlobalChannelManager::GetInstance().Subscribe(
-            host::OrderActionChannel,
-            [this](const void* sender, host::TChannelRecord* record) {
-              views::AtBoundary([&] { TakeOrderAction(sender, record); });
-            },
-            this);
+  FListening = host::ListenToChannel(
+      host::OrderActionChannel,
+      [this](const void* sender, host::TChannelRecord* record) {
+        views::AtBoundary([&] { TakeOrderAction(sender, record); });
       },
-      [this] {
-        host::TCustomGlobalChannelManager::GetInstance().Unsubscribe(host::OrderActionChannel, this);
-      });
+      this);
   auto& config = host::TCustomConfigManager::GetInstance();
   const std::string model = config.ReadText(config.CurrentSection(), "ChangeOrderShowModel");
   FShowChangeModally = !(model.starts_with('n') || model.starts_with('N'));
 }
 
 TIAlgoEntryOrder::~TIAlgoEntryOrder() {
-  views::AtBoundary([this] { FRegistrations.ReleaseAll(); });
+  views::AtBoundary([this] { FListening.Release(); });
   FChange.form.reset();
   while (!FOpenChanges.empty()) {
     // Out of the list first: closing calls back and looks for the form there.
@@ -108,7 +103,8 @@ bool TIAlgoEntryOrder::SetLanguage(host::TInstanceHandle instance, std::int32_t 
     // A copy: what the frames set off may close a form.
     for (const auto& [key, open] : std::map(FOpenChanges)) {
       open.frame->SetLanguage(language);
-      if (open.frame->Form() != nullptr) open.frame->Form()->SetCaption(host::ResourceText("Res_Conf_ChangeOrder"));
+      if (open.frame->Form() != nullptr)
+        open.frame->Form()->SetCaption(host::ResourceText("Res_Conf_ChangeOrder"));
     }
     return true;
   });

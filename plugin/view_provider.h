@@ -12,7 +12,7 @@
 
 #include "plugin/host_contract/base_view.h"
 #include "plugin/host_contract/channel_manager.h"
-#include "views/boundary/registrations.h"
+#include "plugin/host_contract/registration.h"
 #include "views/change/change_frame.h"
 #include "views/work/work_order_frame.h"
 
@@ -64,7 +64,7 @@ class TIAlgoEntryOrder : public host::TIBaseView {
   std::map<std::string, THostedFrame<views::TAlgoOrderChangeFrame>>
       FOpenChanges;  ///< non-modal forms by order key
   bool FShowChangeModally = true;
-  views::TRegistrations FRegistrations;
+  host::TRegistration FListening;  ///< to the order actions
 };
 
 }  // namespace algo::plugin

@@ -26,9 +26,9 @@
 #include "plugin/host_contract/channel_manager.h"
 #include "plugin/host_contract/market_data.h"
 #include "plugin/host_contract/orders.h"
+#include "plugin/host_contract/registration.h"
 #include "plugin/host_contract/view_frame.h"
 #include "views/boundary/boundary.h"
-#include "views/boundary/registrations.h"
 #include "views/entry/fields.h"
 
 namespace algo::views {
@@ -330,7 +330,7 @@ class TAlgoOrderEntryFrame : public host::TViewFrame {
   TChosen FAnnounced;
   std::int32_t FRefillDepth = 0;
   std::shared_ptr<const bool> FAlive = std::make_shared<const bool>(true);
-  TRegistrations FRegistrations;
+  host::TRegistrations FRegistrations;
 };
 
 }  // namespace algo::views
