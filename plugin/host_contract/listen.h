@@ -18,6 +18,7 @@
 namespace algo::host {
 
 // Handlers; see the service that each of them is handed to.
+// [module → host, while a provider lives]
 
 [[nodiscard]] ALGO_SHARED TRegistration ListenToChannel(std::int32_t channel,
                                                         TCustomGlobalChannelManager::THandler handler,
