@@ -31,8 +31,8 @@
 
 namespace {
 
-using algo::terminal::TFrameView;
-using algo::terminal::ToQt;
+using algo::terminal::render::TFrameView;
+using algo::terminal::render::ToQt;
 
 /// A terminal with the module, every algorithm on offer, and one symbol.
 class TTerminal {
@@ -44,7 +44,7 @@ class TTerminal {
     Do(R"({"do":"load"})");
   }
 
-  void Do(const char* command) { FSession.Execute(algo::terminal::TCommandJson::parse(command)); }
+  void Do(const char* command) { FSession.Execute(algo::terminal::drive::TCommandJson::parse(command)); }
 
   std::shared_ptr<algo::forms::TFrame> Open(const std::string& label) {
     FSession.Execute({{"do", "open"}, {"frame", label}});
@@ -56,8 +56,8 @@ class TTerminal {
   algo::terminal::TMemoryHost& Host() { return FSession.Host(); }
 
  private:
-  algo::terminal::TTrader FTrader;
-  algo::terminal::TSession FSession{algo::terminal::ModuleBesideProgram(), FTrader};
+  algo::terminal::drive::TTrader FTrader;
+  algo::terminal::drive::TSession FSession{algo::terminal::drive::ModuleBesideProgram(), FTrader};
 };
 
 /// A window with one form of the module.
@@ -71,7 +71,7 @@ struct TFormWindow {
     return view.Find(*view.Frame()->FindControl(control))->Input();
   }
 
-  algo::terminal::TEditorAids aids;
+  algo::terminal::render::TEditorAids aids;
   QWidget window;
   TFrameView view;
 };
@@ -267,7 +267,7 @@ int main(int argc, char** argv) {
   if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM")) qputenv("QT_QPA_PLATFORM", "offscreen");
   const QApplication application(argc, argv);
   QApplication::setQuitOnLastWindowClosed(false);
-  const algo::terminal::TQtToolkit toolkit;
+  const algo::terminal::render::TQtToolkit toolkit;
   algo::forms::TToolkit::Install(&toolkit);
   int status = 0;
   if (argc == 3 && std::strcmp(argv[1], "--open") == 0) {

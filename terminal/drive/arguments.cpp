@@ -2,7 +2,7 @@
 
 #include <limits>
 
-namespace algo::terminal {
+namespace algo::terminal::drive {
 
 namespace {
 
@@ -91,4 +91,4 @@ bool TArguments::BooleanOr(std::string_view name, bool otherwise) const {
   return value == nullptr ? otherwise : AsBoolean(name, *value);
 }
 
-}  // namespace algo::terminal
+}  // namespace algo::terminal::drive

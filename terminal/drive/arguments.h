@@ -12,7 +12,7 @@
 
 #include "terminal/drive/json.h"
 
-namespace algo::terminal {
+namespace algo::terminal::drive {
 
 /// What a value has to be. Each throws ECommandError, with `name` in the text, for a value of another type;
 /// whole numbers moreover for one that does not fit.
@@ -51,4 +51,4 @@ class TArguments {
   const TCommandJson& FCommand;
 };
 
-}  // namespace algo::terminal
+}  // namespace algo::terminal::drive

@@ -9,7 +9,7 @@
 
 #include "terminal/drive/json.h"
 
-namespace algo::terminal {
+namespace algo::terminal::drive {
 
 /// Runs `call`, which leads into the module, and returns what it returns. Throws ECommandError for whatever
 /// comes out.
@@ -25,4 +25,4 @@ decltype(auto) CallModule(TCall&& call) {
   }
 }
 
-}  // namespace algo::terminal
+}  // namespace algo::terminal::drive

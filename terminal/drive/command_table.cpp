@@ -2,7 +2,7 @@
 
 #include <algorithm>
 
-namespace algo::terminal {
+namespace algo::terminal::drive {
 
 const TCommand& FindCommand(std::string_view name) {
   for (const auto& part : {HostCommands(), ViewCommands(), TraderCommands(), LookingCommands(),
@@ -13,4 +13,4 @@ const TCommand& FindCommand(std::string_view name) {
   throw ECommandError("there is no command '" + std::string(name) + "'");
 }
 
-}  // namespace algo::terminal
+}  // namespace algo::terminal::drive

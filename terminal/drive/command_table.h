@@ -7,7 +7,7 @@
 
 #include "terminal/drive/arguments.h"
 
-namespace algo::terminal {
+namespace algo::terminal::drive {
 
 class TSession;
 
@@ -28,4 +28,4 @@ std::span<const TCommand> OrderCommands();    ///< the order store, posts, avail
 /// The command of that name. Throws ECommandError when there is none.
 const TCommand& FindCommand(std::string_view name);
 
-}  // namespace algo::terminal
+}  // namespace algo::terminal::drive

@@ -2,7 +2,7 @@
 
 #include <utility>
 
-namespace algo::terminal {
+namespace algo::terminal::drive {
 
 TDialogs::TDialogs(TFrameNames& names, TRunStack& runs, TTrader& trader, TExecute execute)
     : FNames(names), FRuns(runs), FTrader(trader), FExecute(std::move(execute)) {}
@@ -39,4 +39,4 @@ void TDialogs::Play(forms::TDialogForm& form) {
                          {"result", form.ModalResult()}});
 }
 
-}  // namespace algo::terminal
+}  // namespace algo::terminal::drive

@@ -11,7 +11,7 @@
 #include "terminal/drive/run_stack.h"
 #include "terminal/drive/trader.h"
 
-namespace algo::terminal {
+namespace algo::terminal::drive {
 
 class TDialogs {
  public:
@@ -34,4 +34,4 @@ class TDialogs {
   std::vector<forms::TDialogForm*> FShowing;
 };
 
-}  // namespace algo::terminal
+}  // namespace algo::terminal::drive

@@ -7,7 +7,7 @@
 #include "terminal/drive/session.h"
 #include "text/text.h"
 
-namespace algo::terminal {
+namespace algo::terminal::drive {
 
 namespace {
 
@@ -51,4 +51,4 @@ void Drive(TSession& session, std::istream& script, std::ostream& answers) {
   }
 }
 
-}  // namespace algo::terminal
+}  // namespace algo::terminal::drive

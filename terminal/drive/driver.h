@@ -7,7 +7,7 @@
 
 #include "terminal/drive/json.h"
 
-namespace algo::terminal {
+namespace algo::terminal::drive {
 
 class TSession;
 
@@ -18,4 +18,4 @@ TCommandJson ParseCommand(std::string_view line);
 /// is read. Ends with the script, or when nobody takes the answers any more.
 void Drive(TSession& session, std::istream& script, std::ostream& answers);
 
-}  // namespace algo::terminal
+}  // namespace algo::terminal::drive

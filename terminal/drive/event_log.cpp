@@ -5,7 +5,7 @@
 
 #include "terminal/drive/order_json.h"
 
-namespace algo::terminal {
+namespace algo::terminal::drive {
 
 TEventLog::TEventLog(TFrameNames& names, TRunStack& runs, TDialogs& dialogs)
     : FNames(names), FRuns(runs), FDialogs(dialogs) {}
@@ -110,4 +110,4 @@ void TEventLog::FormClosed(forms::TDialogForm& form) {
   FRuns.AddEvent({{"event", "close_form"}, {"frame", label}});
 }
 
-}  // namespace algo::terminal
+}  // namespace algo::terminal::drive

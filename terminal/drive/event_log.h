@@ -7,7 +7,7 @@
 #include "terminal/drive/run_stack.h"
 #include "terminal/host/host_events.h"
 
-namespace algo::terminal {
+namespace algo::terminal::drive {
 
 class TEventLog final : public THostEvents {
  public:
@@ -42,4 +42,4 @@ class TEventLog final : public THostEvents {
   TDialogs& FDialogs;
 };
 
-}  // namespace algo::terminal
+}  // namespace algo::terminal::drive

@@ -1,6 +1,6 @@
 #include "terminal/drive/frame_names.h"
 
-namespace algo::terminal {
+namespace algo::terminal::drive {
 
 std::string TFrameNames::LabelOf(const forms::TFrame& frame) {
   const auto [known, added] = FLabels.try_emplace(&frame);
@@ -46,4 +46,4 @@ TFrameNames::TMaking::TMaking(TFrameNames& names, std::string_view entry, std::s
 
 TFrameNames::TMaking::~TMaking() { FNames.FLabelOfClass.swap(FFormer); }
 
-}  // namespace algo::terminal
+}  // namespace algo::terminal::drive

@@ -12,7 +12,7 @@
 #include "forms/frame.h"
 #include "plugin/host_contract/view_frame.h"
 
-namespace algo::terminal {
+namespace algo::terminal::drive {
 
 class TFrameNames {
  public:
@@ -63,4 +63,4 @@ class TFrameNames {
       {"TAlgoOrderEntryFrame", ""}, {"TAlgoOrderChangeFrame", "change"}, {"TAlgoWorkOrderFrame", "work"}};
 };
 
-}  // namespace algo::terminal
+}  // namespace algo::terminal::drive

@@ -8,7 +8,7 @@
 #include "plugin/host_contract/look_and_feel_service.h"
 #include "text/date_text.h"
 
-namespace algo::terminal {
+namespace algo::terminal::drive {
 
 namespace {
 
@@ -128,4 +128,4 @@ TAnswerJson FormState(const forms::TDialogForm& form) {
           {"showing", form.Showing()}};
 }
 
-}  // namespace algo::terminal
+}  // namespace algo::terminal::drive

@@ -7,7 +7,7 @@
 #include "forms/frame.h"
 #include "terminal/drive/json.h"
 
-namespace algo::terminal {
+namespace algo::terminal::drive {
 
 /// The state of the control, group or item of that name. Throws ECommandError when the frame has none.
 TAnswerJson StateOf(const forms::TFrame& frame, std::string_view name);
@@ -18,4 +18,4 @@ TAnswerJson StatesOf(const forms::TFrame& frame);
 /// What there is to see of a form.
 TAnswerJson FormState(const forms::TDialogForm& form);
 
-}  // namespace algo::terminal
+}  // namespace algo::terminal::drive

@@ -7,7 +7,7 @@
 #include "terminal/drive/host_merge.h"
 #include "terminal/drive/session.h"
 
-namespace algo::terminal {
+namespace algo::terminal::drive {
 
 namespace {
 
@@ -25,7 +25,7 @@ void ConfigChanged(TSession& session, const TArguments& /*arguments*/, TAnswerJs
 void Load(TSession& session, const TArguments& /*arguments*/, TAnswerJson& /*answer*/) { session.Load(); }
 
 void Unload(TSession& session, const TArguments& /*arguments*/, TAnswerJson& answer) {
-  const host::TLeftBehind left = session.Unload();
+  const host::checks::TLeftBehind left = session.Unload();
   answer["left"] = {{"channels", left.channels},
                     {"config_listeners", left.configListeners},
                     {"market_listeners", left.marketListeners},
@@ -43,4 +43,4 @@ constexpr std::array Commands{TCommand{"host", Host}, TCommand{"config_changed",
 
 std::span<const TCommand> HostCommands() { return Commands; }
 
-}  // namespace algo::terminal
+}  // namespace algo::terminal::drive

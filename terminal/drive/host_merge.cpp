@@ -5,7 +5,7 @@
 #include <charconv>
 #include <utility>
 
-namespace algo::terminal {
+namespace algo::terminal::drive {
 
 namespace {
 
@@ -145,4 +145,4 @@ void MergeHostData(const TCommandJson& changes, THostData& data) {
   data = std::move(changed);
 }
 
-}  // namespace algo::terminal
+}  // namespace algo::terminal::drive

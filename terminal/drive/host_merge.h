@@ -5,7 +5,7 @@
 #include "terminal/drive/arguments.h"
 #include "terminal/host/host_data.h"
 
-namespace algo::terminal {
+namespace algo::terminal::drive {
 
 /// Merges `changes`, a table by the names that scripts have for the data, into the data: tables key by key at
 /// every level, where null takes a key out; everything else is replaced, and null brings back what a new host
@@ -13,4 +13,4 @@ namespace algo::terminal {
 /// value of the wrong type.
 void MergeHostData(const TCommandJson& changes, THostData& data);
 
-}  // namespace algo::terminal
+}  // namespace algo::terminal::drive

@@ -7,7 +7,7 @@
 
 #include "forms/choices.h"
 
-namespace algo::terminal {
+namespace algo::terminal::drive {
 
 void CheckTaken(forms::TInputResult result, const forms::TControl& control) {
   constexpr std::array<std::string_view, 6> Reasons{
@@ -29,4 +29,4 @@ std::int32_t ItemOf(const forms::TControl& control, const TArguments& arguments)
   return static_cast<std::int32_t>(found - combo->Items().begin());
 }
 
-}  // namespace algo::terminal
+}  // namespace algo::terminal::drive

@@ -7,7 +7,7 @@
 #include "forms/frame.h"
 #include "terminal/drive/arguments.h"
 
-namespace algo::terminal {
+namespace algo::terminal::drive {
 
 /// Throws ECommandError for an input that the control did not take.
 void CheckTaken(forms::TInputResult result, const forms::TControl& control);
@@ -16,4 +16,4 @@ void CheckTaken(forms::TInputResult result, const forms::TControl& control);
 /// none.
 std::int32_t ItemOf(const forms::TControl& control, const TArguments& arguments);
 
-}  // namespace algo::terminal
+}  // namespace algo::terminal::drive

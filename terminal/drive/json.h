@@ -10,7 +10,7 @@
 
 #include "text/errors.h"
 
-namespace algo::terminal {
+namespace algo::terminal::drive {
 
 using TCommandJson = nlohmann::json;
 using TAnswerJson = nlohmann::ordered_json;
@@ -30,4 +30,4 @@ inline TAnswerJson NumberJson(double number) {
   return number;
 }
 
-}  // namespace algo::terminal
+}  // namespace algo::terminal::drive

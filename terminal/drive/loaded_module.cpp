@@ -5,7 +5,7 @@
 #include "plugin/host_contract/class_registry.h"
 #include "terminal/drive/boundary.h"
 
-namespace algo::terminal {
+namespace algo::terminal::drive {
 
 namespace {
 
@@ -20,4 +20,4 @@ TLoadedModule::TLoadedModule(const std::string& file, const void* owner) : FLibr
   if (!FProvider) throw ECommandError("the module made no view provider");
 }
 
-}  // namespace algo::terminal
+}  // namespace algo::terminal::drive

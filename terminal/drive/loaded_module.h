@@ -8,7 +8,7 @@
 #include "plugin/host_contract/base_view.h"
 #include "terminal/drive/module_library.h"
 
-namespace algo::terminal {
+namespace algo::terminal::drive {
 
 class TLoadedModule {
  public:
@@ -31,4 +31,4 @@ class TLoadedModule {
   std::unique_ptr<host::TIBaseView> FProvider;
 };
 
-}  // namespace algo::terminal
+}  // namespace algo::terminal::drive

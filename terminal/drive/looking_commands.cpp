@@ -11,7 +11,7 @@
 #include "terminal/drive/lookup.h"
 #include "text/date_text.h"
 
-namespace algo::terminal {
+namespace algo::terminal::drive {
 
 namespace {
 
@@ -142,4 +142,4 @@ constexpr std::array Commands{TCommand{"read", Read}, TCommand{"set", Set}, TCom
 
 std::span<const TCommand> LookingCommands() { return Commands; }
 
-}  // namespace algo::terminal
+}  // namespace algo::terminal::drive

@@ -1,6 +1,6 @@
 #include "terminal/drive/lookup.h"
 
-namespace algo::terminal {
+namespace algo::terminal::drive {
 
 TFramePointer FrameOf(TSession& session, const TArguments& arguments) {
   const auto& label = arguments.Text("frame");
@@ -32,4 +32,4 @@ host::TCustomClientOrder* StoredOrderOf(TSession& session, const TArguments& arg
   return order;
 }
 
-}  // namespace algo::terminal
+}  // namespace algo::terminal::drive

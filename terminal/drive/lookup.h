@@ -9,7 +9,7 @@
 #include "terminal/drive/arguments.h"
 #include "terminal/drive/session.h"
 
-namespace algo::terminal {
+namespace algo::terminal::drive {
 
 using TFramePointer = std::shared_ptr<host::TViewFrame>;
 
@@ -25,4 +25,4 @@ forms::TControl& ControlOf(const forms::TFrame& frame, const TArguments& argumen
 /// The stored order with the key; nullptr for the argument null.
 host::TCustomClientOrder* StoredOrderOf(TSession& session, const TArguments& arguments);
 
-}  // namespace algo::terminal
+}  // namespace algo::terminal::drive

@@ -19,7 +19,7 @@ int main(int argc, char** argv) {
       "object a line, and writes an answer to each to standard output."};
   app.name("algo-drive");
   app.footer("Use: algo-drive [--module FILE] < script.jsonl > answers.jsonl");
-  std::string module = algo::terminal::ModuleBesideProgram();
+  std::string module = algo::terminal::drive::ModuleBesideProgram();
   app.add_option("--module", module, "The module to load; the one built with this program unless given")
       ->type_name("FILE")
       ->take_last();
@@ -38,9 +38,9 @@ int main(int argc, char** argv) {
 #endif
   std::ios::sync_with_stdio(false);
   try {
-    algo::terminal::TTrader trader;
-    algo::terminal::TSession session(module, trader);
-    algo::terminal::Drive(session, std::cin, std::cout);
+    algo::terminal::drive::TTrader trader;
+    algo::terminal::drive::TSession session(module, trader);
+    algo::terminal::drive::Drive(session, std::cin, std::cout);
   } catch (const std::exception& error) {
     std::cerr << "algo-drive: " << error.what() << '\n';
     return 1;

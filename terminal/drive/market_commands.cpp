@@ -7,7 +7,7 @@
 #include "terminal/drive/command_table.h"
 #include "terminal/drive/session.h"
 
-namespace algo::terminal {
+namespace algo::terminal::drive {
 
 namespace {
 
@@ -52,4 +52,4 @@ constexpr std::array Commands{TCommand{"market", Market}, TCommand{"spread", Spr
 
 std::span<const TCommand> MarketCommands() { return Commands; }
 
-}  // namespace algo::terminal
+}  // namespace algo::terminal::drive

@@ -8,7 +8,7 @@
 
 #include "text/errors.h"
 
-namespace algo::terminal {
+namespace algo::terminal::drive {
 
 namespace {
 
@@ -50,4 +50,4 @@ std::string ModuleBesideProgram() {
   return (folder.parent_path() / "lib" / "libalgo_order_entry.so").string();
 }
 
-}  // namespace algo::terminal
+}  // namespace algo::terminal::drive

@@ -7,7 +7,7 @@
 
 #include "plugin/host_contract/module_entry.h"
 
-namespace algo::terminal {
+namespace algo::terminal::drive {
 
 class TModuleLibrary {
  public:
@@ -33,4 +33,4 @@ class TModuleLibrary {
 /// The module that was built together with this program, in ../lib beside the program's own folder.
 std::string ModuleBesideProgram();
 
-}  // namespace algo::terminal
+}  // namespace algo::terminal::drive

@@ -8,7 +8,7 @@
 #include "terminal/drive/lookup.h"
 #include "terminal/drive/order_json.h"
 
-namespace algo::terminal {
+namespace algo::terminal::drive {
 
 namespace {
 
@@ -111,4 +111,4 @@ constexpr std::array Commands{TCommand{"order", Order}, TCommand{"orders", Order
 
 std::span<const TCommand> OrderCommands() { return Commands; }
 
-}  // namespace algo::terminal
+}  // namespace algo::terminal::drive

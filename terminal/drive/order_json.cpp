@@ -3,7 +3,7 @@
 #include <array>
 #include <variant>
 
-namespace algo::terminal {
+namespace algo::terminal::drive {
 
 namespace {
 
@@ -98,4 +98,4 @@ void ApplyOrderFields(const TArguments& arguments, host::TCustomClientOrder& ord
   order.AssignContent(changed);
 }
 
-}  // namespace algo::terminal
+}  // namespace algo::terminal::drive

@@ -5,7 +5,7 @@
 #include "plugin/host_contract/orders.h"
 #include "terminal/drive/arguments.h"
 
-namespace algo::terminal {
+namespace algo::terminal::drive {
 
 /// Every field of the order.
 TAnswerJson OrderJson(const host::TCustomOrder& order);
@@ -17,4 +17,4 @@ TAnswerJson OrderJson(const host::TCustomOrder* order);
 /// order, for a field of the wrong type; arguments that are no field are passed over.
 void ApplyOrderFields(const TArguments& arguments, host::TCustomClientOrder& order);
 
-}  // namespace algo::terminal
+}  // namespace algo::terminal::drive

@@ -9,7 +9,7 @@
 
 #include "terminal/drive/json.h"
 
-namespace algo::terminal {
+namespace algo::terminal::drive {
 
 /// One command under way.
 struct TRun {
@@ -45,4 +45,4 @@ class TRunStack {
   TRun FNobody;
 };
 
-}  // namespace algo::terminal
+}  // namespace algo::terminal::drive

@@ -5,7 +5,7 @@
 #include "terminal/drive/boundary.h"
 #include "terminal/drive/command_table.h"
 
-namespace algo::terminal {
+namespace algo::terminal::drive {
 
 namespace {
 
@@ -80,7 +80,7 @@ void TSession::Load() {
   FModule.emplace(FModuleFile, this);
 }
 
-host::TLeftBehind TSession::Unload() {
+host::checks::TLeftBehind TSession::Unload() {
   if (!FModule) throw ECommandError("no module is loaded");
   if (FDialogs.Innermost() != nullptr) throw ECommandError("a modal dialog is showing");
   CallModule([this] { FModule->DropProvider(); });
@@ -88,7 +88,7 @@ host::TLeftBehind TSession::Unload() {
   // The module's code has to outlive whatever the host still holds of it; even the mere names of frames that
   // are gone lead back into it.
   FNames.DropGone();
-  if (left != host::TLeftBehind{} || !FNames.Empty()) FModule->KeepLoaded();
+  if (left != host::checks::TLeftBehind{} || !FNames.Empty()) FModule->KeepLoaded();
   FModule.reset();
   return left;
 }
@@ -98,4 +98,4 @@ const TLoadedModule& TSession::Module() const {
   return *FModule;
 }
 
-}  // namespace algo::terminal
+}  // namespace algo::terminal::drive

@@ -14,7 +14,7 @@
 #include "terminal/drive/trader.h"
 #include "terminal/host/memory_host.h"
 
-namespace algo::terminal {
+namespace algo::terminal::drive {
 
 class TSession {
  public:
@@ -35,7 +35,7 @@ class TSession {
   void Load();
   /// Closes everything the module has open, unloads it and returns what it left behind. Throws ECommandError
   /// when none is loaded.
-  host::TLeftBehind Unload();
+  host::checks::TLeftBehind Unload();
 
   /// The loaded module. Throws ECommandError when none is.
   const TLoadedModule& Module() const;
@@ -60,9 +60,9 @@ class TSession {
   TDialogs FDialogs;
   TEventLog FLog;
   TMemoryHost FHost;
-  host::TStrictHost FStrict;
+  host::checks::TStrictHost FStrict;
   std::optional<TLoadedModule> FModule;
   bool FChangesAreModal = true;
 };
 
-}  // namespace algo::terminal
+}  // namespace algo::terminal::drive

@@ -1,6 +1,6 @@
 #include "terminal/drive/trader.h"
 
-namespace algo::terminal {
+namespace algo::terminal::drive {
 
 using forms::TInputResult;
 
@@ -34,4 +34,4 @@ void TTrader::DialogDone(forms::TDialogForm& /*form*/) {}
 
 void TTrader::Settle() {}
 
-}  // namespace algo::terminal
+}  // namespace algo::terminal::drive

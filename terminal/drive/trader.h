@@ -10,7 +10,7 @@
 #include "forms/dialog_form.h"
 #include "forms/frame.h"
 
-namespace algo::terminal {
+namespace algo::terminal::drive {
 
 class TTrader {
  public:
@@ -40,4 +40,4 @@ class TTrader {
   virtual void Settle();
 };
 
-}  // namespace algo::terminal
+}  // namespace algo::terminal::drive

@@ -7,7 +7,7 @@
 #include "terminal/drive/input_checks.h"
 #include "terminal/drive/lookup.h"
 
-namespace algo::terminal {
+namespace algo::terminal::drive {
 
 namespace {
 
@@ -78,4 +78,4 @@ constexpr std::array Commands{
 
 std::span<const TCommand> TraderCommands() { return Commands; }
 
-}  // namespace algo::terminal
+}  // namespace algo::terminal::drive

@@ -7,7 +7,7 @@
 #include "terminal/drive/command_table.h"
 #include "terminal/drive/lookup.h"
 
-namespace algo::terminal {
+namespace algo::terminal::drive {
 
 namespace {
 
@@ -119,4 +119,4 @@ constexpr std::array Commands{
 
 std::span<const TCommand> ViewCommands() { return Commands; }
 
-}  // namespace algo::terminal
+}  // namespace algo::terminal::drive

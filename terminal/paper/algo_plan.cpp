@@ -6,7 +6,7 @@
 #include "text/number_text.h"
 #include "text/text.h"
 
-namespace algo::terminal {
+namespace algo::terminal::paper {
 
 namespace {
 
@@ -82,4 +82,4 @@ std::optional<TAlgoPlan> ReadAlgoPlan(std::string_view text) {
   return plan;
 }
 
-}  // namespace algo::terminal
+}  // namespace algo::terminal::paper

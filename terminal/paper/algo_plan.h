@@ -9,7 +9,7 @@
 
 #include "text/date_text.h"
 
-namespace algo::terminal {
+namespace algo::terminal::paper {
 
 /// A figure that the text does not give is 0, which says the same as not giving it.
 struct TAlgoPlan {
@@ -42,4 +42,4 @@ struct TAlgoPlan {
 /// over, and of a key that comes twice the last one holds.
 std::optional<TAlgoPlan> ReadAlgoPlan(std::string_view text);
 
-}  // namespace algo::terminal
+}  // namespace algo::terminal::paper

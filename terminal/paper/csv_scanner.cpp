@@ -4,7 +4,7 @@
 
 #include "terminal/paper/paper_error.h"
 
-namespace algo::terminal {
+namespace algo::terminal::paper {
 
 TCsvScanner::TCsvScanner(const std::string& file, std::string_view text) : FFile(file), FRest(text) {
   constexpr std::string_view ByteOrderMark = "\xEF\xBB\xBF";
@@ -72,4 +72,4 @@ void TCsvScanner::EndLine() {
   ++FLine;
 }
 
-}  // namespace algo::terminal
+}  // namespace algo::terminal::paper

@@ -7,7 +7,7 @@
 #include <string_view>
 #include <vector>
 
-namespace algo::terminal {
+namespace algo::terminal::paper {
 
 class TCsvScanner {
  public:
@@ -34,4 +34,4 @@ class TCsvScanner {
   std::size_t FLine = 1;
 };
 
-}  // namespace algo::terminal
+}  // namespace algo::terminal::paper

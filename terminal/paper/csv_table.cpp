@@ -10,7 +10,7 @@
 #include "terminal/paper/paper_error.h"
 #include "text/number_text.h"
 
-namespace algo::terminal {
+namespace algo::terminal::paper {
 
 TCsvTable::TCsvTable(std::string file, std::string_view text, std::span<const std::string_view> wanted)
     : FFile(std::move(file)) {
@@ -88,4 +88,4 @@ std::string ReadTableFile(const std::filesystem::path& file) {
   return text.str();
 }
 
-}  // namespace algo::terminal
+}  // namespace algo::terminal::paper

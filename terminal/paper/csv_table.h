@@ -11,7 +11,7 @@
 #include <string_view>
 #include <vector>
 
-namespace algo::terminal {
+namespace algo::terminal::paper {
 
 class TCsvTable {
  public:
@@ -58,4 +58,4 @@ class TCsvTable {
 /// The content of the file; throws EPaperError when it cannot be read.
 std::string ReadTableFile(const std::filesystem::path& file);
 
-}  // namespace algo::terminal
+}  // namespace algo::terminal::paper

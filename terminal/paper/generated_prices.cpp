@@ -4,7 +4,7 @@
 #include <cassert>
 #include <cmath>
 
-namespace algo::terminal {
+namespace algo::terminal::paper {
 
 TGeneratedPrices::TGeneratedPrices(const TMarketTables& tables, std::uint64_t seed) : FRandom(seed) {
   FWalks.reserve(tables.instruments.size());
@@ -58,4 +58,4 @@ double TGeneratedPrices::SizeOf(const TWalk& walk) {
   return walk.instrument.lot * (1 + std::floor(MostLots * FRandom.Uniform()));
 }
 
-}  // namespace algo::terminal
+}  // namespace algo::terminal::paper

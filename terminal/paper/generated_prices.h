@@ -10,7 +10,7 @@
 #include "terminal/paper/price_source.h"
 #include "terminal/paper/random.h"
 
-namespace algo::terminal {
+namespace algo::terminal::paper {
 
 class TGeneratedPrices final : public TPriceSource {
  public:
@@ -37,4 +37,4 @@ class TGeneratedPrices final : public TPriceSource {
   std::vector<TWalk> FWalks;
 };
 
-}  // namespace algo::terminal
+}  // namespace algo::terminal::paper

@@ -4,7 +4,7 @@
 
 #include <cstdint>
 
-namespace algo::terminal::field {
+namespace algo::terminal::paper::field {
 
 inline constexpr std::int32_t Bid = 2001;
 inline constexpr std::int32_t Ask = 2002;
@@ -19,4 +19,4 @@ inline constexpr std::int32_t NameTraditional = 2010;  ///< in traditional Chine
 inline constexpr std::int32_t NameSimplified = 2011;   ///< in simplified Chinese
 inline constexpr std::int32_t Exchange = 2012;         ///< the exchange's code
 
-}  // namespace algo::terminal::field
+}  // namespace algo::terminal::paper::field

@@ -9,7 +9,7 @@
 #include "text/date_text.h"
 #include "text/text.h"
 
-namespace algo::terminal {
+namespace algo::terminal::paper {
 
 namespace {
 
@@ -137,4 +137,4 @@ TMarketTables LoadMarketTables(const std::filesystem::path& folder) {
   return tables;
 }
 
-}  // namespace algo::terminal
+}  // namespace algo::terminal::paper

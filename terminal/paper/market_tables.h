@@ -14,7 +14,7 @@
 
 #include "terminal/paper/spread_table.h"
 
-namespace algo::terminal {
+namespace algo::terminal::paper {
 
 /// A name in the terminal's three languages.
 struct TPaperName {
@@ -60,4 +60,4 @@ struct TMarketTables {
 /// Reads the tables of the folder. Throws EPaperError at the first thing in them that cannot be used.
 TMarketTables LoadMarketTables(const std::filesystem::path& folder);
 
-}  // namespace algo::terminal
+}  // namespace algo::terminal::paper

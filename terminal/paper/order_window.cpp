@@ -2,7 +2,7 @@
 
 #include <algorithm>
 
-namespace algo::terminal {
+namespace algo::terminal::paper {
 
 namespace {
 
@@ -38,4 +38,4 @@ TWindow WindowOf(TPhase phase, const TPaperExchange& exchange, const TAlgoPlan& 
   return window;
 }
 
-}  // namespace algo::terminal
+}  // namespace algo::terminal::paper

@@ -8,7 +8,7 @@
 #include "terminal/paper/algo_plan.h"
 #include "terminal/paper/market_tables.h"
 
-namespace algo::terminal {
+namespace algo::terminal::paper {
 
 /// A moment of the trader's local time, finer than a second.
 using TMoment = std::chrono::local_time<std::chrono::duration<double>>;
@@ -32,4 +32,4 @@ struct TWindow {
 /// leave. Without an end time it ends with the phase, and so a day's order at the next close.
 TWindow WindowOf(TPhase phase, const TPaperExchange& exchange, const TAlgoPlan& plan, TMoment seen);
 
-}  // namespace algo::terminal
+}  // namespace algo::terminal::paper

@@ -6,7 +6,7 @@
 
 #include "text/text.h"
 
-namespace algo::terminal {
+namespace algo::terminal::paper {
 
 namespace {
 
@@ -122,4 +122,4 @@ const TPaperAlgo* FindPaperAlgo(std::string_view code) {
   return row == Algos.end() ? nullptr : &*row;
 }
 
-}  // namespace algo::terminal
+}  // namespace algo::terminal::paper

@@ -14,7 +14,7 @@
 #include "terminal/paper/order_window.h"
 #include "terminal/paper/quote.h"
 
-namespace algo::terminal {
+namespace algo::terminal::paper {
 
 /// What an algorithm sees of its order and of the market in a step.
 struct TStepView {
@@ -50,4 +50,4 @@ struct TPaperAlgo {
 /// The row of the algorithm with that code, apart from letter case; nullptr when there is none.
 const TPaperAlgo* FindPaperAlgo(std::string_view code);
 
-}  // namespace algo::terminal
+}  // namespace algo::terminal::paper

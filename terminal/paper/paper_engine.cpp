@@ -6,7 +6,7 @@
 #include "terminal/host/order_status.h"
 #include "text/number_text.h"
 
-namespace algo::terminal {
+namespace algo::terminal::paper {
 
 TPaperEngine::TPaperEngine(TMemoryHost& host, TPaperMarket& market, std::uint64_t seed)
     : FHost(host), FMarket(market), FRandom(seed) {
@@ -160,4 +160,4 @@ void TPaperEngine::NoticeParentOf(const TPaperOrder& order) {
   }
 }
 
-}  // namespace algo::terminal
+}  // namespace algo::terminal::paper

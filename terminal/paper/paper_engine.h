@@ -21,7 +21,7 @@
 #include "terminal/paper/random.h"
 #include "text/date_text.h"
 
-namespace algo::terminal {
+namespace algo::terminal::paper {
 
 class TPaperEngine {
  public:
@@ -63,4 +63,4 @@ class TPaperEngine {
   std::map<std::string, TPaperOrder*, std::less<>> FByKey;
 };
 
-}  // namespace algo::terminal
+}  // namespace algo::terminal::paper

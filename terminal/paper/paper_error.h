@@ -7,7 +7,7 @@
 
 #include "text/errors.h"
 
-namespace algo::terminal {
+namespace algo::terminal::paper {
 
 /// A table that cannot be used as it is. The text is "FILE:LINE: what is wrong and what is expected".
 class EPaperError : public EError {
@@ -16,4 +16,4 @@ class EPaperError : public EError {
       : EError(file + ":" + std::to_string(line) + ": " + problem) {}
 };
 
-}  // namespace algo::terminal
+}  // namespace algo::terminal::paper

@@ -10,7 +10,7 @@
 #include "terminal/paper/market_fields.h"
 #include "text/number_text.h"
 
-namespace algo::terminal {
+namespace algo::terminal::paper {
 
 namespace {
 
@@ -120,4 +120,4 @@ void TPaperMarket::PublishChanges(const TPaperInstrument& instrument, const TQuo
   if (count > 0) FHost.SetMarket(instrument.symbol, std::span(changes).first(count));
 }
 
-}  // namespace algo::terminal
+}  // namespace algo::terminal::paper

@@ -12,7 +12,7 @@
 #include "terminal/paper/market_tables.h"
 #include "terminal/paper/price_source.h"
 
-namespace algo::terminal {
+namespace algo::terminal::paper {
 
 class TPaperMarket {
  public:
@@ -46,4 +46,4 @@ class TPaperMarket {
   std::vector<TQuote> FPublished;  // what the items hold
 };
 
-}  // namespace algo::terminal
+}  // namespace algo::terminal::paper

@@ -5,7 +5,7 @@
 #include "terminal/host/order_status.h"
 #include "text/number_text.h"
 
-namespace algo::terminal {
+namespace algo::terminal::paper {
 
 double TOutcome::Average() const { return filled > 0 ? value / filled : 0; }
 
@@ -49,4 +49,4 @@ bool TPaperOrder::ShowsAnotherOutcome() const {
          order.quantity < outcome.filled || std::abs(shown - average) > Slack * average;
 }
 
-}  // namespace algo::terminal
+}  // namespace algo::terminal::paper

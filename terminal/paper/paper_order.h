@@ -14,7 +14,7 @@
 #include "terminal/paper/order_window.h"
 #include "terminal/paper/paper_algos.h"
 
-namespace algo::terminal {
+namespace algo::terminal::paper {
 
 /// How far an order has come.
 struct TOutcome {
@@ -72,4 +72,4 @@ struct TPaperOrder {
   double onDisplay = 0;     ///< what is left of the quantity shown
 };
 
-}  // namespace algo::terminal
+}  // namespace algo::terminal::paper

@@ -9,7 +9,7 @@
 #include "terminal/paper/trade_price.h"
 #include "text/number_text.h"
 
-namespace algo::terminal {
+namespace algo::terminal::paper {
 
 namespace {
 
@@ -86,4 +86,4 @@ double TPaperEngine::OnDisplay(const TPaperOrder& order, double lot) {
   return std::max(lot, WholeLots(bounded, lot));
 }
 
-}  // namespace algo::terminal
+}  // namespace algo::terminal::paper

@@ -1,7 +1,7 @@
 #include "terminal/paper/price_source.h"
 
-namespace algo::terminal {
+namespace algo::terminal::paper {
 
 TPriceSource::~TPriceSource() = default;
 
-}  // namespace algo::terminal
+}  // namespace algo::terminal::paper

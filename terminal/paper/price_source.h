@@ -6,7 +6,7 @@
 
 #include "terminal/paper/quote.h"
 
-namespace algo::terminal {
+namespace algo::terminal::paper {
 
 class TPriceSource {
  public:
@@ -18,4 +18,4 @@ class TPriceSource {
   virtual void Advance(double seconds, std::span<TQuote> quotes) = 0;
 };
 
-}  // namespace algo::terminal
+}  // namespace algo::terminal::paper

@@ -2,7 +2,7 @@
 
 // What the paper market knows of an instrument at one moment.
 
-namespace algo::terminal {
+namespace algo::terminal::paper {
 
 struct TQuote {
   double bid = 0;
@@ -17,4 +17,4 @@ struct TQuote {
   double low = 0;
 };
 
-}  // namespace algo::terminal
+}  // namespace algo::terminal::paper

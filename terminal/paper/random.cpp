@@ -2,7 +2,7 @@
 
 #include <cmath>
 
-namespace algo::terminal {
+namespace algo::terminal::paper {
 
 double TRandom::Uniform() {
   constexpr int Digits = 53;
@@ -17,4 +17,4 @@ double TRandom::Normal() {
   return sum;
 }
 
-}  // namespace algo::terminal
+}  // namespace algo::terminal::paper

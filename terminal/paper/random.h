@@ -6,7 +6,7 @@
 #include <cstdint>
 #include <random>
 
-namespace algo::terminal {
+namespace algo::terminal::paper {
 
 class TRandom {
  public:
@@ -22,4 +22,4 @@ class TRandom {
   std::mt19937_64 FBits;
 };
 
-}  // namespace algo::terminal
+}  // namespace algo::terminal::paper

@@ -7,7 +7,7 @@
 
 #include "terminal/paper/csv_table.h"
 
-namespace algo::terminal {
+namespace algo::terminal::paper {
 
 namespace {
 
@@ -69,4 +69,4 @@ void TRecordedPrices::Advance(double seconds, std::span<TQuote> quotes) {
   }
 }
 
-}  // namespace algo::terminal
+}  // namespace algo::terminal::paper

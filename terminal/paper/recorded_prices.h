@@ -9,7 +9,7 @@
 #include "terminal/paper/market_tables.h"
 #include "terminal/paper/price_source.h"
 
-namespace algo::terminal {
+namespace algo::terminal::paper {
 
 /// One line of a recording: what an instrument quoted from that time on, and what had traded since its line
 /// before.
@@ -49,4 +49,4 @@ class TRecordedPrices final : public TPriceSource {
   std::size_t FNext = 0;
 };
 
-}  // namespace algo::terminal
+}  // namespace algo::terminal::paper

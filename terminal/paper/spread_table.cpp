@@ -5,7 +5,7 @@
 #include <cmath>
 #include <limits>
 
-namespace algo::terminal {
+namespace algo::terminal::paper {
 
 namespace {
 
@@ -73,4 +73,4 @@ double MoveTicks(std::span<const TSpreadStep> table, double price, int ticks) {
   return std::max(price, lowest);
 }
 
-}  // namespace algo::terminal
+}  // namespace algo::terminal::paper

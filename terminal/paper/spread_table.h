@@ -6,7 +6,7 @@
 #include <span>
 #include <vector>
 
-namespace algo::terminal {
+namespace algo::terminal::paper {
 
 /// From the price `from` on, prices are `tick` apart.
 struct TSpreadStep {
@@ -33,4 +33,4 @@ double RoundToTick(std::span<const TSpreadStep> table, double price);
 /// taken; never below the lowest price above 0. `price` is on the grid.
 double MoveTicks(std::span<const TSpreadStep> table, double price, int ticks);
 
-}  // namespace algo::terminal
+}  // namespace algo::terminal::paper

@@ -2,7 +2,7 @@
 
 #include <algorithm>
 
-namespace algo::terminal {
+namespace algo::terminal::paper {
 
 namespace {
 
@@ -69,4 +69,4 @@ std::optional<double> TradePrice(TPricing pricing, const TAlgoPlan& plan, bool b
   return resting;
 }
 
-}  // namespace algo::terminal
+}  // namespace algo::terminal::paper

@@ -9,7 +9,7 @@
 #include "terminal/paper/quote.h"
 #include "terminal/paper/spread_table.h"
 
-namespace algo::terminal {
+namespace algo::terminal::paper {
 
 /// The stricter one of two limits for that side; 0 is no limit.
 double StricterLimit(bool buy, double left, double right);
@@ -23,4 +23,4 @@ double StricterLimit(bool buy, double left, double right);
 std::optional<double> TradePrice(TPricing pricing, const TAlgoPlan& plan, bool buy, double limit,
                                  const TQuote& quote, const TSpreadTable& spread);
 
-}  // namespace algo::terminal
+}  // namespace algo::terminal::paper

@@ -7,7 +7,7 @@
 
 #include "terminal/render/qt_toolkit.h"
 
-namespace algo::terminal {
+namespace algo::terminal::render {
 
 namespace {
 
@@ -95,4 +95,4 @@ void TButtonView::ShowColor(const forms::TButton& control, bool down) {
   if (FButton.styleSheet() != style) FButton.setStyleSheet(style);
 }
 
-}  // namespace algo::terminal
+}  // namespace algo::terminal::render

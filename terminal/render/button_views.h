@@ -7,7 +7,7 @@
 #include "forms/choices.h"
 #include "terminal/render/control_view.h"
 
-namespace algo::terminal {
+namespace algo::terminal::render {
 
 class TCheckView final : public TControlView {
  public:
@@ -41,4 +41,4 @@ class TButtonView final : public TControlView {
   QAbstractButton& FButton;
 };
 
-}  // namespace algo::terminal
+}  // namespace algo::terminal::render

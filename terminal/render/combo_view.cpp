@@ -6,7 +6,7 @@
 
 #include "forms/choices.h"
 
-namespace algo::terminal {
+namespace algo::terminal::render {
 
 namespace {
 
@@ -59,4 +59,4 @@ void TComboView::ShowItems(const forms::TComboBox& control) {
   for (const std::string& item : items) FBox.addItem(ToQt(item));
 }
 
-}  // namespace algo::terminal
+}  // namespace algo::terminal::render

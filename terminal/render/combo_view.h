@@ -6,7 +6,7 @@
 
 #include "terminal/render/control_view.h"
 
-namespace algo::terminal {
+namespace algo::terminal::render {
 
 class TComboView final : public TControlView {
  public:
@@ -24,4 +24,4 @@ class TComboView final : public TControlView {
   QComboBox& FBox;
 };
 
-}  // namespace algo::terminal
+}  // namespace algo::terminal::render

@@ -4,7 +4,7 @@
 #include <QAbstractListModel>
 #include <QCompleter>
 
-namespace algo::terminal {
+namespace algo::terminal::render {
 
 namespace {
 
@@ -75,4 +75,4 @@ bool EnterMeansCompletion(QLineEdit& line) {
   return false;
 }
 
-}  // namespace algo::terminal
+}  // namespace algo::terminal::render

@@ -7,7 +7,7 @@
 #include "terminal/render/editor_aids.h"
 #include "terminal/render/frame_input.h"
 
-namespace algo::terminal {
+namespace algo::terminal::render {
 
 /// Offers the matches while the trader types into the line; picking one types it. What is typed already
 /// offers nothing any more. All of them outlive the line.
@@ -18,4 +18,4 @@ void OfferCompletions(QLineEdit& line, forms::TTextEdit& editor, const TFrameInp
 /// Returns whether Enter means the row.
 bool EnterMeansCompletion(QLineEdit& line);
 
-}  // namespace algo::terminal
+}  // namespace algo::terminal::render

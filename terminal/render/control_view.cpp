@@ -8,7 +8,7 @@
 #include "terminal/render/spin_view.h"
 #include "terminal/render/text_view.h"
 
-namespace algo::terminal {
+namespace algo::terminal::render {
 
 TControlView::~TControlView() = default;
 
@@ -49,4 +49,4 @@ std::unique_ptr<TControlView> MakeControlView(forms::TControl& control, const TF
   return view;
 }
 
-}  // namespace algo::terminal
+}  // namespace algo::terminal::render

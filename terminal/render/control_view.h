@@ -11,7 +11,7 @@
 #include "terminal/render/editor_aids.h"
 #include "terminal/render/frame_input.h"
 
-namespace algo::terminal {
+namespace algo::terminal::render {
 
 class TControlView {
  public:
@@ -47,4 +47,4 @@ class TControlView {
 std::unique_ptr<TControlView> MakeControlView(forms::TControl& control, const TFrameInput& input,
                                               const TEditorAids& aids, QWidget& parent);
 
-}  // namespace algo::terminal
+}  // namespace algo::terminal::render

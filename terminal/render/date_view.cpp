@@ -6,7 +6,7 @@
 
 #include "terminal/render/editor_line.h"
 
-namespace algo::terminal {
+namespace algo::terminal::render {
 
 namespace {
 
@@ -78,4 +78,4 @@ void TDateView::TakeDay(const QDate& day) {
   FInput.Typed(Control(), text);
 }
 
-}  // namespace algo::terminal
+}  // namespace algo::terminal::render

@@ -7,7 +7,7 @@
 
 #include "terminal/render/control_view.h"
 
-namespace algo::terminal {
+namespace algo::terminal::render {
 
 class TDateView final : public TControlView {
  public:
@@ -31,4 +31,4 @@ class TDateView final : public TControlView {
   QToolButton& FButton;
 };
 
-}  // namespace algo::terminal
+}  // namespace algo::terminal::render

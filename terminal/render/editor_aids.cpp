@@ -1,6 +1,6 @@
 #include "terminal/render/editor_aids.h"
 
-namespace algo::terminal {
+namespace algo::terminal::render {
 
 TEditorAids::~TEditorAids() = default;
 
@@ -13,4 +13,4 @@ double TEditorAids::Stepped(const forms::TSpinEdit& editor, double value, std::i
   return value + steps * editor.Step();
 }
 
-}  // namespace algo::terminal
+}  // namespace algo::terminal::render

@@ -11,7 +11,7 @@
 
 #include "forms/editors.h"
 
-namespace algo::terminal {
+namespace algo::terminal::render {
 
 /// One entry of a completing list: what is put into the editor, and what is shown beside it.
 struct TCompletion {
@@ -31,4 +31,4 @@ class TEditorAids {
   virtual double Stepped(const forms::TSpinEdit& editor, double value, std::int32_t steps) const;
 };
 
-}  // namespace algo::terminal
+}  // namespace algo::terminal::render

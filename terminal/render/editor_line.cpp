@@ -3,7 +3,7 @@
 #include <QPointer>
 #include <QValidator>
 
-namespace algo::terminal {
+namespace algo::terminal::render {
 
 namespace {
 
@@ -40,4 +40,4 @@ void ShowInLine(QLineEdit& line, const forms::TEditor& editor) {
   line.setReadOnly(editor.ReadOnly());
 }
 
-}  // namespace algo::terminal
+}  // namespace algo::terminal::render

@@ -8,7 +8,7 @@
 #include "forms/editors.h"
 #include "terminal/render/frame_input.h"
 
-namespace algo::terminal {
+namespace algo::terminal::render {
 
 /// Lets the line take what the editor accepts, and sends each change made by key to the frame. Both outlive
 /// the line.
@@ -17,4 +17,4 @@ void BindLine(QLineEdit& line, forms::TEditor& editor, const TFrameInput& input)
 /// Shows text, selection, placeholder and whether it may be changed.
 void ShowInLine(QLineEdit& line, const forms::TEditor& editor);
 
-}  // namespace algo::terminal
+}  // namespace algo::terminal::render

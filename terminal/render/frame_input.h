@@ -9,7 +9,7 @@
 #include "forms/frame.h"
 #include "terminal/render/qt_text.h"
 
-namespace algo::terminal {
+namespace algo::terminal::render {
 
 class TFrameInput {
  public:
@@ -51,4 +51,4 @@ class TFrameInput {
   std::weak_ptr<forms::TFrame> FFrame;
 };
 
-}  // namespace algo::terminal
+}  // namespace algo::terminal::render

@@ -8,7 +8,7 @@
 
 #include "terminal/render/completion_list.h"
 
-namespace algo::terminal {
+namespace algo::terminal::render {
 
 namespace {
 
@@ -198,4 +198,4 @@ void TFrameView::FilterMouse(TControlView& view, const QEvent& event) {
   }
 }
 
-}  // namespace algo::terminal
+}  // namespace algo::terminal::render

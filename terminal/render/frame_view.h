@@ -12,7 +12,7 @@
 #include "terminal/render/editor_aids.h"
 #include "terminal/render/layout_view.h"
 
-namespace algo::terminal {
+namespace algo::terminal::render {
 
 class TFrameView final : public QWidget, private forms::TFrameObserver {
   Q_OBJECT
@@ -59,4 +59,4 @@ class TFrameView final : public QWidget, private forms::TFrameObserver {
   std::size_t FChained = 0;  ///< how many views were there when the tab order was last made
 };
 
-}  // namespace algo::terminal
+}  // namespace algo::terminal::render

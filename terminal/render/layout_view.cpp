@@ -6,7 +6,7 @@
 #include "terminal/render/qt_text.h"
 #include "terminal/render/qt_toolkit.h"
 
-namespace algo::terminal {
+namespace algo::terminal::render {
 
 namespace {
 
@@ -170,4 +170,4 @@ void TLayoutView::CollectCaptions(const forms::TLayoutGroup& group, std::vector<
   }
 }
 
-}  // namespace algo::terminal
+}  // namespace algo::terminal::render

@@ -12,7 +12,7 @@
 
 #include "forms/layout.h"
 
-namespace algo::terminal {
+namespace algo::terminal::render {
 
 class TLayoutView {
  public:
@@ -48,4 +48,4 @@ class TLayoutView {
   std::unordered_map<const forms::TLayoutElement*, TElementView> FViews;
 };
 
-}  // namespace algo::terminal
+}  // namespace algo::terminal::render

@@ -6,7 +6,7 @@
 #include <string>
 #include <string_view>
 
-namespace algo::terminal {
+namespace algo::terminal::render {
 
 inline QString ToQt(std::string_view text) {
   return QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
@@ -14,4 +14,4 @@ inline QString ToQt(std::string_view text) {
 
 inline std::string FromQt(const QString& text) { return text.toStdString(); }
 
-}  // namespace algo::terminal
+}  // namespace algo::terminal::render

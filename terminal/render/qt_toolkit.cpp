@@ -5,7 +5,7 @@
 
 #include "terminal/render/qt_text.h"
 
-namespace algo::terminal {
+namespace algo::terminal::render {
 
 QFont DesktopFont(const forms::TFont& font) {
   QFont chosen = QApplication::font();
@@ -24,4 +24,4 @@ forms::TSize TQtToolkit::MeasureText(std::string_view text, const forms::TFont& 
   return {metrics.horizontalAdvance(ToQt(text)) * scale, metrics.height() * scale};
 }
 
-}  // namespace algo::terminal
+}  // namespace algo::terminal::render

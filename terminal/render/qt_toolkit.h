@@ -7,7 +7,7 @@
 
 #include "forms/toolkit.h"
 
-namespace algo::terminal {
+namespace algo::terminal::render {
 
 /// The desktop's font for a font of the form model. The model's unchosen font, size 8, is the application's
 /// own; others keep their proportion to it.
@@ -19,4 +19,4 @@ class TQtToolkit final : public forms::TToolkit {
   forms::TSize MeasureText(std::string_view text, const forms::TFont& font) const override;
 };
 
-}  // namespace algo::terminal
+}  // namespace algo::terminal::render

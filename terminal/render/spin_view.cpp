@@ -8,7 +8,7 @@
 #include "terminal/render/editor_line.h"
 #include "text/number_text.h"
 
-namespace algo::terminal {
+namespace algo::terminal::render {
 
 namespace {
 
@@ -86,4 +86,4 @@ void TSpinView::Show() {
   FBox.setReadOnly(Control().ReadOnly());
 }
 
-}  // namespace algo::terminal
+}  // namespace algo::terminal::render

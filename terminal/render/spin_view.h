@@ -7,7 +7,7 @@
 
 #include "terminal/render/control_view.h"
 
-namespace algo::terminal {
+namespace algo::terminal::render {
 
 class TSpinView final : public TControlView {
  public:
@@ -25,4 +25,4 @@ class TSpinView final : public TControlView {
   TBox& FBox;
 };
 
-}  // namespace algo::terminal
+}  // namespace algo::terminal::render

@@ -5,7 +5,7 @@
 #include "terminal/render/completion_list.h"
 #include "terminal/render/editor_line.h"
 
-namespace algo::terminal {
+namespace algo::terminal::render {
 
 namespace {
 
@@ -42,4 +42,4 @@ TTextView::TTextView(forms::TTextEdit& control, const TFrameInput& input, const 
 
 void TTextView::Show() { ShowInLine(FLine, static_cast<const forms::TEditor&>(Control())); }
 
-}  // namespace algo::terminal
+}  // namespace algo::terminal::render

@@ -6,7 +6,7 @@
 
 #include "terminal/render/control_view.h"
 
-namespace algo::terminal {
+namespace algo::terminal::render {
 
 class TTextView final : public TControlView {
  public:
@@ -23,4 +23,4 @@ class TTextView final : public TControlView {
   QLineEdit& FLine;
 };
 
-}  // namespace algo::terminal
+}  // namespace algo::terminal::render

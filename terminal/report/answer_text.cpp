@@ -8,7 +8,7 @@
 
 #include "text/number_text.h"
 
-namespace algo::terminal {
+namespace algo::terminal::report {
 
 namespace {
 
@@ -70,4 +70,4 @@ bool MemberFlag(const nlohmann::json& object, std::string_view name) {
   return member != nullptr && member->is_boolean() && member->get<bool>();
 }
 
-}  // namespace algo::terminal
+}  // namespace algo::terminal::report

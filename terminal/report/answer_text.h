@@ -7,7 +7,7 @@
 #include <string>
 #include <string_view>
 
-namespace algo::terminal {
+namespace algo::terminal::report {
 
 /// How a number or a text is written for people.
 enum class TWriting { Plain, Quantity, Flags, Side };
@@ -23,4 +23,4 @@ const nlohmann::json& MemberList(const nlohmann::json& object, std::string_view 
 /// The member as true or false; false when it is missing.
 bool MemberFlag(const nlohmann::json& object, std::string_view name);
 
-}  // namespace algo::terminal
+}  // namespace algo::terminal::report

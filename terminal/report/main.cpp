@@ -24,7 +24,7 @@ int main(int argc, char** argv) {
   }
 
   std::ios::sync_with_stdio(false);
-  algo::terminal::TRunReport account(std::cout);
+  algo::terminal::report::TRunReport account(std::cout);
   std::string line;
   while (std::getline(std::cin, line)) account.AddLine(line);
   account.Finish();

@@ -7,7 +7,7 @@
 #include "terminal/report/answer_text.h"
 #include "text/text.h"
 
-namespace algo::terminal {
+namespace algo::terminal::report {
 
 namespace {
 
@@ -156,4 +156,4 @@ void TRunReport::Finish() {
        << (FLines == 1 ? " answer, " : " answers, ") << FRefused << " refused\n";
 }
 
-}  // namespace algo::terminal
+}  // namespace algo::terminal::report

@@ -8,7 +8,7 @@
 #include <nlohmann/json.hpp>
 #include <string_view>
 
-namespace algo::terminal {
+namespace algo::terminal::report {
 
 class TRunReport {
  public:
@@ -36,4 +36,4 @@ class TRunReport {
   std::int64_t FRefused = 0;
 };
 
-}  // namespace algo::terminal
+}  // namespace algo::terminal::report

@@ -4,7 +4,7 @@
 
 #include "terminal/storage/storage_error.h"
 
-namespace algo::terminal {
+namespace algo::terminal::storage {
 
 namespace {
 
@@ -48,4 +48,4 @@ TTransaction::~TTransaction() {
 
 void TTransaction::Commit() { FConnection.Execute("COMMIT"); }
 
-}  // namespace algo::terminal
+}  // namespace algo::terminal::storage

@@ -8,7 +8,7 @@
 
 struct sqlite3;
 
-namespace algo::terminal {
+namespace algo::terminal::storage {
 
 class TConnection {
  public:
@@ -50,4 +50,4 @@ class TTransaction {
   TConnection& FConnection;
 };
 
-}  // namespace algo::terminal
+}  // namespace algo::terminal::storage

@@ -9,7 +9,7 @@
 
 #include "terminal/storage/storage_error.h"
 
-namespace algo::terminal {
+namespace algo::terminal::storage {
 
 namespace {
 
@@ -64,4 +64,4 @@ std::string UsableDatabaseFile(const std::string& file) {
   return path.string();
 }
 
-}  // namespace algo::terminal
+}  // namespace algo::terminal::storage

@@ -6,7 +6,7 @@
 #include <cstdint>
 #include <string>
 
-namespace algo::terminal {
+namespace algo::terminal::storage {
 
 /// The mark of this terminal's databases in their header: "AOE1" as a number.
 inline constexpr std::uint32_t DatabaseMark = 0x414F4531;
@@ -16,4 +16,4 @@ inline constexpr std::uint32_t DatabaseMark = 0x414F4531;
 /// With no effect on the file.
 std::string UsableDatabaseFile(const std::string& file);
 
-}  // namespace algo::terminal
+}  // namespace algo::terminal::storage

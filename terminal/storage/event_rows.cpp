@@ -1,6 +1,6 @@
 #include "terminal/storage/event_rows.h"
 
-namespace algo::terminal {
+namespace algo::terminal::storage {
 
 namespace {
 
@@ -54,4 +54,4 @@ std::vector<TStoredEvent> TEventRows::Of(std::string_view orderKey) {
   return EventsOf(run);
 }
 
-}  // namespace algo::terminal
+}  // namespace algo::terminal::storage

@@ -11,7 +11,7 @@
 #include "terminal/storage/statement.h"
 #include "terminal/storage/stored_event.h"
 
-namespace algo::terminal {
+namespace algo::terminal::storage {
 
 class TEventRows {
  public:
@@ -33,4 +33,4 @@ class TEventRows {
   TStatement FOf;
 };
 
-}  // namespace algo::terminal
+}  // namespace algo::terminal::storage

@@ -5,7 +5,7 @@
 #include <string>
 #include <variant>
 
-namespace algo::terminal {
+namespace algo::terminal::storage {
 
 namespace {
 
@@ -112,4 +112,4 @@ std::vector<std::unique_ptr<TOrder>> TOrderRows::All() {
   return orders;
 }
 
-}  // namespace algo::terminal
+}  // namespace algo::terminal::storage

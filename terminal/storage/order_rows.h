@@ -8,7 +8,7 @@
 #include "plugin/host_contract/orders.h"
 #include "terminal/storage/statement.h"
 
-namespace algo::terminal {
+namespace algo::terminal::storage {
 
 class TOrderRows {
  public:
@@ -33,4 +33,4 @@ class TOrderRows {
   TStatement FNamed;
 };
 
-}  // namespace algo::terminal
+}  // namespace algo::terminal::storage

@@ -10,7 +10,7 @@
 #include "terminal/storage/statement.h"
 #include "terminal/storage/storage_error.h"
 
-namespace algo::terminal {
+namespace algo::terminal::storage {
 
 namespace {
 
@@ -112,4 +112,4 @@ void BringUpToDate(TConnection& connection, std::span<const char* const> migrati
   transaction.Commit();
 }
 
-}  // namespace algo::terminal
+}  // namespace algo::terminal::storage

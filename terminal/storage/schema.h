@@ -6,7 +6,7 @@
 
 #include "terminal/storage/connection.h"
 
-namespace algo::terminal {
+namespace algo::terminal::storage {
 
 /// Step n, counted from 0, leads from version n to version n + 1; version 0 is the empty file. A step that
 /// was once delivered is never changed again.
@@ -17,4 +17,4 @@ std::span<const char* const> Migrations();
 /// or a step fails.
 void BringUpToDate(TConnection& connection, std::span<const char* const> migrations);
 
-}  // namespace algo::terminal
+}  // namespace algo::terminal::storage

@@ -12,7 +12,7 @@
 #include "terminal/storage/storage_error.h"
 #include "text/date_text.h"
 
-namespace algo::terminal {
+namespace algo::terminal::storage {
 
 namespace {
 
@@ -114,4 +114,4 @@ std::vector<std::string> TSqliteStorage::WorkspaceNames() {
   return names;
 }
 
-}  // namespace algo::terminal
+}  // namespace algo::terminal::storage

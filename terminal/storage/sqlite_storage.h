@@ -16,7 +16,7 @@
 #include "terminal/host/order_store.h"
 #include "terminal/storage/stored_event.h"
 
-namespace algo::terminal {
+namespace algo::terminal::storage {
 
 /// The time now, UTC, as "YYYY-MM-DD HH:MM:SS.mmm".
 using TClock = std::function<std::string()>;
@@ -55,4 +55,4 @@ class TSqliteStorage final : public TOrderStorage {
   TClock FClock;
 };
 
-}  // namespace algo::terminal
+}  // namespace algo::terminal::storage

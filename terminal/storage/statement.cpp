@@ -5,7 +5,7 @@
 #include <cassert>
 #include <limits>
 
-namespace algo::terminal {
+namespace algo::terminal::storage {
 
 TStatement::TStatement(TConnection& connection, std::string_view sql) : FConnection(connection) {
   sqlite3_stmt* handle = nullptr;
@@ -62,4 +62,4 @@ void TRun::Check(int code) const {
   if (code != SQLITE_OK) FStatement.FConnection.Fail();
 }
 
-}  // namespace algo::terminal
+}  // namespace algo::terminal::storage

@@ -12,7 +12,7 @@
 
 struct sqlite3_stmt;
 
-namespace algo::terminal {
+namespace algo::terminal::storage {
 
 class TStatement {
  public:
@@ -84,4 +84,4 @@ TValue First(TConnection& connection, std::string_view sql) {
   return value;
 }
 
-}  // namespace algo::terminal
+}  // namespace algo::terminal::storage

@@ -5,7 +5,7 @@
 #include <algorithm>
 #include <array>
 
-namespace algo::terminal {
+namespace algo::terminal::storage {
 
 namespace {
 
@@ -55,4 +55,4 @@ EStorageError StorageErrorOf(const std::string& file, int code, std::string_view
   return {file, row.trouble, advice};
 }
 
-}  // namespace algo::terminal
+}  // namespace algo::terminal::storage

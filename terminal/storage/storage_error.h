@@ -7,7 +7,7 @@
 
 #include "text/errors.h"
 
-namespace algo::terminal {
+namespace algo::terminal::storage {
 
 /// The text names the file, says what is wrong with it, and what to do about it.
 class EStorageError : public EError {
@@ -20,4 +20,4 @@ class EStorageError : public EError {
 /// brackets unless it is empty.
 EStorageError StorageErrorOf(const std::string& file, int code, std::string_view detail);
 
-}  // namespace algo::terminal
+}  // namespace algo::terminal::storage

@@ -7,7 +7,7 @@
 
 #include "terminal/host/order_storage.h"
 
-namespace algo::terminal {
+namespace algo::terminal::storage {
 
 struct TStoredEvent {
   std::int64_t sequence = 0;  ///< grows with every event, and none is used twice
@@ -20,4 +20,4 @@ struct TStoredEvent {
   std::int32_t status = 0;
 };
 
-}  // namespace algo::terminal
+}  // namespace algo::terminal::storage

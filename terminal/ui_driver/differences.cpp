@@ -4,7 +4,7 @@
 #include "terminal/render/button_views.h"
 #include "terminal/render/qt_text.h"
 
-namespace algo::terminal {
+namespace algo::terminal::ui_driver {
 
 namespace {
 
@@ -14,29 +14,29 @@ QString Told(bool yes) { return yes ? QStringLiteral("yes") : QStringLiteral("no
 QString TextOf(const forms::TControl& control) {
   const bool hasCaption =
       control.Kind() == forms::TControlKind::Button || control.Kind() == forms::TControlKind::Check;
-  if (hasCaption) return ToQt(control.Caption()).replace(QLatin1Char('&'), QStringLiteral("&&"));
+  if (hasCaption) return render::ToQt(control.Caption()).replace(QLatin1Char('&'), QStringLiteral("&&"));
   // A line of a widget has no line breaks and no NULs.
-  return ToQt(control.Text());
+  return render::ToQt(control.Text());
 }
 
 class TComparison {
  public:
-  explicit TComparison(const TControlView& view) : FView(view) {}
+  explicit TComparison(const render::TControlView& view) : FView(view) {}
 
   void Compare(const char* what, const QString& shown, const QString& held) {
     if (shown == held) return;
     FDifferences << QStringLiteral("%1 shows %2 '%3' instead of '%4'")
-                        .arg(ToQt(FView.Control().Name()), QLatin1String(what), shown, held);
+                        .arg(render::ToQt(FView.Control().Name()), QLatin1String(what), shown, held);
   }
 
   const QStringList& Differences() const { return FDifferences; }
 
  private:
-  const TControlView& FView;
+  const render::TControlView& FView;
   QStringList FDifferences;
 };
 
-QStringList DifferencesOf(const TControlView& view) {
+QStringList DifferencesOf(const render::TControlView& view) {
   const forms::TControl& control = view.Control();
   TComparison comparison(view);
   comparison.Compare("text", view.ShownText(), TextOf(control));
@@ -46,40 +46,40 @@ QStringList DifferencesOf(const TControlView& view) {
   const bool usable = control.Enabled() && control.Item()->Usable() && !comboReadOnly;
   comparison.Compare("enabled", Told(view.Input().isEnabled()), Told(usable));
   if (const auto* check = dynamic_cast<const forms::TCheckBox*>(&control)) {
-    comparison.Compare("checked", Told(static_cast<const TCheckView&>(view).Checked()),
+    comparison.Compare("checked", Told(static_cast<const render::TCheckView&>(view).Checked()),
                        Told(check->Checked()));
   }
   if (const auto* speed = dynamic_cast<const forms::TSpeedButton*>(&control)) {
-    comparison.Compare("pressed", Told(static_cast<const TButtonView&>(view).Pressed()),
+    comparison.Compare("pressed", Told(static_cast<const render::TButtonView&>(view).Pressed()),
                        Told(speed->Pressed()));
   }
   if (const auto* editor = dynamic_cast<const forms::TEditor*>(&control);
       editor != nullptr && !editor->SelectedText().empty()) {
-    comparison.Compare("selected", view.SelectedText(), ToQt(editor->SelectedText()));
+    comparison.Compare("selected", view.SelectedText(), render::ToQt(editor->SelectedText()));
   }
   return comparison.Differences();
 }
 
 }  // namespace
 
-QStringList DifferencesOf(const TFrameView& view) {
+QStringList DifferencesOf(const render::TFrameView& view) {
   QStringList differences;
   const auto frame = view.Frame();
   if (!frame) return differences;
   for (const auto& control : frame->Controls()) {
-    const TControlView* shown = view.Find(*control);
+    const render::TControlView* shown = view.Find(*control);
     if (shown != nullptr) {
       differences += DifferencesOf(*shown);
     } else if (control->Showing()) {
-      differences << QStringLiteral("%1 has no widget").arg(ToQt(control->Name()));
+      differences << QStringLiteral("%1 has no widget").arg(render::ToQt(control->Name()));
     }
   }
   const forms::TControl* focused = frame->Focused();
   if (focused != nullptr && view.isActiveWindow() && focused->CanFocus() &&
       !view.Find(*focused)->Input().hasFocus()) {
-    differences << QStringLiteral("%1 has not the focus").arg(ToQt(focused->Name()));
+    differences << QStringLiteral("%1 has not the focus").arg(render::ToQt(focused->Name()));
   }
   return differences;
 }
 
-}  // namespace algo::terminal
+}  // namespace algo::terminal::ui_driver

@@ -18,7 +18,7 @@ int main(int argc, char** argv) {
 
   CLI::App app{"Plays a script of algo-drive at the desktop's widgets, off screen."};
   app.name("algo-widget-drive");
-  std::string module = algo::terminal::ModuleBesideProgram();
+  std::string module = algo::terminal::drive::ModuleBesideProgram();
   app.add_option("--module", module, "The module to load; the one built with this program unless given")
       ->type_name("FILE");
   try {
@@ -34,10 +34,10 @@ int main(int argc, char** argv) {
   QApplication application(argc, argv);
   QApplication::setQuitOnLastWindowClosed(false);
   try {
-    algo::terminal::TWindowStage stage;
-    algo::terminal::TWidgetTrader trader(stage);
-    algo::terminal::TSession session(module, trader);
-    algo::terminal::Drive(session, std::cin, std::cout);
+    algo::terminal::ui_driver::TWindowStage stage;
+    algo::terminal::ui_driver::TWidgetTrader trader(stage);
+    algo::terminal::drive::TSession session(module, trader);
+    algo::terminal::drive::Drive(session, std::cin, std::cout);
   } catch (const std::exception& error) {
     std::cerr << "algo-widget-drive: " << error.what() << '\n';
     return 1;

@@ -1,7 +1,7 @@
 #include "terminal/ui_driver/stage.h"
 
-namespace algo::terminal {
+namespace algo::terminal::ui_driver {
 
 TStage::~TStage() = default;
 
-}  // namespace algo::terminal
+}  // namespace algo::terminal::ui_driver

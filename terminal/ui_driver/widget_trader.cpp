@@ -12,13 +12,15 @@
 #include "terminal/render/qt_text.h"
 #include "terminal/ui_driver/differences.h"
 
-namespace algo::terminal {
+namespace algo::terminal::ui_driver {
 
 using forms::TInputResult;
 
 namespace {
 
-QWidget& InputOf(TFrameView& view, const forms::TControl& control) { return view.Find(control)->Input(); }
+QWidget& InputOf(render::TFrameView& view, const forms::TControl& control) {
+  return view.Find(control)->Input();
+}
 
 /// Where a click hits the control, which of a check box is its indicator alone.
 QPoint ClickPoint(const QWidget& widget, forms::TControlKind kind) {
@@ -48,7 +50,7 @@ TInputResult TWidgetTrader::Type(const TFramePointer& frame, forms::TControl& co
     QTest::keyClick(&input, Qt::Key_Delete);
     return TInputResult::Taken;
   }
-  for (const QChar key : ToQt(text)) {
+  for (const QChar key : render::ToQt(text)) {
     // Control characters are no characters of a text, and some of them are keys that do other things.
     if (key.category() == QChar::Other_Control) continue;
     QTest::sendKeyEvent(QTest::Click, &input, Qt::Key_unknown, QString(key), Qt::NoModifier);
@@ -93,7 +95,7 @@ TInputResult TWidgetTrader::Pick(const TFramePointer& frame, forms::TControl& co
 }
 
 void TWidgetTrader::Leave(const TFramePointer& frame) {
-  const TFrameView& view = FStage.ViewOf(frame);
+  const render::TFrameView& view = FStage.ViewOf(frame);
   QWidget& rest = FStage.RestOf(view);
   QTest::mouseClick(&rest, Qt::LeftButton);
 }
@@ -101,8 +103,9 @@ void TWidgetTrader::Leave(const TFramePointer& frame) {
 void TWidgetTrader::Settle() {
   QApplication::processEvents();
   QStringList differences;
-  for (const TFrameView* view : FStage.Views()) differences += DifferencesOf(*view);
-  if (!differences.isEmpty()) throw ECommandError(FromQt(differences.join(QStringLiteral("; "))));
+  for (const render::TFrameView* view : FStage.Views()) differences += DifferencesOf(*view);
+  if (!differences.isEmpty())
+    throw drive::ECommandError(render::FromQt(differences.join(QStringLiteral("; "))));
 }
 
-}  // namespace algo::terminal
+}  // namespace algo::terminal::ui_driver

@@ -6,9 +6,9 @@
 #include "terminal/drive/trader.h"
 #include "terminal/ui_driver/stage.h"
 
-namespace algo::terminal {
+namespace algo::terminal::ui_driver {
 
-class TWidgetTrader final : public TTrader {
+class TWidgetTrader final : public drive::TTrader {
  public:
   /// `stage` outlives the trader.
   explicit TWidgetTrader(TStage& stage) : FStage(stage) {}
@@ -27,4 +27,4 @@ class TWidgetTrader final : public TTrader {
   TStage& FStage;
 };
 
-}  // namespace algo::terminal
+}  // namespace algo::terminal::ui_driver

@@ -6,15 +6,15 @@
 #include <QVBoxLayout>
 #include <algorithm>
 
-namespace algo::terminal {
+namespace algo::terminal::ui_driver {
 
 struct TWindowStage::TWindow {
-  TWindow(const std::shared_ptr<forms::TFrame>& shown, const TEditorAids& aids)
-      : frame(shown.get()), rest(new QLabel(&window)), view(new TFrameView(shown, aids, &window)) {
+  TWindow(const std::shared_ptr<forms::TFrame>& shown, const render::TEditorAids& aids)
+      : frame(shown.get()), rest(new QLabel(&window)), view(new render::TFrameView(shown, aids, &window)) {
     auto* column = new QVBoxLayout(&window);
     column->addWidget(rest);
     column->addWidget(view);
-    rest->setText(ToQt(shown->ClassName()));
+    rest->setText(render::ToQt(shown->ClassName()));
     rest->setFocusPolicy(Qt::ClickFocus);
     window.setWindowTitle(rest->text());
   }
@@ -22,13 +22,13 @@ struct TWindowStage::TWindow {
   const forms::TFrame* frame;
   QWidget window;
   QLabel* rest;
-  TFrameView* view;
+  render::TFrameView* view;
 };
 
 TWindowStage::TWindowStage() = default;
 TWindowStage::~TWindowStage() = default;
 
-TFrameView& TWindowStage::ViewOf(const std::shared_ptr<forms::TFrame>& frame) {
+render::TFrameView& TWindowStage::ViewOf(const std::shared_ptr<forms::TFrame>& frame) {
   Views();
   auto found = std::find_if(FWindows.begin(), FWindows.end(),
                             [&](const auto& window) { return window->frame == frame.get(); });
@@ -48,17 +48,17 @@ TFrameView& TWindowStage::ViewOf(const std::shared_ptr<forms::TFrame>& frame) {
   return *(*found)->view;
 }
 
-QWidget& TWindowStage::RestOf(const TFrameView& view) const {
+QWidget& TWindowStage::RestOf(const render::TFrameView& view) const {
   const auto found = std::find_if(FWindows.begin(), FWindows.end(),
                                   [&](const auto& window) { return window->view == &view; });
   return *(*found)->rest;
 }
 
-std::vector<const TFrameView*> TWindowStage::Views() {
+std::vector<const render::TFrameView*> TWindowStage::Views() {
   std::erase_if(FWindows, [](const auto& window) { return window->view->Frame() == nullptr; });
-  std::vector<const TFrameView*> views;
+  std::vector<const render::TFrameView*> views;
   for (const auto& window : FWindows) views.push_back(window->view);
   return views;
 }
 
-}  // namespace algo::terminal
+}  // namespace algo::terminal::ui_driver

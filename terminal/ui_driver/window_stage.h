@@ -9,24 +9,24 @@
 #include "terminal/render/editor_aids.h"
 #include "terminal/ui_driver/stage.h"
 
-namespace algo::terminal {
+namespace algo::terminal::ui_driver {
 
 class TWindowStage final : public TStage {
  public:
   TWindowStage();
   ~TWindowStage() override;
 
-  TFrameView& ViewOf(const std::shared_ptr<forms::TFrame>& frame) override;
+  render::TFrameView& ViewOf(const std::shared_ptr<forms::TFrame>& frame) override;
 
-  QWidget& RestOf(const TFrameView& view) const override;
+  QWidget& RestOf(const render::TFrameView& view) const override;
 
-  std::vector<const TFrameView*> Views() override;
+  std::vector<const render::TFrameView*> Views() override;
 
  private:
   struct TWindow;
 
-  TEditorAids FAids;
+  render::TEditorAids FAids;
   std::vector<std::unique_ptr<TWindow>> FWindows;
 };
 
-}  // namespace algo::terminal
+}  // namespace algo::terminal::ui_driver

@@ -77,7 +77,7 @@ TEST_F(Lifetimes, NothingPickedElsewhereReachesAFormWithAnOrder) {
   };
   Change(order, [&](forms::TDialogForm&, TChangeFrame& frame) { look(frame); });
   Confirm(order, [&](forms::TDialogForm&, TChangeFrame& frame) { look(frame); });
-  DropProvider();
+  DestroyProvider();
   look(FrameIn(*OpenChange(order)));
 }
 
@@ -148,14 +148,14 @@ TEST_F(Lifetimes, TheProviderMayGoWhileADialogShows) {
       Provider();
       Forget();
       InDialogs({[&](forms::TDialogForm& form) {
-        DropProvider();
+        DestroyProvider();
         FrameIn(form).InputClick(Named(FrameIn(form), "btnBuy"));
         EXPECT_EQ(form.ModalResult(), forms::ModalNone);
         if (confirmed) form.SetModalResult(forms::ModalOk);
       }});
       Post(&order, action);
       EXPECT_EQ(Seen("take_action").size(), confirmed ? 1U : 0U);
-      EXPECT_EQ(LeftBehind(), host::TLeftBehind());
+      EXPECT_EQ(LeftBehind(), host::checks::TLeftBehind());
     }
   }
 }
@@ -174,9 +174,9 @@ TEST_F(Lifetimes, TheProviderLeavesNothingBehind) {
   EXPECT_EQ(LeftBehind().configListeners, 5U);
   const auto kept = Shown().front();
   Shown().clear();
-  DropProvider();
+  DestroyProvider();
   EXPECT_EQ(Closed(), 2);
-  host::TLeftBehind left;
+  host::checks::TLeftBehind left;
   left.forms = 1;
   EXPECT_EQ(LeftBehind(), left);
   NotifyAll();

@@ -77,11 +77,11 @@ TEST_F(ProviderTest, AnswersAndTellsTheTraderWhenTheHostFails) {
 }
 
 TEST_F(ProviderTest, ListensToTheOrderActionsFromItsMakingToItsEnd) {
-  EXPECT_EQ(LeftBehind(), host::TLeftBehind());
+  EXPECT_EQ(LeftBehind(), host::checks::TLeftBehind());
   Provider();
-  EXPECT_EQ(LeftBehind(), host::TLeftBehind{.channels = 1});
-  DropProvider();
-  EXPECT_EQ(LeftBehind(), host::TLeftBehind());
+  EXPECT_EQ(LeftBehind(), host::checks::TLeftBehind{.channels = 1});
+  DestroyProvider();
+  EXPECT_EQ(LeftBehind(), host::checks::TLeftBehind());
 }
 
 TEST_F(ProviderTest, OpensAFrameOfItsOwnForEachInstance) {
@@ -144,7 +144,7 @@ TEST_F(ProviderTest, AChangeOfLanguageIsDoneWhateverTheHandleNames) {
   EXPECT_TRUE(Provider().SetLanguage(0, 1));
 }
 
-TEST_F(ProviderTest, AnInstanceThatFailsToOpenIsToldOnceAndLeavesNothingBehind) {
+TEST_F(ProviderTest, AnInstanceThatFailsToOpenIsReportedOnceAndLeavesNothingBehind) {
   for (const std::string operation :
        {"config.read", "language.text", "profile.right", "profile.data", "orders.list", "channel.subscribe",
         "market.listen", "skin.color", "editor.register", "view.notify"}) {
@@ -153,20 +153,20 @@ TEST_F(ProviderTest, AnInstanceThatFailsToOpenIsToldOnceAndLeavesNothingBehind) 
     Data().faults.Set({operation});
     EXPECT_EQ(provider.OpenNewInstance(), 0) << operation;
     EXPECT_EQ(Told(), TTexts{"The host fails at " + operation});
-    EXPECT_EQ(LeftBehind(), host::TLeftBehind{.channels = 1}) << operation;
+    EXPECT_EQ(LeftBehind(), host::checks::TLeftBehind{.channels = 1}) << operation;
     Data().faults.Set({});
     EXPECT_NE(provider.OpenNewInstance(), 0) << operation;
-    DropProvider();
+    DestroyProvider();
   }
 }
 
-TEST_F(ProviderTest, AFailureThatCannotBeToldIsDropped) {
+TEST_F(ProviderTest, AFailureThatCannotBeReportedIsDropped) {
   auto& provider = Provider();
   Data().faults.Set({"language.text", "message.text"});
   EXPECT_EQ(provider.OpenNewInstance(), 0);
   EXPECT_EQ(provider.GetMenuCaption(0), "");
   EXPECT_EQ(Told(), TTexts());
-  EXPECT_EQ(LeftBehind(), host::TLeftBehind{.channels = 1});
+  EXPECT_EQ(LeftBehind(), host::checks::TLeftBehind{.channels = 1});
 }
 
 TEST_F(ProviderTest, AProviderThatCannotListenIsNotMadeAndLeavesNothingBehind) {
@@ -175,7 +175,7 @@ TEST_F(ProviderTest, AProviderThatCannotListenIsNotMadeAndLeavesNothingBehind) {
   Data().faults.Set({"config.read"});
   EXPECT_THROW(Provider(), terminal::EHostFault);
   Data().faults.Set({});
-  EXPECT_EQ(LeftBehind(), host::TLeftBehind());
+  EXPECT_EQ(LeftBehind(), host::checks::TLeftBehind());
 }
 
 TEST_F(ProviderTest, ClosesWhatIsOpenWhenItGoes) {
@@ -183,8 +183,8 @@ TEST_F(ProviderTest, ClosesWhatIsOpenWhenItGoes) {
   Open();
   Open();
   EXPECT_EQ(LeftBehind().editors, 39U);
-  DropProvider();
-  EXPECT_EQ(LeftBehind(), host::TLeftBehind());
+  DestroyProvider();
+  EXPECT_EQ(LeftBehind(), host::checks::TLeftBehind());
 }
 
 TEST_F(ProviderTest, TheModuleMakesItsClassKnownForAsLongAsItIsStarted) {
@@ -200,7 +200,7 @@ TEST_F(ProviderTest, TheModuleMakesItsClassKnownForAsLongAsItIsStarted) {
     EXPECT_EQ(provider->GetViewID(), 426);
     EXPECT_NE(provider->OpenNewInstance(), 0);
   }
-  EXPECT_EQ(LeftBehind(), host::TLeftBehind());
+  EXPECT_EQ(LeftBehind(), host::checks::TLeftBehind());
   module->stop();
   EXPECT_NE(registry.Find("TIAlgoEntryOrder"), nullptr);
   module->stop();

@@ -54,7 +54,7 @@ int main(int argc, char** argv) {
     return 2;
   }
   try {
-    terminal::TSqliteStorage keeper(argv[1]);
+    terminal::storage::TSqliteStorage keeper(argv[1]);
     terminal::tests::TEventNotes notes;
     terminal::TMemoryHost host(notes, keeper);
     keeper.LoadInto(host.Data(), host.Orders());

@@ -82,8 +82,8 @@ class HostFaults : public TTerminalTest {
   }
 
   void ExpectNothingLeft(bool exceptSubscription = false) {
-    DropProvider();
-    host::TLeftBehind expected;
+    DestroyProvider();
+    host::checks::TLeftBehind expected;
     if (exceptSubscription) expected.subscriptions = 1;
     EXPECT_TRUE(LeftBehind() == expected);
   }

@@ -6,9 +6,9 @@
 #include <functional>
 #include <memory>
 
+#include "plugin/host_contract/registration.h"
 #include "plugin/host_contract/view_frame.h"
 #include "views/boundary/boundary.h"
-#include "views/boundary/registrations.h"
 
 namespace algo::views {
 
@@ -37,11 +37,11 @@ class TGuardedFrame : public host::TViewFrame {
   void RunInput(const std::function<void()>& input) override;
 
   /// What is registered with the host for the life of the frame.
-  TRegistrations& Registrations() { return FRegistrations; }
+  host::TRegistrations& Registrations() { return FRegistrations; }
 
  private:
   std::shared_ptr<const bool> FAlive = std::make_shared<const bool>(true);
-  TRegistrations FRegistrations;
+  host::TRegistrations FRegistrations;
 };
 
 }  // namespace algo::views

@@ -18,6 +18,7 @@
 
 #include "model/rules.h"
 #include "plugin/host_contract/channel_manager.h"
+#include "plugin/host_contract/language_manager.h"
 #include "plugin/host_contract/orders.h"
 #include "views/boundary/guarded_frame.h"
 #include "views/entry/entry_form.h"
@@ -126,7 +127,7 @@ class TAlgoOrderEntryFrame : public TGuardedFrame {
 
  protected:
   /// The resource text of the id, in the user's language.
-  std::string GetResource(std::string_view id) const { return ResourceText(id); }
+  std::string GetResource(std::string_view id) const { return host::ResourceText(id); }
 
   /// What the first failed rule of the times and of the chosen algorithm says.
   std::optional<model::TRuleFailure> CheckAlgoFields() const;

@@ -6,6 +6,7 @@
 
 #include "plugin/host_contract/config_manager.h"
 #include "plugin/host_contract/editor_manager.h"
+#include "plugin/host_contract/listen.h"
 #include "plugin/host_contract/look_and_feel_service.h"
 #include "plugin/host_contract/user_app_profile.h"
 #include "text/number_text.h"
@@ -44,51 +45,22 @@ bool TAlgoOrderEntryFrame::WorksOnProfileAccount() const {
 }
 
 void TAlgoOrderEntryFrame::RegisterQuantityEditor(forms::TSpinEdit& control) {
-  Registrations().Add([&] { Editors().RegisterQuantityEditor(control, FGroupID); },
-                      [&control] { Editors().RemoveQuantityEditor(control); });
+  Registrations().Add(host::RegisterQuantityEditor(control, FGroupID));
 }
 
 void TAlgoOrderEntryFrame::RegisterWithHost() {
-  const auto registerPrice = [this](TField field) {
-    forms::TSpinEdit& control = Spin(field);
-    Registrations().Add([&] { Editors().RegisterPriceEditor(control, FGroupID); },
-                        [&control] { Editors().RemovePriceEditor(control); });
-  };
-  forms::TTextEdit& account = Edit(TField::edtAccount);
-  Registrations().Add([&] { Editors().RegisterAccountEditor(account, FGroupID, LookUpMode, LookUpOptions); },
-                      [&account] { Editors().RemoveAccountEditor(account); });
-  forms::TTextEdit& symbol = Edit(TField::edtSymbol);
-  Registrations().Add([&] { Editors().RegisterSymbolEditor(symbol, FGroupID, LookUpMode, LookUpOptions); },
-                      [&symbol] { Editors().RemoveSymbolEditor(symbol); });
-  registerPrice(TField::edtPrice);
+  auto& all = Registrations();
+  all.Add(host::RegisterAccountEditor(Edit(TField::edtAccount), FGroupID, LookUpMode, LookUpOptions));
+  all.Add(host::RegisterSymbolEditor(Edit(TField::edtSymbol), FGroupID, LookUpMode, LookUpOptions));
+  all.Add(host::RegisterPriceEditor(Spin(TField::edtPrice), FGroupID));
   for (const TField field : QuantityEditors) RegisterQuantityEditor(Spin(field));
-  for (const TField field : AlgoPriceEditors) registerPrice(field);
-
-  auto& config = host::TCustomConfigManager::GetInstance();
-  Registrations().Add([&] { config.AddListener(Handler(&TAlgoOrderEntryFrame::ConfigUpdate), this); },
-                      [this] { host::TCustomConfigManager::GetInstance().RemoveListener(this); });
-  const auto subscribe = [this](std::int32_t channel, host::TCustomGlobalChannelManager::THandler handler) {
-    Registrations().Add(
-        [&] {
-          host::TCustomGlobalChannelManager::GetInstance().Subscribe(channel, std::move(handler), this);
-        },
-        [this, channel] { host::TCustomGlobalChannelManager::GetInstance().Unsubscribe(channel, this); });
-  };
-  subscribe(host::CopyPriceChannel, Handler(&TAlgoOrderEntryFrame::CopyPrice));
-  subscribe(host::CopyOrderChannel, Handler(&TAlgoOrderEntryFrame::CopyOrder));
-  Registrations().Add(
-      [&] {
-        host::TCustomMarketAdapter::GetInstance().AddSpreadListener(
-            Handler(&TAlgoOrderEntryFrame::SpreadUpdate), this);
-      },
-      [this] { host::TCustomMarketAdapter::GetInstance().RemoveSpreadListener(this); });
-  Registrations().Add(
-      [&] {
-        host::TCustomLookAndFeelService::GetInstance().AddListener(
-            Handler(&TAlgoOrderEntryFrame::SkinChanged), this);
-      },
-      [this] { host::TCustomLookAndFeelService::GetInstance().RemoveListener(this); });
-  Registrations().Add([] {}, [this] { FSymbol.Unfollow(); });
+  for (const TField field : AlgoPriceEditors) all.Add(host::RegisterPriceEditor(Spin(field), FGroupID));
+  all.Add(host::ListenToSettings(Handler(&TAlgoOrderEntryFrame::ConfigUpdate), this));
+  all.Add(host::ListenToChannel(host::CopyPriceChannel, Handler(&TAlgoOrderEntryFrame::CopyPrice), this));
+  all.Add(host::ListenToChannel(host::CopyOrderChannel, Handler(&TAlgoOrderEntryFrame::CopyOrder), this));
+  all.Add(host::ListenToSpreads(Handler(&TAlgoOrderEntryFrame::SpreadUpdate), this));
+  all.Add(host::ListenToSkins(Handler(&TAlgoOrderEntryFrame::SkinChanged), this));
+  all.Add(host::TRegistration([this] { FSymbol.Unfollow(); }));
 }
 
 bool TAlgoOrderEntryFrame::SetGroupID(std::string_view id) {

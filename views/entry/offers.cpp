@@ -114,7 +114,7 @@ auto TPickLists::AlgosOf(const std::string& exchange) -> TOffer {
     if (row == nullptr) continue;
     offer.ids.emplace_back(row->resourceId);
     offer.codes.emplace_back(row->code);
-    offer.texts.push_back(ResourceText(row->resourceId));
+    offer.texts.push_back(host::ResourceText(row->resourceId));
   }
   return offer;
 }
@@ -128,7 +128,7 @@ auto TPickLists::OrderTypesOf(const std::string& exchange) -> TOffer {
     if (row == nullptr || (!row->right.empty() && !profile.HasRight(row->right))) continue;
     offer.ids.emplace_back(row->resourceId);
     offer.codes.emplace_back(row->code);
-    offer.texts.push_back(ResourceText(row->resourceId));
+    offer.texts.push_back(host::ResourceText(row->resourceId));
   }
   return offer;
 }

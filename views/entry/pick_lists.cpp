@@ -15,8 +15,8 @@ namespace algo::views {
 namespace {
 
 std::string ItemText(const model::TChoiceItem& item) {
-  std::string text = ResourceText(item.textId.empty() ? item.entry : item.textId);
-  if (!item.levelId.empty()) text += ResourceText(item.levelId);
+  std::string text = host::ResourceText(item.textId.empty() ? item.entry : item.textId);
+  if (!item.levelId.empty()) text += host::ResourceText(item.levelId);
   return text;
 }
 
@@ -26,10 +26,6 @@ std::int32_t ResetIndex(const model::TParamRow& param) {
 }
 
 }  // namespace
-
-std::string ResourceText(std::string_view id) {
-  return host::TCustomLanguageManager::GetInstance().GetText(host::Const_ResourceStringTag, id, 3, 0, 0);
-}
 
 TPickLists::TPickLists(TEntryForm& form, THandlers handlers) : FForm(form), FHandlers(std::move(handlers)) {}
 
@@ -100,7 +96,7 @@ void TPickLists::FillPickLists() {
   }
   std::vector<std::string> algos;
   algos.reserve(FAlgoTypeList.size());
-  for (const std::string& id : FAlgoTypeList) algos.push_back(ResourceText(id));
+  for (const std::string& id : FAlgoTypeList) algos.push_back(host::ResourceText(id));
   auto& combo = FForm.Combo(TField::cmbOrderType);
   combo.Refill(std::move(algos), combo.Index());
 }

@@ -16,9 +16,6 @@
 
 namespace algo::views {
 
-/// The resource text of the id, in the user's language.
-std::string ResourceText(std::string_view id);
-
 class TPickLists {
  public:
   /// Run when another entry than before is chosen.

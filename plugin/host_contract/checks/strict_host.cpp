@@ -3,14 +3,14 @@
 #include <optional>
 #include <utility>
 
-#include "plugin/host_contract/checks/strict_host_checks.h"
-#include "plugin/host_contract/checks/strict_host_editors.h"
-#include "plugin/host_contract/checks/strict_host_market.h"
-#include "plugin/host_contract/checks/strict_host_orders.h"
-#include "plugin/host_contract/checks/strict_host_views.h"
+#include "plugin/host_contract/checks/strict_editors.h"
+#include "plugin/host_contract/checks/strict_market.h"
+#include "plugin/host_contract/checks/strict_orders.h"
+#include "plugin/host_contract/checks/strict_views.h"
+#include "plugin/host_contract/checks/violations.h"
 #include "plugin/host_contract/installed_service.h"
 
-namespace algo::host {
+namespace algo::host::checks {
 
 namespace {
 
@@ -78,4 +78,4 @@ TLeftBehind TStrictHost::LeftBehind() const {
   return left;
 }
 
-}  // namespace algo::host
+}  // namespace algo::host::checks

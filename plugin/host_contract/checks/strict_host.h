@@ -1,7 +1,7 @@
 #pragma once
 
 // The contract as something that runs: a layer around the services of any host that passes every call on and
-// stops the module at the first one that the contract forbids. It also keeps the ledger of what the module
+// stops the module at the first one that the contract forbids. It also keeps a register of what the module
 // has registered and not taken back.
 
 #include <cstddef>
@@ -11,7 +11,7 @@
 
 #include "forms/export.h"
 
-namespace algo::host {
+namespace algo::host::checks {
 
 /// What a module has in the hands of its host at one moment.
 struct TLeftBehind {
@@ -31,7 +31,7 @@ struct TLeftBehind {
 /// not installed stay so. Calls of the host itself belong to the wrapped services and pass no check.
 class ALGO_SHARED TStrictHost {
  public:
-  /// Told what is wrong, in one line. It does not return: it throws, or the program ends.
+  /// Is given what is wrong, in one line. It does not return: it throws, or the program ends.
   using TViolationHandler = std::function<void(const std::string& what)>;
 
   TStrictHost();
@@ -40,7 +40,7 @@ class ALGO_SHARED TStrictHost {
   TStrictHost& operator=(const TStrictHost&) = delete;
 
   /// Puts `handler` in place of the one that writes the line to standard error and aborts. A call that is a
-  /// violation does not reach the wrapped service and leaves the ledger as it was.
+  /// violation does not reach the wrapped service and leaves the register as it was.
   void OnViolation(TViolationHandler handler);
 
   /// What is registered now.
@@ -51,4 +51,4 @@ class ALGO_SHARED TStrictHost {
   std::unique_ptr<TServices> FServices;
 };
 
-}  // namespace algo::host
+}  // namespace algo::host::checks

@@ -1,6 +1,6 @@
 #include "tests/terminal/drive/play.h"
 
-namespace algo::terminal {
+namespace algo::terminal::drive {
 namespace {
 
 class HostData : public TPlay {
@@ -111,4 +111,4 @@ TEST_F(HostData, IsAsItWasAfterARefusedCommand) {
 }
 
 }  // namespace
-}  // namespace algo::terminal
+}  // namespace algo::terminal::drive

@@ -9,7 +9,7 @@
 #include "plugin/host_contract/view_functions.h"
 #include "tests/terminal/drive/play.h"
 
-namespace algo::terminal {
+namespace algo::terminal::drive {
 namespace {
 
 class TTestProvider final : public host::TIBaseView {
@@ -214,4 +214,4 @@ TEST_F(Inside, AFormBesideOthersIsKnownUntilItCloses) {
 }
 
 }  // namespace
-}  // namespace algo::terminal
+}  // namespace algo::terminal::drive

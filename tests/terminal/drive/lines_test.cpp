@@ -2,7 +2,7 @@
 
 #include "tests/terminal/drive/play.h"
 
-namespace algo::terminal {
+namespace algo::terminal::drive {
 namespace {
 
 class Lines : public TPlay {};
@@ -114,4 +114,4 @@ TEST_F(Lines, NameTheFrameThatIsNotThere) {
 }
 
 }  // namespace
-}  // namespace algo::terminal
+}  // namespace algo::terminal::drive

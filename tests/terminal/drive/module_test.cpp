@@ -2,7 +2,7 @@
 
 #include "tests/terminal/drive/play.h"
 
-namespace algo::terminal {
+namespace algo::terminal::drive {
 namespace {
 
 class Module : public TPlay {
@@ -244,4 +244,4 @@ TEST_F(Module, ShowsTheStateOfEveryKindOfThing) {
 }
 
 }  // namespace
-}  // namespace algo::terminal
+}  // namespace algo::terminal::drive

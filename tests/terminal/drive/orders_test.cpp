@@ -1,6 +1,6 @@
 #include "tests/terminal/drive/play.h"
 
-namespace algo::terminal {
+namespace algo::terminal::drive {
 namespace {
 
 class Orders : public TPlay {};
@@ -62,4 +62,4 @@ TEST_F(Orders, ThatAreNotThereAreNamed) {
 }
 
 }  // namespace
-}  // namespace algo::terminal
+}  // namespace algo::terminal::drive

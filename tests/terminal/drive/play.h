@@ -11,7 +11,7 @@
 #include "terminal/drive/driver.h"
 #include "terminal/drive/session.h"
 
-namespace algo::terminal {
+namespace algo::terminal::drive {
 
 class TPlay : public testing::Test {
  protected:
@@ -45,4 +45,4 @@ class TPlay : public testing::Test {
   TSession session;
 };
 
-}  // namespace algo::terminal
+}  // namespace algo::terminal::drive

@@ -11,7 +11,7 @@
 #include <sstream>
 #include <string>
 
-namespace algo::terminal {
+namespace algo::terminal::drive {
 namespace {
 
 namespace fs = std::filesystem;
@@ -188,4 +188,4 @@ TEST_F(Programs, AccountFailsWhenACommandWasRefused) {
 }
 
 }  // namespace
-}  // namespace algo::terminal
+}  // namespace algo::terminal::drive

@@ -100,7 +100,7 @@ TEST_F(TMarketTest, AListenerMayUnsubscribeWhileItIsTold) {
 }
 
 TEST_F(TMarketTest, AFailingUnsubscribeLeavesTheListener) {
-  const host::TStrictHost strict;
+  const host::checks::TStrictHost strict;
   auto& checked = host::TCustomSubscribeAdapter::GetInstance();
   auto* item = checked.Subscribe("S", "PRCDDS", true);
   checked.AddListener(

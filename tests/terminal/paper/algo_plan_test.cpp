@@ -2,7 +2,7 @@
 
 #include <gtest/gtest.h>
 
-namespace algo::terminal {
+namespace algo::terminal::paper {
 namespace {
 
 TEST(AlgoPlan, EveryFigureIsRead) {
@@ -64,4 +64,4 @@ TEST(AlgoPlan, WhatIsNoParameterTextIsNothing) {
 }
 
 }  // namespace
-}  // namespace algo::terminal
+}  // namespace algo::terminal::paper

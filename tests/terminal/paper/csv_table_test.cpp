@@ -7,7 +7,7 @@
 
 #include "terminal/paper/paper_error.h"
 
-namespace algo::terminal {
+namespace algo::terminal::paper {
 namespace {
 
 constexpr std::array<std::string_view, 2> Wanted{"name", "size"};
@@ -107,4 +107,4 @@ TEST(CsvTable, ATextThatMustBeGivenIsMissed) {
 }
 
 }  // namespace
-}  // namespace algo::terminal
+}  // namespace algo::terminal::paper

@@ -9,7 +9,7 @@
 #include "terminal/paper/recorded_prices.h"
 #include "tests/terminal/paper/sample_market.h"
 
-namespace algo::terminal {
+namespace algo::terminal::paper {
 namespace {
 
 namespace fs = std::filesystem;
@@ -176,4 +176,4 @@ TEST(ExampleTables, EverythingSaysThatItIsASample) {
 }
 
 }  // namespace
-}  // namespace algo::terminal
+}  // namespace algo::terminal::paper

@@ -4,7 +4,7 @@
 
 #include "tests/terminal/paper/sample_market.h"
 
-namespace algo::terminal {
+namespace algo::terminal::paper {
 namespace {
 
 using tests::At;
@@ -67,4 +67,4 @@ TEST(OrderWindow, HowMuchHasPassedIsBetweenNothingAndAll) {
 }
 
 }  // namespace
-}  // namespace algo::terminal
+}  // namespace algo::terminal::paper

@@ -7,7 +7,7 @@
 
 #include "tests/terminal/paper/sample_market.h"
 
-namespace algo::terminal::tests {
+namespace algo::terminal::paper::tests {
 namespace {
 
 using Algos = TPaperTest;
@@ -313,4 +313,4 @@ TEST_F(Algos, AlgorithmsAreKnownApartFromLetterCase) {
 }
 
 }  // namespace
-}  // namespace algo::terminal::tests
+}  // namespace algo::terminal::paper::tests

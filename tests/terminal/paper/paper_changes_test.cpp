@@ -3,7 +3,7 @@
 #include "terminal/paper/paper_engine.h"
 #include "tests/terminal/paper/sample_market.h"
 
-namespace algo::terminal::tests {
+namespace algo::terminal::paper::tests {
 namespace {
 
 using Changes = TPaperTest;
@@ -150,4 +150,4 @@ TEST_F(Changes, AnOrderWithoutAnAlgorithmCanBeCancelledAndKeepsWhatItHas) {
 }
 
 }  // namespace
-}  // namespace algo::terminal::tests
+}  // namespace algo::terminal::paper::tests

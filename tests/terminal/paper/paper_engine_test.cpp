@@ -6,7 +6,7 @@
 
 #include "tests/terminal/paper/sample_market.h"
 
-namespace algo::terminal::tests {
+namespace algo::terminal::paper::tests {
 namespace {
 
 using Engine = TPaperTest;
@@ -140,7 +140,7 @@ TEST_F(Engine, OrdersThatWereThereBeforeGoOnWithWhatTheyHave) {
 }
 
 TEST(EngineLife, AnEngineThatIsGoneIsToldNothing) {
-  TEventNotes notes;
+  terminal::tests::TEventNotes notes;
   TMemoryHost host(notes);
   TPaperMarket market(host, SampleTables(), 1);
   {
@@ -190,4 +190,4 @@ TEST_F(Engine, WhoeverIsToldOfAFillMaySendOrders) {
 }
 
 }  // namespace
-}  // namespace algo::terminal::tests
+}  // namespace algo::terminal::paper::tests

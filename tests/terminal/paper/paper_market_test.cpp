@@ -10,7 +10,7 @@
 #include "tests/terminal/paper/sample_market.h"
 #include "text/number_text.h"
 
-namespace algo::terminal {
+namespace algo::terminal::paper {
 namespace {
 
 using tests::ExampleFolder;
@@ -22,7 +22,7 @@ const host::TMarketDataItem& ItemOf(std::string_view symbol) {
 
 /// All quotes of a walk of that many seconds, as text.
 std::string WalkOf(std::uint64_t seed, int seconds) {
-  tests::TEventNotes notes;
+  terminal::tests::TEventNotes notes;
   TMemoryHost host(notes);
   TPaperMarket market(host, LoadMarketTables(ExampleFolder()), seed);
   std::string walk;
@@ -40,7 +40,7 @@ std::string WalkOf(std::uint64_t seed, int seconds) {
 }
 
 TEST(PaperMarket, EachInstrumentIsPublishedAtItsPreviousClose) {
-  tests::TEventNotes notes;
+  terminal::tests::TEventNotes notes;
   TMemoryHost host(notes);
   TMarketTables tables = SampleTables();
   tables.instruments[1].multiplier = 0.001;
@@ -64,7 +64,7 @@ TEST(PaperMarket, EachInstrumentIsPublishedAtItsPreviousClose) {
 }
 
 TEST(PaperMarket, ChangesArePublishedAndTold) {
-  tests::TEventNotes notes;
+  terminal::tests::TEventNotes notes;
   TMemoryHost host(notes);
   std::vector<TQuote> next{{10, 10.02, 500, 600, 10.02, 300}, {60.5, 60.55, 400, 400, 60.5, 0}};
   TPaperMarket market(host, SampleTables(), std::make_unique<tests::TScriptedPrices>(next));
@@ -104,7 +104,7 @@ TEST(PaperMarket, TheSameSeedGivesTheSamePricesAndAnotherOneOthers) {
 }
 
 TEST(PaperMarket, ADayKeepsToTheTablesAndStaysOnTheGrid) {
-  tests::TEventNotes notes;
+  terminal::tests::TEventNotes notes;
   TMemoryHost host(notes);
   TPaperMarket market(host, LoadMarketTables(ExampleFolder()), 3);
   const auto& instruments = market.Tables().instruments;
@@ -141,7 +141,7 @@ TEST(PaperMarket, ADayKeepsToTheTablesAndStaysOnTheGrid) {
 }
 
 TEST(PaperMarket, AStepTakesNoMemory) {
-  tests::TEventNotes notes;
+  terminal::tests::TEventNotes notes;
   TMemoryHost host(notes);
   TPaperMarket market(host, LoadMarketTables(ExampleFolder()), 3);
   // By then every item has all its fields.
@@ -152,7 +152,7 @@ TEST(PaperMarket, AStepTakesNoMemory) {
 }
 
 TEST(PaperMarket, OrdersThatWaitTakeNoMemory) {
-  tests::TEventNotes notes;
+  terminal::tests::TEventNotes notes;
   TMemoryHost host(notes);
   TPaperMarket market(host, SampleTables(), 3);
   TPaperEngine engine(host, market, 3);
@@ -190,7 +190,7 @@ class TReplay : public testing::Test {
     return std::make_unique<TPaperMarket>(host, tables,
                                           std::make_unique<TRecordedPrices>(Recorded(), tables, speed));
   }
-  tests::TEventNotes notes;
+  terminal::tests::TEventNotes notes;
   TMemoryHost host{notes};
 };
 
@@ -259,4 +259,4 @@ TEST_F(TReplay, ASmallTradeStillLeavesALotOnOffer) {
 }
 
 }  // namespace
-}  // namespace algo::terminal
+}  // namespace algo::terminal::paper

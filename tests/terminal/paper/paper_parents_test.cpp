@@ -3,7 +3,7 @@
 #include "terminal/paper/paper_engine.h"
 #include "tests/terminal/paper/sample_market.h"
 
-namespace algo::terminal::tests {
+namespace algo::terminal::paper::tests {
 namespace {
 
 using Parents = TPaperTest;
@@ -127,4 +127,4 @@ TEST_F(Parents, AParentChangedBelowWhatIsFilledIsFilled) {
 }
 
 }  // namespace
-}  // namespace algo::terminal::tests
+}  // namespace algo::terminal::paper::tests

@@ -8,7 +8,7 @@
 #include "tests/terminal/paper/sample_market.h"
 #include "text/number_text.h"
 
-namespace algo::terminal::tests {
+namespace algo::terminal::paper::tests {
 namespace {
 
 struct TToldFill {
@@ -173,7 +173,7 @@ class TRun {
     }
   }
 
-  TEventNotes FNotes;
+  terminal::tests::TEventNotes FNotes;
   TFillKeeper FKeeper;
   TMemoryHost FHost{FNotes, FKeeper};
   TRandom FRandom;
@@ -197,7 +197,7 @@ TEST(RandomOrders, KeepLimitVolumeLotsTimesAndQuantity) {
 
 /// All that the ledger is told in a day of random orders, changes and cancels.
 std::string DayOf(std::uint64_t seed) {
-  TEventNotes notes;
+  terminal::tests::TEventNotes notes;
   TFillKeeper keeper;
   TMemoryHost host(notes, keeper);
   TPaperMarket market(host, LoadMarketTables(ExampleFolder()), seed);
@@ -226,4 +226,4 @@ TEST(RandomOrders, AWholeDayIsTheSameForTheSameSeed) {
 }
 
 }  // namespace
-}  // namespace algo::terminal::tests
+}  // namespace algo::terminal::paper::tests

@@ -15,7 +15,7 @@
 #include "terminal/paper/paper_engine.h"
 #include "tests/terminal/host/event_notes.h"
 
-namespace algo::terminal::tests {
+namespace algo::terminal::paper::tests {
 
 /// The folder of the tables that come with the project.
 inline std::filesystem::path ExampleFolder() { return std::filesystem::path(ALGO_EXAMPLES) / "market"; }
@@ -129,7 +129,7 @@ class TPaperTest : public testing::Test {
     return order.NamedText(AveragePriceProperty);
   }
 
-  TEventNotes notes;
+  terminal::tests::TEventNotes notes;
   TNotingKeeper keeper;
   TMemoryHost host{notes, keeper};
   std::vector<TQuote> next{2};
@@ -137,4 +137,4 @@ class TPaperTest : public testing::Test {
   TPaperEngine engine{host, market, 1};
 };
 
-}  // namespace algo::terminal::tests
+}  // namespace algo::terminal::paper::tests

@@ -4,7 +4,7 @@
 
 #include "text/number_text.h"
 
-namespace algo::terminal {
+namespace algo::terminal::paper {
 namespace {
 
 const TSpreadTable Table{{0, 0.001}, {0.25, 0.005}, {0.5, 0.01}, {10, 0.02}, {20, 0.05}, {5000, 5}};
@@ -68,4 +68,4 @@ TEST(SpreadTable, AStepThatNoTickEndsAtIsCutShort) {
 }
 
 }  // namespace
-}  // namespace algo::terminal
+}  // namespace algo::terminal::paper

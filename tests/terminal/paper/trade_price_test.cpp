@@ -2,7 +2,7 @@
 
 #include <gtest/gtest.h>
 
-namespace algo::terminal {
+namespace algo::terminal::paper {
 namespace {
 
 constexpr bool Buy = true;
@@ -113,4 +113,4 @@ TEST(TradePrice, APriceThatIsNoneBuysNothingAndSellsWithinTheLimit) {
 }
 
 }  // namespace
-}  // namespace algo::terminal
+}  // namespace algo::terminal::paper

@@ -10,7 +10,7 @@
 
 #include "tests/terminal/render/rendered_form.h"
 
-namespace algo::terminal {
+namespace algo::terminal::render {
 namespace {
 
 using TEditors = TRenderedForm;
@@ -199,4 +199,4 @@ TEST_F(TMatches, AreNotOfferedForWhatIsTypedInFull) {
 }
 
 }  // namespace
-}  // namespace algo::terminal
+}  // namespace algo::terminal::render

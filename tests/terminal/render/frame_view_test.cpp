@@ -6,7 +6,7 @@
 
 #include "tests/terminal/render/rendered_form.h"
 
-namespace algo::terminal {
+namespace algo::terminal::render {
 namespace {
 
 using TShownForm = TRenderedForm;
@@ -113,7 +113,7 @@ TEST_F(TShownForm, AHiddenGroupTakesNoRoomAndAMovedOneStandsInItsNewPlace) {
   EXPECT_GT(view->sizeHint().height(), tall);
   frame->inner.SetVisible(false);
   EXPECT_FALSE(Input(frame->start).isVisible());
-  EXPECT_TRUE(DifferencesOf(*view).isEmpty());
+  EXPECT_TRUE(ui_driver::DifferencesOf(*view).isEmpty());
 }
 
 class TPaints final : public QObject {
@@ -161,7 +161,7 @@ TEST_F(TShownForm, ACaptionIsPlainTextWhateverItHolds) {
   const auto* label = view->findChild<QWidget*>("liedtAccount")->findChild<QLabel*>();
   EXPECT_EQ(label->text(), "<b>A & B</b>");
   EXPECT_EQ(label->textFormat(), Qt::PlainText);
-  EXPECT_TRUE(DifferencesOf(*view).isEmpty());
+  EXPECT_TRUE(ui_driver::DifferencesOf(*view).isEmpty());
 }
 
 TEST_F(TShownForm, AFormThatGoesLeavesAnEmptyWidgetThatTakesKeys) {
@@ -173,7 +173,7 @@ TEST_F(TShownForm, AFormThatGoesLeavesAnEmptyWidgetThatTakesKeys) {
   QTest::keyClick(box, Qt::Key_Up);
   QTest::keyClick(box, Qt::Key_Return);
   QApplication::processEvents();
-  EXPECT_TRUE(DifferencesOf(*view).isEmpty());
+  EXPECT_TRUE(ui_driver::DifferencesOf(*view).isEmpty());
 }
 
 TEST_F(TShownForm, AFormMayGoInTheMiddleOfItsOwnButton) {
@@ -184,4 +184,4 @@ TEST_F(TShownForm, AFormMayGoInTheMiddleOfItsOwnButton) {
 }
 
 }  // namespace
-}  // namespace algo::terminal
+}  // namespace algo::terminal::render

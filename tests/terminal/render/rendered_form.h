@@ -17,7 +17,7 @@
 #include "terminal/render/qt_text.h"
 #include "terminal/ui_driver/differences.h"
 
-namespace algo::terminal {
+namespace algo::terminal::render {
 
 class TRenderedFrame : public forms::TFrame {
  public:
@@ -95,4 +95,4 @@ class TRenderedForm : public testing::Test {
   TFrameView* view = nullptr;
 };
 
-}  // namespace algo::terminal
+}  // namespace algo::terminal::render

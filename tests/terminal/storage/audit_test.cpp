@@ -5,7 +5,7 @@
 #include "text/date_text.h"
 #include "text/number_text.h"
 
-namespace algo::terminal::tests {
+namespace algo::terminal::storage::tests {
 namespace {
 
 struct TAudit : TStorageTest {
@@ -92,4 +92,4 @@ TEST_F(TAudit, TheTimeIsUtcToTheMillisecond) {
 }
 
 }  // namespace
-}  // namespace algo::terminal::tests
+}  // namespace algo::terminal::storage::tests

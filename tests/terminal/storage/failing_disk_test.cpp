@@ -13,7 +13,7 @@
 #include "tests/terminal/host/event_notes.h"
 #include "tests/terminal/storage/storage_fixture.h"
 
-namespace algo::terminal::tests {
+namespace algo::terminal::storage::tests {
 namespace {
 
 /// As long as it lives, no file of this process grows beyond that size.
@@ -54,7 +54,7 @@ struct TFailingDisk : TStorageTest {
   std::string expected = "The database '" + file +
                          "' could not be read or written. Check the disk that it is on, then try again.";
   std::unique_ptr<TSqliteStorage> keeper = Open();
-  TEventNotes notes;
+  terminal::tests::TEventNotes notes;
   TMemoryHost host{notes, *keeper};
   host::TCustomClientOrder order;
 };
@@ -65,7 +65,7 @@ TEST_F(TFailingDisk, ANewOrderThatCannotBeKeptIsNotAcceptedAndNotStored) {
   EXPECT_TRUE(Failure(host::TOrderAction::New).starts_with(expected));
   EXPECT_TRUE(Failure(host::TOrderAction::Work).starts_with(expected));
   EXPECT_EQ(host.Orders().All().size(), 1U);
-  EXPECT_EQ(notes.lines, TNotes{});
+  EXPECT_EQ(notes.lines, terminal::tests::TNotes{});
   EXPECT_EQ(keeper->AllEvents().size(), 1U);
 
   EXPECT_TRUE(Take(host::TOrderAction::New));
@@ -137,4 +137,4 @@ TEST_F(TFailingDisk, ATransactionThatFindsNoRoomKeepsNothing) {
 }
 
 }  // namespace
-}  // namespace algo::terminal::tests
+}  // namespace algo::terminal::storage::tests

@@ -13,7 +13,7 @@
 #include <stdexcept>
 #include <string>
 
-namespace algo::terminal::tests {
+namespace algo::terminal::storage::tests {
 
 class TKilledProgram {
  public:
@@ -67,4 +67,4 @@ class TKilledProgram {
   std::FILE* FOutput = nullptr;
 };
 
-}  // namespace algo::terminal::tests
+}  // namespace algo::terminal::storage::tests

@@ -13,7 +13,7 @@
 #include "tests/terminal/storage/killed_program.h"
 #include "tests/terminal/storage/storage_fixture.h"
 
-namespace algo::terminal::tests {
+namespace algo::terminal::storage::tests {
 namespace {
 
 std::uint32_t FromEnvironment(const char* name, std::uint32_t otherwise) {
@@ -104,4 +104,4 @@ TEST_F(TKilledWriter, HasEveryAcceptedOrderOnRecord) {
 }
 
 }  // namespace
-}  // namespace algo::terminal::tests
+}  // namespace algo::terminal::storage::tests

@@ -8,7 +8,7 @@
 
 #include "tests/terminal/storage/storage_fixture.h"
 
-namespace algo::terminal::tests {
+namespace algo::terminal::storage::tests {
 
 struct TOpening : TStorageTest {
   std::string Refusal() const {
@@ -25,4 +25,4 @@ struct TOpening : TStorageTest {
   }
 };
 
-}  // namespace algo::terminal::tests
+}  // namespace algo::terminal::storage::tests

@@ -3,7 +3,7 @@
 #include "terminal/storage/connection.h"
 #include "tests/terminal/storage/opening_fixture.h"
 
-namespace algo::terminal::tests {
+namespace algo::terminal::storage::tests {
 namespace {
 
 namespace fs = std::filesystem;
@@ -116,4 +116,4 @@ TEST_F(TOpening, ASecondTerminalIsKeptOutUntilTheFirstIsGone) {
 }
 
 }  // namespace
-}  // namespace algo::terminal::tests
+}  // namespace algo::terminal::storage::tests

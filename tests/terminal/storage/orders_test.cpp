@@ -6,7 +6,7 @@
 
 #include "tests/terminal/storage/storage_fixture.h"
 
-namespace algo::terminal::tests {
+namespace algo::terminal::storage::tests {
 namespace {
 
 using namespace std::string_literals;
@@ -176,4 +176,4 @@ TEST_F(TKeptOrders, AnEventAloneKeepsNoOrder) {
 }
 
 }  // namespace
-}  // namespace algo::terminal::tests
+}  // namespace algo::terminal::storage::tests

@@ -8,7 +8,7 @@
 
 #include "tests/terminal/storage/opening_fixture.h"
 
-namespace algo::terminal::tests {
+namespace algo::terminal::storage::tests {
 namespace {
 
 /// Runs the test as a user who may not write what is not his, as root may do in spite of all rights.
@@ -73,4 +73,4 @@ TEST_F(TRightsToOpen, AFileThatMayNotBeReadIsRefused) {
 }
 
 }  // namespace
-}  // namespace algo::terminal::tests
+}  // namespace algo::terminal::storage::tests

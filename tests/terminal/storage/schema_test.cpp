@@ -8,7 +8,7 @@
 #include "terminal/storage/statement.h"
 #include "tests/terminal/storage/storage_fixture.h"
 
-namespace algo::terminal::tests {
+namespace algo::terminal::storage::tests {
 namespace {
 
 constexpr std::array Old{"CREATE TABLE a (x); INSERT INTO a VALUES ('kept')"};
@@ -69,4 +69,4 @@ TEST_F(TSchema, AConnectionIsSetUpForSafety) {
 }
 
 }  // namespace
-}  // namespace algo::terminal::tests
+}  // namespace algo::terminal::storage::tests

@@ -2,7 +2,7 @@
 
 #include "tests/terminal/storage/storage_fixture.h"
 
-namespace algo::terminal::tests {
+namespace algo::terminal::storage::tests {
 namespace {
 
 using namespace std::string_literals;
@@ -55,4 +55,4 @@ TEST_F(TWorkspaces, SurviveAReopening) {
 }
 
 }  // namespace
-}  // namespace algo::terminal::tests
+}  // namespace algo::terminal::storage::tests

@@ -8,7 +8,7 @@
 
 #include "tests/terminal/storage/storage_fixture.h"
 
-namespace algo::terminal::tests {
+namespace algo::terminal::storage::tests {
 namespace {
 
 /// The middle one of the times, in milliseconds, that the operation took.
@@ -59,4 +59,4 @@ TEST_F(TStorageSpeed, AnOrderIsKeptWithinTenMillisecondsBesideWhatTheDiskTakes) 
 }
 
 }  // namespace
-}  // namespace algo::terminal::tests
+}  // namespace algo::terminal::storage::tests

@@ -12,7 +12,7 @@
 #include "terminal/storage/storage_error.h"
 #include "tests/terminal/storage/temporary_folder.h"
 
-namespace algo::terminal::tests {
+namespace algo::terminal::storage::tests {
 
 inline constexpr const char* FixedTime = "2024-02-29 23:59:59.007";
 
@@ -59,4 +59,4 @@ struct TStorageTest : testing::Test {
   std::vector<TStoredEvent> events;
 };
 
-}  // namespace algo::terminal::tests
+}  // namespace algo::terminal::storage::tests

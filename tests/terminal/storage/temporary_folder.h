@@ -8,7 +8,7 @@
 #include <iterator>
 #include <string>
 
-namespace algo::terminal::tests {
+namespace algo::terminal::storage::tests {
 
 class TTemporaryFolder {
  public:
@@ -35,4 +35,4 @@ inline void WriteFileBytes(const std::string& file, const std::string& bytes) {
   std::ofstream(file, std::ios::binary) << bytes;
 }
 
-}  // namespace algo::terminal::tests
+}  // namespace algo::terminal::storage::tests

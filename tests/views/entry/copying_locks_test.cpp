@@ -225,7 +225,7 @@ TEST_F(CopyingLocks, LetTheMarketFillTheFormAgainAfterACopyThatFailed) {
   }
   for (const std::int32_t channel : {Order, Price}) {
     for (const char* fault : {"subscribe.add", "editor.symbol"}) {
-      DropProvider();
+      DestroyProvider();
       auto& frame = Open();
       Forget();
       Data().faults.Set({fault});

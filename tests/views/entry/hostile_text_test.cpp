@@ -253,7 +253,7 @@ TEST_F(HostileText, ATimeThatIsNoneEndsTheLoadingWithOneShortMessage) {
   for (const std::string& time :
        {Endless("20240115-09:30:00", 10 * Megabyte), std::string("20240115-09:30:00\0", 18),
         std::string("\xFF\xFF"), std::string("20240230-09:30:00"), std::string("2024011509:30:00x")}) {
-    DropProvider();
+    DestroyProvider();
     auto& frame = Open();
     Forget();
     CopyOrderWith("TMLO:AlgoId=PEG,ETime=" + time + ",Timeout=60;");

@@ -62,7 +62,7 @@ class AvailableQuantity : public testing::Test {
   void OnLook(std::function<void(std::size_t)> look) { FStore->onLook = std::move(look); }
 
  private:
-  host::TNullHost FHost;
+  host::checks::TNullHost FHost;
   host::TInstalledService<TTestStore> FStore;
 };
 

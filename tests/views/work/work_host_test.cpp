@@ -97,7 +97,7 @@ TEST_F(WorkHost, NeedsNoDialogAndNoListenerForItsSize) {
   Click(*frame, "btnSubmit");
   EXPECT_TRUE(Told().empty());
   frame->Detach();
-  EXPECT_EQ(LeftBehind(), host::TLeftBehind());
+  EXPECT_EQ(LeftBehind(), host::checks::TLeftBehind());
 }
 
 TEST_F(WorkHost, TellsTheHostThatItsViewChanged) {

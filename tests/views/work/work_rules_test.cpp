@@ -130,7 +130,7 @@ TEST_F(WorkRules, HoldAChildToItsParentsPrice) {
                           {true, true, 1, 0, 10.6, none},
                           {false, true, 0, 10.5, 10.6, none},
                           {false, true, 1, 10.5, 10.4, none}}) {
-    DropProvider();
+    DestroyProvider();
     CheckPrices(row.checked);
     TCustomClientOrder parent = ParentOrder(row.side, row.parent);
     const TMessageSource told = ToldOnSubmit(parent, [&](TChangeFrame& frame) {

@@ -14,7 +14,7 @@
 #include "plugin/host_contract/view_functions.h"
 #include "tests/terminal/host/sample_view.h"
 
-namespace algo::host::tests {
+namespace algo::host::checks::tests {
 namespace {
 
 class EViolation : public EError {
@@ -42,7 +42,7 @@ struct TStrictHostTest : testing::Test {
   TStrictHost strict;
   int owner = 0;
   int otherOwner = 0;
-  TSampleView view;
+  host::tests::TSampleView view;
   forms::TTextEdit& edit = view.Add<forms::TTextEdit>("edtAccount");
   forms::TSpinEdit& spin = view.Add<forms::TSpinEdit>("edtPrice");
 
@@ -211,7 +211,7 @@ TEST_F(TStrictHostTest, LookUpEditorsHaveTheirTwoArguments) {
 }
 
 TEST_F(TStrictHostTest, FormsCountAsLongAsSomebodyHoldsThem) {
-  TSampleProvider provider;
+  host::tests::TSampleProvider provider;
   auto form = GetDialogForm(provider);
   EXPECT_EQ(strict.LeftBehind().forms, 1U);
   form.reset();
@@ -240,4 +240,4 @@ TEST(StrictHostDeathTest, WithoutAHandlerAViolationEndsTheProgramWithOneLine) {
 }
 
 }  // namespace
-}  // namespace algo::host::tests
+}  // namespace algo::host::checks::tests

@@ -1,7 +1,7 @@
 #pragma once
 
 // The strict layers of the services that orders pass through: the order adapter, the order action manager and
-// the channels. All of them look an order up in one ledger.
+// the channels. All of them look an order up in one journal.
 
 #include <cstddef>
 #include <cstdint>
@@ -13,11 +13,11 @@
 #include <vector>
 
 #include "plugin/host_contract/channel_manager.h"
-#include "plugin/host_contract/checks/strict_host_checks.h"
+#include "plugin/host_contract/checks/listener_registry.h"
 #include "plugin/host_contract/order_action_manager.h"
 #include "plugin/host_contract/order_adapter.h"
 
-namespace algo::host {
+namespace algo::host::checks {
 
 /// The orders that the module has of the adapter, and the last ones that it gave back. Those are kept for a
 /// while, emptied, before they really go: as long as their memory is not used anew, a late use is certain to
@@ -31,8 +31,8 @@ struct TOrderJournal {
 
 class TStrictOrders final : public TCustomOrderAdapter {
  public:
-  TStrictOrders(TCustomOrderAdapter& inner, TOrderJournal& ledger, const TViolations& violations)
-      : FInner(inner), FLedger(ledger), FViolations(violations) {}
+  TStrictOrders(TCustomOrderAdapter& inner, TOrderJournal& journal, const TViolations& violations)
+      : FInner(inner), FJournal(journal), FViolations(violations) {}
   ~TStrictOrders() override;
 
   bool GetListSetting(std::string_view key, std::vector<std::string>& values) override {
@@ -47,29 +47,30 @@ class TStrictOrders final : public TCustomOrderAdapter {
   void FreeOldest();
 
   TCustomOrderAdapter& FInner;
-  TOrderJournal& FLedger;
+  TOrderJournal& FJournal;
   const TViolations& FViolations;
 };
 
 class TStrictActions final : public TCustomOrderActionManager {
  public:
-  TStrictActions(TCustomOrderActionManager& inner, const TOrderJournal& ledger, const TViolations& violations)
-      : FInner(inner), FLedger(ledger), FViolations(violations) {}
+  TStrictActions(TCustomOrderActionManager& inner, const TOrderJournal& journal,
+                 const TViolations& violations)
+      : FInner(inner), FJournal(journal), FViolations(violations) {}
 
   bool TakeAction(const void* sender, TCustomClientOrder* order, TOrderAction action,
                   std::int32_t argument) override;
 
  private:
   TCustomOrderActionManager& FInner;
-  const TOrderJournal& FLedger;
+  const TOrderJournal& FJournal;
   const TViolations& FViolations;
 };
 
 class TStrictChannels final : public TCustomGlobalChannelManager {
  public:
-  TStrictChannels(TCustomGlobalChannelManager& inner, const TOrderJournal& ledger,
+  TStrictChannels(TCustomGlobalChannelManager& inner, const TOrderJournal& journal,
                   const TViolations& violations)
-      : FInner(inner), FLedger(ledger), FViolations(violations) {}
+      : FInner(inner), FJournal(journal), FViolations(violations) {}
 
   void Subscribe(std::int32_t channel, THandler handler, TOwner owner) override;
   void Unsubscribe(std::int32_t channel, TOwner owner) override;
@@ -83,9 +84,9 @@ class TStrictChannels final : public TCustomGlobalChannelManager {
   const TCustomOrder* OrderIn(std::int32_t channel, const TChannelRecord& record) const;
 
   TCustomGlobalChannelManager& FInner;
-  const TOrderJournal& FLedger;
+  const TOrderJournal& FJournal;
   const TViolations& FViolations;
   std::map<std::int32_t, TListenerRegistry> FOwners;
 };
 
-}  // namespace algo::host
+}  // namespace algo::host::checks

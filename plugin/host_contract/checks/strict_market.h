@@ -7,10 +7,10 @@
 #include <set>
 #include <string_view>
 
-#include "plugin/host_contract/checks/strict_host_checks.h"
+#include "plugin/host_contract/checks/listener_registry.h"
 #include "plugin/host_contract/market_data.h"
 
-namespace algo::host {
+namespace algo::host::checks {
 
 class TStrictSubscriptions final : public TCustomSubscribeAdapter {
  public:
@@ -51,4 +51,4 @@ class TStrictMarket final : public TCustomMarketAdapter {
   TListenerRegistry FListeners;
 };
 
-}  // namespace algo::host
+}  // namespace algo::host::checks

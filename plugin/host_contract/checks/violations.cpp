@@ -1,9 +1,9 @@
-#include "plugin/host_contract/checks/strict_host_checks.h"
+#include "plugin/host_contract/checks/violations.h"
 
 #include <cstdio>
 #include <cstdlib>
 
-namespace algo::host {
+namespace algo::host::checks {
 
 void TViolations::Report(const std::string& what) const {
   if (FHandler) FHandler(what);
@@ -12,4 +12,4 @@ void TViolations::Report(const std::string& what) const {
   std::abort();
 }
 
-}  // namespace algo::host
+}  // namespace algo::host::checks

@@ -1,10 +1,10 @@
-#include "plugin/host_contract/checks/strict_host_orders.h"
+#include "plugin/host_contract/checks/strict_orders.h"
 
 #include <algorithm>
 #include <string>
 #include <utility>
 
-namespace algo::host {
+namespace algo::host::checks {
 
 namespace {
 
@@ -17,7 +17,7 @@ bool TOrderJournal::WasGivenBack(const TCustomOrder* order) const {
 }
 
 TStrictOrders::~TStrictOrders() {
-  while (!FLedger.givenBack.empty()) {
+  while (!FJournal.givenBack.empty()) {
     try {
       FreeOldest();
     } catch (...) {  // NOLINT(bugprone-empty-catch): the module gave them back in good order
@@ -27,22 +27,22 @@ TStrictOrders::~TStrictOrders() {
 
 TCustomClientOrder* TStrictOrders::NewClientOrder() {
   TCustomClientOrder* order = FInner.NewClientOrder();
-  FLedger.held.insert(order);
+  FJournal.held.insert(order);
   return order;
 }
 
 void TStrictOrders::FreeClientOrder(TCustomClientOrder* order) {
-  FViolations.Require(!FLedger.WasGivenBack(order), "an order is given back twice");
-  FViolations.Require(FLedger.held.contains(order), "an order is given back that the adapter did not make");
-  FLedger.givenBack.push_back(order);
-  FLedger.held.erase(order);
+  FViolations.Require(!FJournal.WasGivenBack(order), "an order is given back twice");
+  FViolations.Require(FJournal.held.contains(order), "an order is given back that the adapter did not make");
+  FJournal.givenBack.push_back(order);
+  FJournal.held.erase(order);
   order->AssignContent(TCustomClientOrder());
-  if (FLedger.givenBack.size() > KeptAfterwards) FreeOldest();
+  if (FJournal.givenBack.size() > KeptAfterwards) FreeOldest();
 }
 
 void TStrictOrders::FreeOldest() {
-  TCustomClientOrder* oldest = FLedger.givenBack.front();
-  FLedger.givenBack.pop_front();
+  TCustomClientOrder* oldest = FJournal.givenBack.front();
+  FJournal.givenBack.pop_front();
   FInner.FreeClientOrder(oldest);
 }
 
@@ -51,22 +51,22 @@ bool TStrictActions::TakeAction(const void* sender, TCustomClientOrder* order, T
   FViolations.Require(sender == nullptr, "an order action names a sender");
   FViolations.Require(argument == 1, "an order action has another argument than 1");
   FViolations.Require(order != nullptr, "an order action has no order");
-  FViolations.Require(!FLedger.WasGivenBack(order),
+  FViolations.Require(!FJournal.WasGivenBack(order),
                       "an action is to be taken on an order that was given back");
   return FInner.TakeAction(sender, order, action, argument);
 }
 
 void TStrictChannels::Subscribe(std::int32_t channel, THandler handler, TOwner owner) {
-  OwnersOf(channel).Enter(handler, owner, [&] { FInner.Subscribe(channel, std::move(handler), owner); });
+  OwnersOf(channel).Add(handler, owner, [&] { FInner.Subscribe(channel, std::move(handler), owner); });
 }
 
 void TStrictChannels::Unsubscribe(std::int32_t channel, TOwner owner) {
-  OwnersOf(channel).Strike(owner, [&] { FInner.Unsubscribe(channel, owner); });
+  OwnersOf(channel).Remove(owner, [&] { FInner.Unsubscribe(channel, owner); });
 }
 
 void TStrictChannels::Post(std::int32_t channel, TChannelRecord* record) {
   FViolations.Require(record != nullptr, "a post has no record");
-  FViolations.Require(!FLedger.WasGivenBack(OrderIn(channel, *record)),
+  FViolations.Require(!FJournal.WasGivenBack(OrderIn(channel, *record)),
                       "a post carries an order that was given back");
   FInner.Post(channel, record);
 }
@@ -92,4 +92,4 @@ const TCustomOrder* TStrictChannels::OrderIn(std::int32_t channel, const TChanne
   return copy != nullptr ? copy->object : nullptr;
 }
 
-}  // namespace algo::host
+}  // namespace algo::host::checks

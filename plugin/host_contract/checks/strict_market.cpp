@@ -1,9 +1,9 @@
-#include "plugin/host_contract/checks/strict_host_market.h"
+#include "plugin/host_contract/checks/strict_market.h"
 
 #include <algorithm>
 #include <utility>
 
-namespace algo::host {
+namespace algo::host::checks {
 
 TMarketDataItem* TStrictSubscriptions::Subscribe(std::string_view symbol, std::string_view dataSet,
                                                  bool live) {
@@ -35,11 +35,11 @@ std::size_t TStrictSubscriptions::Items() const {
 }
 
 void TStrictMarket::AddSpreadListener(TSpreadListener listener, TOwner owner) {
-  FListeners.Enter(listener, owner, [&] { FInner.AddSpreadListener(std::move(listener), owner); });
+  FListeners.Add(listener, owner, [&] { FInner.AddSpreadListener(std::move(listener), owner); });
 }
 
 void TStrictMarket::RemoveSpreadListener(TOwner owner) {
-  FListeners.Strike(owner, [&] { FInner.RemoveSpreadListener(owner); });
+  FListeners.Remove(owner, [&] { FInner.RemoveSpreadListener(owner); });
 }
 
-}  // namespace algo::host
+}  // namespace algo::host::checks

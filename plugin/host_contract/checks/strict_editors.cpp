@@ -1,29 +1,25 @@
-#include "plugin/host_contract/checks/strict_host_editors.h"
+#include "plugin/host_contract/checks/strict_editors.h"
 
-namespace algo::host {
+namespace algo::host::checks {
 
 void TStrictEditors::RegisterAccountEditor(forms::TTextEdit& control, std::string_view groupId,
                                            std::int32_t mode, std::int32_t options) {
   RequireLookUp(mode, options);
-  FInner.RegisterAccountEditor(control, groupId, mode, options);
-  FKinds[&control].insert(TKind::Account);
+  Register(TKind::Account, control, [&] { FInner.RegisterAccountEditor(control, groupId, mode, options); });
 }
 
 void TStrictEditors::RegisterSymbolEditor(forms::TTextEdit& control, std::string_view groupId,
                                           std::int32_t mode, std::int32_t options) {
   RequireLookUp(mode, options);
-  FInner.RegisterSymbolEditor(control, groupId, mode, options);
-  FKinds[&control].insert(TKind::Symbol);
+  Register(TKind::Symbol, control, [&] { FInner.RegisterSymbolEditor(control, groupId, mode, options); });
 }
 
 void TStrictEditors::RegisterPriceEditor(forms::TSpinEdit& control, std::string_view groupId) {
-  FInner.RegisterPriceEditor(control, groupId);
-  FKinds[&control].insert(TKind::Price);
+  Register(TKind::Price, control, [&] { FInner.RegisterPriceEditor(control, groupId); });
 }
 
 void TStrictEditors::RegisterQuantityEditor(forms::TSpinEdit& control, std::string_view groupId) {
-  FInner.RegisterQuantityEditor(control, groupId);
-  FKinds[&control].insert(TKind::Quantity);
+  Register(TKind::Quantity, control, [&] { FInner.RegisterQuantityEditor(control, groupId); });
 }
 
 void TStrictEditors::RemoveAccountEditor(forms::TTextEdit& control) {
@@ -73,6 +69,12 @@ void TStrictEditors::RequireRegistered(TKind kind, const forms::TControl& contro
   }
 }
 
+template <class TRegister>
+void TStrictEditors::Register(TKind kind, const forms::TControl& control, TRegister&& pass) {
+  pass();
+  FKinds[&control].insert(kind);
+}
+
 template <class TRemove>
 void TStrictEditors::Remove(TKind kind, const forms::TControl& control, TRemove&& remove) {
   // Only the address is looked at: whether the control still exists is what is in question.
@@ -83,4 +85,4 @@ void TStrictEditors::Remove(TKind kind, const forms::TControl& control, TRemove&
   if (kinds->second.empty()) FKinds.erase(kinds);
 }
 
-}  // namespace algo::host
+}  // namespace algo::host::checks

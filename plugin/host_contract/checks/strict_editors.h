@@ -8,10 +8,10 @@
 #include <set>
 #include <string_view>
 
-#include "plugin/host_contract/checks/strict_host_checks.h"
+#include "plugin/host_contract/checks/violations.h"
 #include "plugin/host_contract/editor_manager.h"
 
-namespace algo::host {
+namespace algo::host::checks {
 
 class TStrictEditors final : public TEditorManager {
  public:
@@ -43,6 +43,8 @@ class TStrictEditors final : public TEditorManager {
   bool IsRegistered(TKind kind, const forms::TControl& control) const;
   void RequireLookUp(std::int32_t mode, std::int32_t options) const;
   void RequireRegistered(TKind kind, const forms::TControl& control) const;
+  template <class TRegister>
+  void Register(TKind kind, const forms::TControl& control, TRegister&& pass);
   template <class TRemove>
   void Remove(TKind kind, const forms::TControl& control, TRemove&& remove);
 
@@ -51,4 +53,4 @@ class TStrictEditors final : public TEditorManager {
   std::map<const forms::TControl*, std::set<TKind>> FKinds;
 };
 
-}  // namespace algo::host
+}  // namespace algo::host::checks

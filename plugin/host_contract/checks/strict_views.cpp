@@ -1,16 +1,16 @@
-#include "plugin/host_contract/checks/strict_host_views.h"
+#include "plugin/host_contract/checks/strict_views.h"
 
 #include <algorithm>
 #include <utility>
 
-namespace algo::host {
+namespace algo::host::checks {
 
-void TStrictConfig::AddListener(std::function<void()> listener, TOwner owner) {
-  FListeners.Enter(listener, owner, [&] { FInner.AddListener(std::move(listener), owner); });
+void TStrictConfig::AddListener(TListener listener, TOwner owner) {
+  FListeners.Add(listener, owner, [&] { FInner.AddListener(std::move(listener), owner); });
 }
 
 void TStrictConfig::RemoveListener(TOwner owner) {
-  FListeners.Strike(owner, [&] { FInner.RemoveListener(owner); });
+  FListeners.Remove(owner, [&] { FInner.RemoveListener(owner); });
 }
 
 std::string TStrictLanguage::GetText(std::string_view tag, std::string_view id, std::int32_t language,
@@ -25,12 +25,12 @@ forms::TColor TStrictSkins::ColorOf(std::int32_t index, std::int32_t variant) {
   return FInner.ColorOf(index, variant);
 }
 
-void TStrictSkins::AddListener(std::function<void(std::string_view skin)> listener, TOwner owner) {
-  FListeners.Enter(listener, owner, [&] { FInner.AddListener(std::move(listener), owner); });
+void TStrictSkins::AddListener(TListener listener, TOwner owner) {
+  FListeners.Add(listener, owner, [&] { FInner.AddListener(std::move(listener), owner); });
 }
 
 void TStrictSkins::RemoveListener(TOwner owner) {
-  FListeners.Strike(owner, [&] { FInner.RemoveListener(owner); });
+  FListeners.Remove(owner, [&] { FInner.RemoveListener(owner); });
 }
 
 std::shared_ptr<forms::TDialogForm> TStrictViews::MakeDialogForm(TIBaseView& provider) {
@@ -45,4 +45,4 @@ std::size_t TStrictViews::Forms() const {
       std::count_if(FForms.begin(), FForms.end(), [](const auto& form) { return !form.expired(); }));
 }
 
-}  // namespace algo::host
+}  // namespace algo::host::checks

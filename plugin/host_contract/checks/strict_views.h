@@ -10,13 +10,13 @@
 #include <string_view>
 #include <vector>
 
-#include "plugin/host_contract/checks/strict_host_checks.h"
+#include "plugin/host_contract/checks/listener_registry.h"
 #include "plugin/host_contract/config_manager.h"
 #include "plugin/host_contract/language_manager.h"
 #include "plugin/host_contract/look_and_feel_service.h"
 #include "plugin/host_contract/view_functions.h"
 
-namespace algo::host {
+namespace algo::host::checks {
 
 class TStrictConfig final : public TCustomConfigManager {
  public:
@@ -37,7 +37,7 @@ class TStrictConfig final : public TCustomConfigManager {
              bool writeThrough) override {
     FInner.Store(section, key, value, writeThrough);
   }
-  void AddListener(std::function<void()> listener, TOwner owner) override;
+  void AddListener(TListener listener, TOwner owner) override;
   void RemoveListener(TOwner owner) override;
 
   std::size_t Listeners() const { return FListeners.Count(); }
@@ -66,7 +66,7 @@ class TStrictSkins final : public TCustomLookAndFeelService {
       : FInner(inner), FViolations(violations), FListeners(violations, "the skins") {}
 
   forms::TColor ColorOf(std::int32_t index, std::int32_t variant) override;
-  void AddListener(std::function<void(std::string_view skin)> listener, TOwner owner) override;
+  void AddListener(TListener listener, TOwner owner) override;
   void RemoveListener(TOwner owner) override;
 
   std::size_t Listeners() const { return FListeners.Count(); }
@@ -93,4 +93,4 @@ class TStrictViews final : public TCustomViewService {
   std::vector<std::weak_ptr<forms::TDialogForm>> FForms;
 };
 
-}  // namespace algo::host
+}  // namespace algo::host::checks
