@@ -125,8 +125,8 @@ void TDayPlayer::MoveMarket(const TArguments& arguments) {
       if (!value.is_null()) change = AsText(field, value);
     }
   }
-  Open().desk.Host().SetMarket(arguments.Text("symbol"), arguments.IntegerOr("state", 1), changes, true,
-                               false);
+  Open().desk.Host().SetMarket(arguments.Text("symbol"), arguments.IntegerOr("state", 1), changes,
+                               TMarketNotice::Item);
 }
 
 void TDayPlayer::ChooseForOrder(const std::string& key, const char* deed) {

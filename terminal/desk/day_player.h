@@ -16,7 +16,7 @@
 #include "terminal/desk/main_window.h"
 #include "terminal/desk/screenshots.h"
 #include "terminal/drive/arguments.h"
-#include "terminal/ui_driver/widget_trader.h"
+#include "terminal/ui_driver/widget_input_player.h"
 
 namespace algo::terminal {
 
@@ -40,7 +40,7 @@ class TDayPlayer {
     QMetaObject::Connection dialogs;
     TMainWindow window;
     TDeskStage stage{window};
-    TWidgetTrader trader{stage};
+    TWidgetInputPlayer trader{stage};
   };
   using THandler = void (TDayPlayer::*)(const TArguments& arguments);
   struct TDeed;

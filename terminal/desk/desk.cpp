@@ -79,7 +79,7 @@ TDesk::TDesk(const TDeskOptions& options)
 
 TDesk::~TDesk() {
   FTimer.stop();
-  FModule->DropProvider();
+  FModule->DestroyProvider();
 }
 
 host::TInstanceHandle TDesk::OpenView() {
@@ -107,7 +107,7 @@ void TDesk::SetSkin(const TSkin& skin) {
   FSkin = &skin;
   ApplySkin(*qApp, skin);
   skin.FillInto(FHost.Data());
-  FHost.TellSkinChanged(skin.name);
+  FHost.NotifySkinChanged(skin.name);
   emit SkinChanged();
 }
 

@@ -42,7 +42,7 @@ class TDesk final : public QObject {
   TSqliteStorage& Keeper() { return FKeeper; }
   host::TIBaseView& Provider() { return FModule->Provider(); }
   const TMarketTables& Tables() const { return FTables; }
-  const TEditorAids& Aids() const { return FAids; }
+  const TEditorAssist& Aids() const { return FAids; }
   const TTexts& Texts() const { return FTexts; }
   const TSkin& Skin() const { return *FSkin; }
 

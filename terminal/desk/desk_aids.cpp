@@ -65,7 +65,7 @@ std::vector<TCompletion> TDeskAids::Completions(const forms::TTextEdit& editor,
 double TDeskAids::Stepped(const forms::TSpinEdit& editor, double value, std::int32_t steps) const {
   const auto served = FServed.find(&editor);
   const auto place = served == FServed.end() ? std::nullopt : FTables.IndexOf(served->second.symbol);
-  if (!place) return TEditorAids::Stepped(editor, value, steps);
+  if (!place) return TEditorAssist::Stepped(editor, value, steps);
   const TPaperInstrument& instrument = FTables.instruments[*place];
   if (served->second.kind == TEditorKind::Quantity) return SteppedByLot(value, instrument.lot, steps);
   // What is shown is the market's price times the multiplier; the ticks are the market's.

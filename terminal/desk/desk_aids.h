@@ -13,11 +13,11 @@
 #include "terminal/desk/texts.h"
 #include "terminal/host/memory_host.h"
 #include "terminal/paper/market_tables.h"
-#include "terminal/render/editor_aids.h"
+#include "terminal/render/editor_assist.h"
 
 namespace algo::terminal {
 
-class TDeskAids final : public QObject, public TEditorAids {
+class TDeskAids final : public QObject, public TEditorAssist {
   Q_OBJECT
  public:
   /// All of them outlive the object.

@@ -24,7 +24,7 @@ TFrameView& TDeskStage::ViewOf(const std::shared_ptr<forms::TFrame>& frame) {
   throw EError("the frame stands in no window");
 }
 
-QWidget& TDeskStage::RestOf(const TFrameView& /*view*/) const {
+QWidget& TDeskStage::FocusSinkOf(const TFrameView& /*view*/) const {
   return *FWindow.findChild<QWidget*>("marketTable");
 }
 

@@ -10,7 +10,7 @@
 
 namespace algo::terminal {
 
-TFormWindow::TFormWindow(forms::TDialogForm& form, TDeskEvents& events, const TEditorAids& aids,
+TFormWindow::TFormWindow(forms::TDialogForm& form, TDeskEvents& events, const TEditorAssist& aids,
                          QWidget* parent)
     : QDialog(parent),
       FEvents(events),

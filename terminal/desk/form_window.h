@@ -15,7 +15,7 @@ class TFormWindow final : public QDialog {
   Q_OBJECT
  public:
   /// Shows the form's frame in a client area of the form's size. The window does not keep the form.
-  TFormWindow(forms::TDialogForm& form, TDeskEvents& events, const TEditorAids& aids, QWidget* parent);
+  TFormWindow(forms::TDialogForm& form, TDeskEvents& events, const TEditorAssist& aids, QWidget* parent);
 
   /// Whether it shows that form.
   bool IsOf(const forms::TDialogForm& form) const { return FForm.lock().get() == &form; }

@@ -6,7 +6,7 @@
 
 namespace algo::terminal {
 
-TFormWindows::TFormWindows(TDeskEvents& events, const TEditorAids& aids, QWidget& parent)
+TFormWindows::TFormWindows(TDeskEvents& events, const TEditorAssist& aids, QWidget& parent)
     : FEvents(events), FAids(aids), FParent(parent) {
   connect(&events, &TDeskEvents::ModalFormCame, this,
           [this](forms::TDialogForm& form) { FEvents.Guard([&] { RunModal(form); }); });

@@ -16,7 +16,7 @@ class TFormWindows final : public QObject {
   Q_OBJECT
  public:
   /// All of them outlive the object. `parent` is what modal windows block and others stay in front of.
-  TFormWindows(TDeskEvents& events, const TEditorAids& aids, QWidget& parent);
+  TFormWindows(TDeskEvents& events, const TEditorAssist& aids, QWidget& parent);
   ~TFormWindows() override;
 
   /// Whether a modal form shows.
@@ -39,7 +39,7 @@ class TFormWindows final : public QObject {
   TFormWindow* Find(const forms::TDialogForm& form) const;
 
   TDeskEvents& FEvents;
-  const TEditorAids& FAids;
+  const TEditorAssist& FAids;
   QWidget& FParent;
   std::vector<std::pair<forms::TDialogForm*, TFormWindow*>> FModal;
   std::vector<QPointer<TFormWindow>> FOthers;

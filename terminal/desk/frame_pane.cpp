@@ -5,7 +5,7 @@
 
 namespace algo::terminal {
 
-TFramePane::TFramePane(const std::shared_ptr<forms::TFrame>& frame, const TEditorAids& aids)
+TFramePane::TFramePane(const std::shared_ptr<forms::TFrame>& frame, const TEditorAssist& aids)
     : FView(*new TFrameView(frame, aids)) {
   setObjectName("pane");
   FView.setObjectName("frame");

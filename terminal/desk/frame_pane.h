@@ -14,7 +14,7 @@ class TFramePane final : public QScrollArea {
   Q_OBJECT
  public:
   /// As for TFrameView.
-  TFramePane(const std::shared_ptr<forms::TFrame>& frame, const TEditorAids& aids);
+  TFramePane(const std::shared_ptr<forms::TFrame>& frame, const TEditorAssist& aids);
 
   TFrameView& View() { return FView; }
 

@@ -29,13 +29,13 @@ void TMainWindow::RestoreWorkspace(const TDeskOptions& options) {
   }
   ShowFirstWorkspace();
   if (!text) return;
-  FDesk.Keeper().KeepWorkspace(UnreadableName, *text);
+  FDesk.Keeper().StoreWorkspace(UnreadableName, *text);
   Tell(FDesk.Texts().Desk("Workspace.Unreadable"));
 }
 
 bool TMainWindow::SaveWorkspace() {
   return FDesk.Events().Guard(
-      [this] { FDesk.Keeper().KeepWorkspace(WorkspaceName, WorkspaceText(Current())); });
+      [this] { FDesk.Keeper().StoreWorkspace(WorkspaceName, WorkspaceText(Current())); });
 }
 
 void TMainWindow::PlacePanels() {

@@ -102,7 +102,7 @@ bool TSettingsPage::Apply() {
       anyStored = true;
     }
   });
-  const bool told = !anyStored || Guarded([&] { FHost.TellConfigChanged(); });
+  const bool told = !anyStored || Guarded([&] { FHost.NotifyConfigChanged(); });
   ShowWhetherChanged();
   return stored && told;
 }

@@ -91,7 +91,7 @@ const TSkin* SkinNamed(std::string_view name);
 QPalette PaletteOf(const TSkin& skin);
 
 /// Shows the whole application in the skin, windows that are open already as well. The module is told by
-/// whoever runs the host (TMemoryHost::TellSkinChanged).
+/// whoever runs the host (TMemoryHost::NotifySkinChanged).
 void ApplySkin(QApplication& application, const TSkin& skin);
 
 }  // namespace algo::terminal

@@ -31,7 +31,9 @@ TMarketTables SampleTables() {
 }
 
 struct TMarketTest : testing::Test {
-  void Publish(const char* symbol, TFieldChanges changes) { host.SetMarket(symbol, 1, changes, true, false); }
+  void Publish(const char* symbol, TFieldChanges changes) {
+    host.SetMarket(symbol, 1, changes, TMarketNotice::Item);
+  }
   QString Cell(int row, int column) { return model.index(row, column).data().toString(); }
 
   TMarketTables tables = SampleTables();

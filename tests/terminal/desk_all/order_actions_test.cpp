@@ -24,7 +24,7 @@ struct TOrderActionsTest : TDeskTest {
     order.algoFlags = 0x8000;
     order.SetNamedText("Original", "AlgoEntry");
     order.SetTextProperty(440, "TMLO:AlgoId=TVOL,VolPct=20,Closing=0;");
-    desk->Host().Ledger().Record({"test", "new", "accepted"}, order);
+    desk->Host().Journal().Record({"test", "new", "accepted"}, order);
   }
 
   host::TCustomClientOrder& Order(const char* key) { return *desk->Host().Orders().Find(key); }
@@ -74,7 +74,7 @@ TEST_F(TOrderActionsTest, WhatIsFilledWhileADialogShowsIsNotLost) {
     auto filled = Order("N1");
     filled.filled = 800;
     filled.status = 2;
-    desk->Host().Ledger().Record({"test", "fill", "800"}, filled);
+    desk->Host().Journal().Record({"test", "fill", "800"}, filled);
     Type(FrameIn(dialog), "edtQty", "2000");
     Click(Input(FrameIn(dialog), "btnBuy"));
   });
@@ -98,7 +98,7 @@ TEST_F(TOrderActionsTest, AChangeThatIsGivenUpLeavesTheOrder) {
 struct TBesideTest : TOrderActionsTest {
   TBesideTest() {
     // The module goes by the setting that it finds when it is loaded.
-    TSqliteStorage(options.dataFolder + "/algo-desk.db").KeepSetting("USER", "ChangeOrderShowModel", "N");
+    TSqliteStorage(options.dataFolder + "/algo-desk.db").StoreSetting("USER", "ChangeOrderShowModel", "N");
     Open();
     Put("N1");
     Put("N2");
@@ -252,7 +252,7 @@ TEST_F(TOrderActionsTest, AnOrderThatLeftTheListWhileItsMenuWasOpenIsLeftAlone) 
   auto filled = Order("N1");
   filled.filled = 4000;
   filled.status = 3;
-  desk->Host().Ledger().Record({"test", "fill", "4000"}, filled);
+  desk->Host().Journal().Record({"test", "fill", "4000"}, filled);
   The<QAction>("cancelOrder").trigger();
   EXPECT_EQ(Order("N1").status, 3);
   EXPECT_EQ(desk->Keeper().EventsOf("N1").back().event.what, "fill");

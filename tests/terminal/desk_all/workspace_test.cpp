@@ -43,7 +43,7 @@ TEST(Workspace, IsNotReadFromABrokenText) {
 
 struct TWorkspaceTest : TDeskTest {
   void KeepText(const char* text) {
-    TSqliteStorage(options.dataFolder + "/algo-desk.db").KeepWorkspace("default", text);
+    TSqliteStorage(options.dataFolder + "/algo-desk.db").StoreWorkspace("default", text);
   }
 };
 

@@ -189,7 +189,7 @@ TEST_F(SettingsPage, ASettingThatCannotBeStoredIsToldAndStaysToBeApplied) {
 class TKeeperWithout final : public TOrderStorage {
  public:
   explicit TKeeperWithout(std::string_view key) : FKey(key) {}
-  void KeepSetting(std::string_view /*section*/, std::string_view key, std::string_view /*value*/) override {
+  void StoreSetting(std::string_view /*section*/, std::string_view key, std::string_view /*value*/) override {
     if (key == FKey) throw EError("The disk is full. Free some space and try again.");
   }
 
