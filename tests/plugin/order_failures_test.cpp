@@ -27,7 +27,7 @@ class OrderFailures : public TOrderDialogTest {
   void StartAnew(bool beside) {
     DestroyProvider();
     Data().config["USER"]["ChangeOrderShowModel"] = beside ? "N" : "Y";
-    Host().SetMarket("0005", 0, {}, false, false);
+    Host().SetMarket("0005", 0, {}, terminal::TMarketNotice::None);
     Provider();
     Forget();
   }
