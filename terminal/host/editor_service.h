@@ -1,7 +1,8 @@
 #pragma once
 
-// The shared field editors: how the account and the symbol editor react to being left. Prices and quantities
-// are not stepped here, since nobody holds a mouse; which symbol they serve is told as an event.
+// The shared field editors: how the account and the symbol editor react to being left, and along which grid
+// the prices and quantities of a symbol step, if the host has been given one. Which symbol they serve is told
+// as an event too.
 
 #include <cstdint>
 #include <functional>

@@ -9,8 +9,4 @@ std::vector<TCompletion> TEditorAids::Completions(const forms::TTextEdit& /*edit
   return {};
 }
 
-double TEditorAids::Stepped(const forms::TSpinEdit& editor, double value, std::int32_t steps) const {
-  return value + steps * editor.Step();
-}
-
 }  // namespace algo::terminal

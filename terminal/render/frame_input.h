@@ -4,6 +4,7 @@
 // one.
 
 #include <QString>
+#include <chrono>
 #include <memory>
 
 #include "forms/frame.h"
@@ -18,8 +19,8 @@ class TFrameInput {
   /// The frame, or nullptr when it has gone; then none of its controls may be touched.
   std::shared_ptr<forms::TFrame> Frame() const { return FFrame.lock(); }
 
-  /// Lets go of a frame that goes.
-  void LetGo() { FFrame.reset(); }
+  /// Releases a frame that is being destroyed.
+  void Release() { FFrame.reset(); }
 
   /// See the operations of the same names of TFrame. False when the frame has gone or did not take the input.
   bool Typed(forms::TControl& control, const QString& text) const {
@@ -34,8 +35,14 @@ class TFrameInput {
   bool Enter(forms::TControl& control) const {
     return Send([&](forms::TFrame& frame) { return frame.InputEnter(control); });
   }
-  bool Focus(forms::TControl& control) const {
-    return Send([&](forms::TFrame& frame) { return frame.InputFocus(control); });
+  bool Step(forms::TControl& control, int steps) const {
+    return Send([&](forms::TFrame& frame) { return frame.InputStep(control, steps); });
+  }
+  bool PickDay(forms::TControl& control, std::chrono::local_days day) const {
+    return Send([&](forms::TFrame& frame) { return frame.InputPickDay(control, day); });
+  }
+  bool Focus(forms::TControl& control, forms::TFocusCause cause) const {
+    return Send([&](forms::TFrame& frame) { return frame.InputFocus(control, cause); });
   }
   void Leave() const {
     if (const auto frame = FFrame.lock()) frame->InputLeave();

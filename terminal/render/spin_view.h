@@ -11,7 +11,7 @@ namespace algo::terminal {
 
 class TSpinView final : public TControlView {
  public:
-  TSpinView(forms::TSpinEdit& control, const TFrameInput& input, const TEditorAids& aids, QWidget& parent);
+  TSpinView(forms::TSpinEdit& control, const TFrameInput& input, QWidget& parent);
 
   QWidget& Widget() const override;
   QString ShownText() const override;

@@ -62,25 +62,25 @@ TEST_F(TRendererInput, TypingNeedsAnEditorThatTakesInput) {
   EXPECT_EQ(line.Text(), "");
 }
 
-TEST_F(TRendererInput, TheFocusComesByKeyWithoutAClick) {
-  frame->InputFocus(line);
+TEST_F(TRendererInput, TheFocusComesWithoutAClick) {
+  frame->InputFocus(line, TFocusCause::Other);
   notes.clear();
-  EXPECT_EQ(frame->InputFocus(number), TInputResult::Taken);
+  EXPECT_EQ(frame->InputFocus(number, TFocusCause::Other), TInputResult::Taken);
   EXPECT_TRUE(number.Focused());
   EXPECT_EQ(notes, (TNotes{"line left"}));
   number.SetEnabled(false);
-  EXPECT_EQ(frame->InputFocus(number), TInputResult::Disabled);
+  EXPECT_EQ(frame->InputFocus(number, TFocusCause::Other), TInputResult::Disabled);
 }
 
 struct TGoneNote final : TFrameObserver {
   void ControlChanged(const TControl& /*control*/) override {}
   void LayoutChanged() override {}
   void FocusChanged() override {}
-  void FrameGone() override { ++gone; }
+  void FrameDestroyed() override { ++gone; }
   int gone = 0;
 };
 
-TEST_F(TRendererInput, AnObserverIsToldWhenTheFrameGoes) {
+TEST_F(TRendererInput, AnObserverIsNotifiedWhenTheFrameIsDestroyed) {
   TGoneNote stays;
   TGoneNote left;
   frame->AddObserver(stays);
@@ -89,13 +89,6 @@ TEST_F(TRendererInput, AnObserverIsToldWhenTheFrameGoes) {
   frame.reset();
   EXPECT_EQ(stays.gone, 1);
   EXPECT_EQ(left.gone, 0);
-}
-
-TEST_F(TRendererInput, ADateKeepsTheTimeOfAPickedDayWhereItIsToldTo) {
-  auto& date = frame->Place<TDateEdit>("date");
-  EXPECT_FALSE(date.PickKeepsTime());
-  date.SetPickKeepsTime(true);
-  EXPECT_TRUE(date.PickKeepsTime());
 }
 
 }  // namespace

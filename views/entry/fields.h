@@ -10,7 +10,7 @@
 #include <span>
 #include <string_view>
 
-#include "forms/editors.h"
+#include "forms/spin_edit.h"
 #include "forms/layout.h"
 #include "model/parameters.h"
 
