@@ -2,8 +2,8 @@
 
 // The terminal's shared field editors: what looks up accounts and symbols, and steps prices and quantities by
 // the instrument's tick and lot. A module registers its own controls; the host attaches its behaviour to them
-// and puts its reaction to leaving the control into TControl::SetHostEditor, the grid that it steps along into
-// TSpinEdit::SetStepGrid.
+// and puts its reaction to leaving the control into TControl::SetHostEditor, the grid that it steps along
+// into TSpinEdit::SetStepGrid.
 
 #include <cstdint>
 #include <string_view>

@@ -72,17 +72,27 @@ TEST_F(TRendererInput, TheFocusComesWithoutAClick) {
   EXPECT_EQ(frame->InputFocus(number, TFocusCause::Other), TInputResult::Disabled);
 }
 
-struct TGoneNote final : TFrameObserver {
-  void ControlChanged(const TControl& /*control*/) override {}
+struct TCounts final : TFrameObserver {
+  void ControlChanged(const TControl& /*control*/) override { ++changes; }
   void LayoutChanged() override {}
   void FocusChanged() override {}
   void FrameDestroyed() override { ++gone; }
+  int changes = 0;
   int gone = 0;
 };
 
+TEST_F(TRendererInput, ATypedNumberIsShownOnceHoweverLongItIs) {
+  frame->InputFocus(number, TFocusCause::Other);
+  TCounts counts;
+  frame->AddObserver(counts);
+  frame->InputText(number, std::string(160000, '1'));
+  EXPECT_EQ(counts.changes, 1);
+  frame->RemoveObserver(counts);
+}
+
 TEST_F(TRendererInput, AnObserverIsNotifiedWhenTheFrameIsDestroyed) {
-  TGoneNote stays;
-  TGoneNote left;
+  TCounts stays;
+  TCounts left;
   frame->AddObserver(stays);
   frame->AddObserver(left);
   frame->RemoveObserver(left);
