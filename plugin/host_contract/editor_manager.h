@@ -2,12 +2,14 @@
 
 // The terminal's shared field editors: what looks up accounts and symbols, and steps prices and quantities by
 // the instrument's tick and lot. A module registers its own controls; the host attaches its behaviour to them
-// and puts its reaction to leaving the control into TControl::SetHostEditor.
+// and puts its reaction to leaving the control into TControl::SetHostEditor, the grid that it steps along
+// into TSpinEdit::SetStepGrid.
 
 #include <cstdint>
 #include <string_view>
 
-#include "forms/editors.h"
+#include "forms/spin_edit.h"
+#include "forms/text_edit.h"
 #include "plugin/host_contract/service.h"
 
 namespace algo::host {

@@ -8,7 +8,8 @@
 #include <cstdint>
 #include <string_view>
 
-#include "forms/editors.h"
+#include "forms/spin_edit.h"
+#include "forms/text_edit.h"
 #include "plugin/host_contract/channel_manager.h"
 #include "plugin/host_contract/config_manager.h"
 #include "plugin/host_contract/look_and_feel_service.h"

@@ -9,6 +9,7 @@
 
 #include "terminal/desk/market_lists.h"
 #include "terminal/desk/sample_user.h"
+#include "terminal/desk/step_grids.h"
 #include "terminal/paper/generated_prices.h"
 #include "terminal/paper/recorded_prices.h"
 #include "terminal/render/qt_text.h"
@@ -64,6 +65,7 @@ TDesk::TDesk(const TDeskOptions& options)
   FillSampleUser(FHost.Data());
   FillFirstSettings(FHost.Data());
   FillMarketLists(FHost.Data(), FTables);
+  FillStepGrids(FHost.Data(), FTables);
   FTexts.FillInto(FHost.Data());
   FKeeper.LoadInto(FHost.Data(), FHost.Orders());
   if (options.prepare) options.prepare(FHost.Data());

@@ -1,11 +1,9 @@
 #pragma once
 
-// How the desktop helps the trader type: which accounts and symbols may be meant, and by how much prices and
-// quantities step.
+// How the desktop helps the trader type: which accounts and symbols may be meant.
 
 #include <QObject>
 #include <map>
-#include <string>
 #include <string_view>
 #include <vector>
 
@@ -27,22 +25,13 @@ class TDeskAids final : public QObject, public TEditorAssist {
   /// instrument too.
   std::vector<TCompletion> Completions(const forms::TTextEdit& editor, std::string_view typed) const override;
 
-  /// By the tick of the instrument's spread table or by its lot, onto the grid of those. Other editors, and
-  /// those whose instrument is not known, go by their own step.
-  double Stepped(const forms::TSpinEdit& editor, double value, std::int32_t steps) const override;
-
  private:
-  struct TServed {
-    TEditorKind kind;
-    std::string symbol;
-  };
-
   std::vector<TCompletion> Known(TEditorKind kind) const;
 
   TMemoryHost& FHost;
   const TMarketTables& FTables;
   const TTexts& FTexts;
-  std::map<const forms::TControl*, TServed> FServed;
+  std::map<const forms::TControl*, TEditorKind> FServed;
 };
 
 }  // namespace algo::terminal

@@ -13,10 +13,6 @@ void TDeskEvents::ViewNotified(const host::TViewFrame& view, std::int32_t code) 
   if (code == host::ViewChanged) emit ViewChanged(view);
 }
 
-void TDeskEvents::EditorSymbolSet(TEditorKind kind, const forms::TControl& control, std::string_view symbol) {
-  emit EditorTold(kind, control, std::string(symbol));
-}
-
 void TDeskEvents::EditorRegistered(TEditorKind kind, const forms::TControl& control,
                                    std::string_view /*groupId*/) {
   emit EditorCame(kind, control);

@@ -33,7 +33,6 @@ class TDeskEvents final : public QObject, public THostEvents {
   void MessageShown(std::string_view text) override;
   void ErrorCodeShown(std::string_view code) override;
   void ViewNotified(const host::TViewFrame& view, std::int32_t code) override;
-  void EditorSymbolSet(TEditorKind kind, const forms::TControl& control, std::string_view symbol) override;
   void EditorRegistered(TEditorKind kind, const forms::TControl& control, std::string_view groupId) override;
   void EditorRemoved(TEditorKind kind, const forms::TControl& control) override;
   void FormShown(forms::TDialogForm& form) override;
@@ -43,6 +42,8 @@ class TDeskEvents final : public QObject, public THostEvents {
   void RunModal(forms::TDialogForm& form) override;
 
   // The desktop shows nothing of these.
+  void EditorSymbolSet(TEditorKind /*kind*/, const forms::TControl& /*control*/,
+                       std::string_view /*symbol*/) override {}
   void ActionTaken(const host::TCustomClientOrder& /*order*/, host::TOrderAction /*action*/,
                    std::int32_t /*argument*/, bool /*answer*/) override {}
   void Posted(std::int32_t /*channel*/, const host::TChannelRecord& /*record*/) override {}
@@ -56,7 +57,6 @@ class TDeskEvents final : public QObject, public THostEvents {
   void MessageTold(const QString& text);
   void ErrorCodeTold(const QString& code);
   void ViewChanged(const host::TViewFrame& view);
-  void EditorTold(TEditorKind kind, const forms::TControl& control, const std::string& symbol);
   void EditorCame(TEditorKind kind, const forms::TControl& control);
   void EditorWent(const forms::TControl& control);
   void FormCame(forms::TDialogForm& form);

@@ -12,8 +12,8 @@
 #include <span>
 #include <string_view>
 
-#include "forms/editors.h"
 #include "forms/layout.h"
+#include "forms/spin_edit.h"
 #include "model/parameters.h"
 
 namespace algo::views {

@@ -35,6 +35,33 @@ TEST_F(TShownForm, TabGoesFromFieldToFieldAndLeavesThem) {
   EXPECT_TRUE(frame->account.Focused());
 }
 
+TEST_F(TShownForm, TabGoesTheWayOfTheForm) {
+  const auto expectTabsFrom = [this](const forms::TControl* control) {
+    int visited = 0;
+    GoTo(*control);
+    while (const auto* next = frame->Layout().NextInTabOrder(control, forms::TTabDirection::Forward)) {
+      QTest::keyClick(&Input(*control), Qt::Key_Tab);
+      EXPECT_TRUE(next->Focused()) << next->Name();
+      control = next;
+      ++visited;
+    }
+    return visited;
+  };
+  frame->button.SetEnabled(false);
+  EXPECT_EQ(expectTabsFrom(&frame->account), 6);
+  frame->Layout().Move(*frame->account.Item(), frame->inner);
+  frame->Layout().Move(*frame->quantity.Item(), frame->top);
+  EXPECT_EQ(expectTabsFrom(&frame->kind), 6);
+  EXPECT_TRUE(frame->account.Focused());
+}
+
+TEST_F(TShownForm, TheFirstFieldThatTakesInputIsTheFormsFirst) {
+  frame->Layout().Move(*frame->account.Item(), frame->inner);
+  frame->quantity.SetReadOnly(true);
+  view->FocusFirst();
+  EXPECT_TRUE(frame->kind.Focused());
+}
+
 TEST_F(TShownForm, EnterGoesWhereTheFormSendsIt) {
   frame->account.OnEnterKey = [this] { frame->SetFocus(&frame->start); };
   GoTo(frame->account);
