@@ -78,6 +78,7 @@ void TSession::Load() {
   const std::string setting = FHost.Data().Setting(FHost.Data().section, "ChangeOrderShowModel");
   FChangesAreModal = !setting.starts_with('n') && !setting.starts_with('N');
   FModule.emplace(FModuleFile, this);
+  FModule->Watch([this](auto provider) { return FStrict.Watch(std::move(provider)); });
 }
 
 host::checks::TLeftBehind TSession::Unload() {

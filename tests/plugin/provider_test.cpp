@@ -58,6 +58,24 @@ TEST_F(ProviderTest, GivesNewInstancesACaptionAndLeavesTheirSizeToTheHost) {
   EXPECT_FALSE(Provider().GetIsWindow());
 }
 
+TEST_F(ProviderTest, OpensPanelsWithoutDecorationsAndHasNoShortcuts) {
+  auto& provider = Provider();
+  const auto instance = provider.OpenNewInstance();
+  provider.InitializeShortcut();
+  EXPECT_FALSE(provider.GetIsDialog());
+  EXPECT_TRUE(provider.GetIsSizeable());
+  EXPECT_TRUE(provider.GetCanDock());
+  EXPECT_EQ(provider.GetDockPosition(), host::TDockPosition::HostsChoice);
+  EXPECT_EQ(provider.GetPreferenceView(), nullptr);
+  EXPECT_FALSE(provider.GetIsDialogViewAfterMainShow());
+  EXPECT_TRUE(provider.GetShortCutList().empty());
+  EXPECT_EQ(provider.GetViewCaption(instance), "");
+  EXPECT_TRUE(provider.GetViewCaptionButtons(instance).empty());
+  EXPECT_EQ(provider.GetViewIcon(instance), host::TImage());
+  EXPECT_FALSE(provider.SetCustomData(instance, "data"));
+  EXPECT_FALSE(provider.SendMessage(instance, 1, "text"));
+}
+
 TEST_F(ProviderTest, IsVisibleToUsersWithTheRightAlone) {
   EXPECT_TRUE(Provider().GetIsVisible());
   Data().rights.erase("AlgoTabOrderEntry");

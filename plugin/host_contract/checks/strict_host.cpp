@@ -6,6 +6,7 @@
 #include "plugin/host_contract/checks/strict_editors.h"
 #include "plugin/host_contract/checks/strict_market.h"
 #include "plugin/host_contract/checks/strict_orders.h"
+#include "plugin/host_contract/checks/strict_provider.h"
 #include "plugin/host_contract/checks/strict_views.h"
 #include "plugin/host_contract/checks/violations.h"
 #include "plugin/host_contract/installed_service.h"
@@ -62,6 +63,11 @@ TStrictHost::~TStrictHost() = default;
 
 void TStrictHost::OnViolation(TViolationHandler handler) {
   FServices->violations.SetHandler(std::move(handler));
+}
+
+std::unique_ptr<TIBaseView> TStrictHost::Watch(std::unique_ptr<TIBaseView> provider) const {
+  if (!provider) return nullptr;
+  return std::make_unique<TStrictProvider>(std::move(provider), FServices->violations);
 }
 
 TLeftBehind TStrictHost::LeftBehind() const {

@@ -1,8 +1,8 @@
 #pragma once
 
 // The contract as something that runs: a layer around the services of any host that passes every call on and
-// stops the module at the first one that the contract forbids. It also keeps a register of what the module
-// has registered and not taken back.
+// stops the module at the first one that the contract forbids, and one around the module's provider that does
+// the same to the host. It also keeps a register of what the module has registered and not taken back.
 
 #include <cstddef>
 #include <functional>
@@ -10,6 +10,7 @@
 #include <string>
 
 #include "forms/export.h"
+#include "plugin/host_contract/base_view.h"
 
 namespace algo::host::checks {
 
@@ -42,6 +43,10 @@ class ALGO_SHARED TStrictHost {
   /// Puts `handler` in place of the one that writes the line to standard error and aborts. A call that is a
   /// violation does not reach the wrapped service and leaves the register as it was.
   void OnViolation(TViolationHandler handler);
+
+  /// Puts a layer around `provider`, through which the host calls it from now on; nullptr stays nullptr. The
+  /// strict host outlives it.
+  std::unique_ptr<TIBaseView> Watch(std::unique_ptr<TIBaseView> provider) const;
 
   /// What is registered now.
   TLeftBehind LeftBehind() const;

@@ -10,7 +10,7 @@ struct TSampleView final : TViewFrame {
   TSampleView() : TViewFrame("TSampleView", "layout") {}
 };
 
-class TSampleProvider final : public TIBaseView {
+class TSampleProvider : public TIBaseView {
  public:
   TSampleProvider() : TIBaseView(nullptr) {}
 

@@ -12,31 +12,14 @@
 #include "plugin/host_contract/order_action_manager.h"
 #include "plugin/host_contract/order_adapter.h"
 #include "plugin/host_contract/view_functions.h"
+#include "tests/plugin/host_contract/checks/objection.h"
 #include "tests/terminal/host/sample_view.h"
 
 namespace algo::host::checks::tests {
 namespace {
 
-class EViolation : public EError {
- public:
-  using EError::EError;
-};
-
-/// What the strict host says about the call; empty when it lets it pass.
-template <class TCall>
-std::string Objection(TCall&& call) {
-  try {
-    call();
-  } catch (const EViolation& violation) {
-    return violation.what();
-  }
-  return {};
-}
-
 struct TStrictHostTest : testing::Test {
-  TStrictHostTest() {
-    strict.OnViolation([](const std::string& what) { throw EViolation(what); });
-  }
+  TStrictHostTest() { ThrowViolations(strict); }
 
   TNullHost null;
   TStrictHost strict;
