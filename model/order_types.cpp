@@ -17,7 +17,7 @@ using enum TPriceTold;
 
 // Orders at auction share one bit; whether they carry a price tells AO from ALO.
 // clang-format off
-constexpr std::array<TOrderTypeRow, 10> Rows{{
+constexpr auto Rows = std::to_array<TOrderTypeRow>({
     {"LO", "", "Res_OrderType_Limit", true, None, 0},
     {.code = "MO", .right = "OEMarketOrder", .resourceId = "Res_OrderType_Market", .keepsPrice = false,
      .word = OrderType, .bits = host::flags::Market, .marketChildren = true},
@@ -31,7 +31,7 @@ constexpr std::array<TOrderTypeRow, 10> Rows{{
     {"MOO", "OEMarketOnOpen", "Res_OrderType_MOO", false, Auction, host::flags::MarketAtOpen},
     {"MOC", "OEMarketOnClose", "Res_OrderType_MOC", false, Auction, host::flags::MarketAtClose},
     {"LOC", "OELOC", "Res_OrderType_LOC", true, Auction, host::flags::LimitAtClose},
-}};
+});
 // clang-format on
 
 constexpr bool RowsAreSound() {

@@ -52,14 +52,14 @@ std::optional<bool> Ask(const TQuestion<TFrame>& question, const THostedFrame<TF
                         host::TCustomClientOrder& order) {
   const auto [form, frame] = dialog;  // copies, because the provider may go meanwhile
   if (form->Showing()) return std::nullopt;
-  const views::TOrderLoad load(*frame);
+  const views::change::TOrderLoad load(*frame);
   (*frame.*question.load)(&order);
   if (!SaysOk(*form, *frame, question.captionId)) return std::nullopt;
   return TakeAction(order, question.action);
 }
 
-using TChangeFrame = views::TAlgoOrderChangeFrame;
-using TWorkFrame = views::TAlgoWorkOrderFrame;
+using TChangeFrame = views::change::TAlgoOrderChangeFrame;
+using TWorkFrame = views::work::TAlgoWorkOrderFrame;
 using enum host::TOrderAction;
 
 constexpr TQuestion<TChangeFrame> AskNew{&TChangeFrame::AddOrder, "Res_Conf_Caption", New};
@@ -73,7 +73,7 @@ void TIAlgoEntryOrder::TakeOrderAction(const void* /*sender*/, host::TChannelRec
   if (action == nullptr) return;
   auto* order = dynamic_cast<host::TCustomClientOrder*>(action->order);
   // Orders from elsewhere are left to whoever else listens.
-  if (order == nullptr || order->NamedText(host::OriginalProperty) != views::AlgoEntryOrigin) return;
+  if (order == nullptr || order->NamedText(host::OriginalProperty) != views::entry::AlgoEntryOrigin) return;
   switch (static_cast<host::TOrderAction>(action->action)) {
     case New:
       return AddOrder(*order, *action);

@@ -20,7 +20,7 @@ struct TMenuRow {
   std::string_view captionId;
 };
 constexpr TMenuRow MenuRows[] = {{101, 1100, "Res_Order"},
-                                 {views::AlgoEntryViewID, 1750, "Res_AlgoOrderEntry"}};
+                                 {views::entry::AlgoEntryViewID, 1750, "Res_AlgoOrderEntry"}};
 constexpr TMenuRow NoMenuRow{-1, 0, {}};
 
 const TMenuRow& MenuRow(std::int32_t level) { return level == 0 || level == 1 ? MenuRows[level] : NoMenuRow; }
@@ -51,9 +51,11 @@ TIAlgoEntryOrder::~TIAlgoEntryOrder() {
   views::AtBoundary([this] { CloseAllInstances(); });
 }
 
-std::string TIAlgoEntryOrder::GetName() { return "AlgoOrderEntry_" + std::to_string(views::AlgoEntryViewID); }
+std::string TIAlgoEntryOrder::GetName() {
+  return "AlgoOrderEntry_" + std::to_string(views::entry::AlgoEntryViewID);
+}
 
-std::int32_t TIAlgoEntryOrder::GetViewID() { return views::AlgoEntryViewID; }
+std::int32_t TIAlgoEntryOrder::GetViewID() { return views::entry::AlgoEntryViewID; }
 
 std::int32_t TIAlgoEntryOrder::GetMenuLevel() { return 2; }
 
@@ -86,7 +88,7 @@ bool TIAlgoEntryOrder::GetDefaultSize(std::int32_t& /*width*/, std::int32_t& /*h
 
 host::TInstanceHandle TIAlgoEntryOrder::OpenNewInstance() {
   return views::AtBoundary(host::TInstanceHandle{0}, [this] {
-    auto frame = std::make_shared<views::TAlgoOrderEntryFrame>();
+    auto frame = std::make_shared<views::entry::TAlgoOrderEntryFrame>();
     const host::TInstanceHandle handle = host::HandleOf(*frame);
     AddView(std::move(frame));
     return handle;

@@ -59,9 +59,9 @@ class TIAlgoEntryOrder : public host::TIBaseView {
   void OnCloseView(forms::TDialogForm& sender, forms::TCloseAction& action);
   void WorkOrderAlgoTypeChange();
 
-  THostedFrame<views::TAlgoOrderChangeFrame> FChange;
-  THostedFrame<views::TAlgoWorkOrderFrame> FWork;
-  std::map<std::string, THostedFrame<views::TAlgoOrderChangeFrame>>
+  THostedFrame<views::change::TAlgoOrderChangeFrame> FChange;
+  THostedFrame<views::work::TAlgoWorkOrderFrame> FWork;
+  std::map<std::string, THostedFrame<views::change::TAlgoOrderChangeFrame>>
       FOpenChanges;  ///< non-modal forms by order key
   bool FShowChangeModally = true;
   host::TRegistration FListening;  ///< to the order actions

@@ -61,8 +61,7 @@ constexpr TExpected AllParameters[] = {
 };
 
 TEST(Parameters, HaveTheirKeyControlAndKind) {
-  ASSERT_EQ(ParamRows().size(), 37U);
-  ASSERT_EQ(std::size(AllParameters), 37U);
+  ASSERT_EQ(ParamRows().size(), std::size(AllParameters));
   for (const TExpected& expected : AllParameters) {
     const TParamRow& row = ParamRow(expected.param);
     EXPECT_EQ(row.param, expected.param) << expected.key;

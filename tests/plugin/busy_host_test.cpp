@@ -134,7 +134,7 @@ TEST_F(BusyHost, AFormThatGoesTakesNoMoreNotifications) {
   TCustomClientOrder order = OrderWith("TMLO:AlgoId=TVOL;");
   const auto form = OpenChange(order);
   auto& frame = FrameIn(*form);
-  EXPECT_TRUE(frame.Check(views::TField::cbPopup).Checked());
+  EXPECT_TRUE(frame.Check(views::entry::TField::cbPopup).Checked());
   Data().config["USER"]["ConfirmationPlaceOrd"] = "Y";
   Forget();
   int removed = 0;
@@ -154,7 +154,7 @@ TEST_F(BusyHost, AFormThatGoesTakesNoMoreNotifications) {
   form->Close();
   FOnEditorRemoved = nullptr;
   EXPECT_EQ(removed, 13);
-  EXPECT_TRUE(frame.Check(views::TField::cbPopup).Checked());
+  EXPECT_TRUE(frame.Check(views::entry::TField::cbPopup).Checked());
   EXPECT_EQ(Named(frame, "edtSymbol").Text(), "0005");
   EXPECT_TRUE(Seen("view_notify").empty());
   EXPECT_TRUE(Seen("take_action").empty());

@@ -13,7 +13,7 @@ namespace algo::tests {
 namespace {
 
 using TTexts = std::vector<std::string>;
-using views::TField;
+using views::entry::TField;
 
 class ClosingTest : public TTerminalTest {
  protected:

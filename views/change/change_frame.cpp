@@ -10,9 +10,10 @@
 #include "text/number_text.h"
 #include "views/entry/price_multiplier.h"
 
-namespace algo::views {
+namespace algo::views::change {
 
-TAlgoOrderChangeFrame::TAlgoOrderChangeFrame(const TFramePurpose& purpose) : TAlgoOrderEntryFrame(purpose) {
+TAlgoOrderChangeFrame::TAlgoOrderChangeFrame(const entry::TFramePurpose& purpose)
+    : TAlgoOrderEntryFrame(purpose) {
   for (const model::TAlgoRow& row : model::AlgoRows()) FOrderConstList.emplace_back(row.code);
 }
 
@@ -72,7 +73,7 @@ void TAlgoOrderChangeFrame::SubmitChange() {
   const auto quantity = static_cast<double>(text::TruncateToWhole(Spin(TField::edtQty).Value().value_or(0)));
   const host::TMarketDataItem* item =
       host::TCustomSubscribeAdapter::GetInstance().Subscribe(FMyOrder->symbol, host::PriceDataSet, false);
-  const double price = PriceForOrder(Spin(TField::edtPrice).Value().value_or(0), item);
+  const double price = entry::PriceForOrder(Spin(TField::edtPrice).Value().value_or(0), item);
   if (!GetWorkOrder(*FMyOrder)) SetOrderAlgo(*FMyOrder);
   SetOrderType(*FMyOrder);
   FMyOrder->quantity = quantity;
@@ -92,4 +93,4 @@ void TAlgoOrderChangeFrame::cbPopupClick() {
   if (FOrderOperatorMode == TOperatorMode::Add) TAlgoOrderEntryFrame::cbPopupClick();
 }
 
-}  // namespace algo::views
+}  // namespace algo::views::change

@@ -10,14 +10,19 @@
 #include "plugin/host_contract/order_adapter.h"
 #include "views/entry/entry_frame.h"
 
-namespace algo::views {
+namespace algo::views::change {
+
+// The frame speaks of the entry form's own controls.
+using entry::TAlgoOrderEntryFrame;
+using entry::TField;
+using entry::TGroup;
 
 /// What the loaded order is to be used for.
 enum class TOperatorMode : std::int32_t { Add = 0, Change = 1, Work = 2 };
 
 class TAlgoOrderChangeFrame : public TAlgoOrderEntryFrame {
  public:
-  explicit TAlgoOrderChangeFrame(const TFramePurpose& purpose = ChangePurpose);
+  explicit TAlgoOrderChangeFrame(const entry::TFramePurpose& purpose = entry::ChangePurpose);
 
   /// Says whether the frame sits in a dialog that waits for the answer. If it does not, the frame owns a copy
   /// of the order that it changes, sends the change itself and closes its form.
@@ -85,4 +90,4 @@ class TOrderLoad {
   TAlgoOrderChangeFrame& FFrame;
 };
 
-}  // namespace algo::views
+}  // namespace algo::views::change

@@ -10,7 +10,7 @@
 #include "views/entry/field_lists.h"
 #include "views/entry/price_multiplier.h"
 
-namespace algo::views {
+namespace algo::views::change {
 
 bool TAlgoOrderChangeFrame::PriceMayBeSet(const host::TCustomOrder& order) {
   return model::PriceMayBeSet(order.orderTypeFlags, order.auctionFlags, order.price);
@@ -19,7 +19,7 @@ bool TAlgoOrderChangeFrame::PriceMayBeSet(const host::TCustomOrder& order) {
 void TAlgoOrderChangeFrame::InitializeViewbyOrder(host::TCustomClientOrder& order) {
   const forms::TLayoutUpdate update(Layout());
   auto& editors = host::TEditorManager::GetInstance();
-  for (const TField field : PriceEditors) editors.SetPriceSymbol(Spin(field), order.symbol);
+  for (const TField field : entry::PriceEditors) editors.SetPriceSymbol(Spin(field), order.symbol);
   // Only looked at: the frame follows no symbol of its own.
   const host::TMarketDataItem* item =
       host::TCustomSubscribeAdapter::GetInstance().Subscribe(order.symbol, host::PriceDataSet, false);
@@ -50,7 +50,7 @@ void TAlgoOrderChangeFrame::ShowIdentity(const host::TCustomClientOrder& order,
   Control(TField::cbLockMOrder).SetEnabled(false);
   // After the order type, whose choice decides about the price too.
   auto& price = Spin(TField::edtPrice);
-  price.SetValue(PriceToShow(order.price, item));
+  price.SetValue(entry::PriceToShow(order.price, item));
   price.SetEnabled(PriceMayBeSet(order));
   auto& quantity = Spin(TField::edtQty);
   quantity.SetStep(1);
@@ -61,7 +61,7 @@ void TAlgoOrderChangeFrame::ShowIdentity(const host::TCustomClientOrder& order,
 
 void TAlgoOrderChangeFrame::LockIdentity() {
   Group(TGroup::lgSubmit).SetVisible(false);
-  for (const TField field : ClosedInChange) Control(field).SetEnabled(false);
+  for (const TField field : entry::ClosedInChange) Control(field).SetEnabled(false);
 }
 
 void TAlgoOrderChangeFrame::StepByLot(const host::TMarketDataItem* item, std::string_view symbol) {
@@ -73,7 +73,7 @@ void TAlgoOrderChangeFrame::StepByLot(const host::TMarketDataItem* item, std::st
     if (instrument != nullptr && !instrument->lotText.empty())
       lot = text::ParseWhole(instrument->lotText).value_or(0);
   }
-  for (const TField field : QuantityEditors) {
+  for (const TField field : entry::QuantityEditors) {
     Spin(field).SetStep(static_cast<double>(std::max<std::int64_t>(lot, 1)));
     Spin(field).SetMin(0);
   }
@@ -85,7 +85,7 @@ void TAlgoOrderChangeFrame::SetChangeViewVisible(std::string_view algoId) {
   EnableAmendable();
   const model::TAlgoRow* algo = model::FindAlgoByCode(algoId);
   if (algo == nullptr) return;
-  for (const model::TParam param : algo->fixedWhileWorking) Control(FieldOf(param)).SetEnabled(false);
+  for (const model::TParam param : algo->fixedWhileWorking) Control(entry::FieldOf(param)).SetEnabled(false);
 }
 
 void TAlgoOrderChangeFrame::SetConfirmViewVisible() {
@@ -95,7 +95,7 @@ void TAlgoOrderChangeFrame::SetConfirmViewVisible() {
 }
 
 void TAlgoOrderChangeFrame::EnableAmendable() {
-  for (const TField field : OpenInChange) Control(field).SetEnabled(true);
+  for (const TField field : entry::OpenInChange) Control(field).SetEnabled(true);
 }
 
 void TAlgoOrderChangeFrame::ShowAlgoPart(host::TCustomClientOrder& order) {
@@ -109,4 +109,4 @@ void TAlgoOrderChangeFrame::ShowAlgoPart(host::TCustomClientOrder& order) {
   Item(TField::cbPopup).SetVisible(false);
 }
 
-}  // namespace algo::views
+}  // namespace algo::views::change

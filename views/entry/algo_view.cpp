@@ -3,7 +3,7 @@
 #include "views/entry/entry_form.h"
 #include "views/entry/field_lists.h"
 
-namespace algo::views {
+namespace algo::views::entry {
 
 namespace {
 
@@ -78,4 +78,4 @@ void TEntryForm::EmptyAlgoFields() {
   }
 }
 
-}  // namespace algo::views
+}  // namespace algo::views::entry

@@ -3,7 +3,7 @@
 #include "forms/toolkit.h"
 #include "views/entry/entry_frame.h"
 
-namespace algo::views {
+namespace algo::views::entry {
 
 namespace {
 
@@ -65,4 +65,4 @@ void TAlgoOrderEntryFrame::FitSideButtons() {
   Control(TField::btnBuy).SetFont(font);
 }
 
-}  // namespace algo::views
+}  // namespace algo::views::entry

@@ -5,7 +5,7 @@
 #include "plugin/host_contract/view_functions.h"
 #include "views/entry/entry_frame.h"
 
-namespace algo::views {
+namespace algo::views::entry {
 
 void TAlgoOrderEntryFrame::InitializeList() {
   FLists.FillPickLists();
@@ -113,4 +113,4 @@ void TAlgoOrderEntryFrame::InitializeConfirmView(std::string_view algoName,
   FForm.LoadParameters(pieces);
 }
 
-}  // namespace algo::views
+}  // namespace algo::views::entry

@@ -6,7 +6,7 @@
 #include "views/entry/entry_frame.h"
 #include "views/entry/price_multiplier.h"
 
-namespace algo::views {
+namespace algo::views::entry {
 
 const host::TCustomClientOrder* TAlgoOrderEntryFrame::OrderForThisView(
     const host::TChannelRecord* record) const {
@@ -76,4 +76,4 @@ void TAlgoOrderEntryFrame::DoCopyPrice(const host::TCustomClientOrder& order) {
   UpdateSymbolInfo();
 }
 
-}  // namespace algo::views
+}  // namespace algo::views::entry

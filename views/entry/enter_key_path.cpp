@@ -4,7 +4,7 @@
 
 #include "views/entry/field_lists.h"
 
-namespace algo::views {
+namespace algo::views::entry {
 
 namespace {
 
@@ -58,4 +58,4 @@ std::vector<TField> EnterPath(TField field) {
   return path;
 }
 
-}  // namespace algo::views
+}  // namespace algo::views::entry

@@ -2,7 +2,7 @@
 
 #include "views/entry/entry_form.h"
 
-namespace algo::views {
+namespace algo::views::entry {
 
 namespace {
 
@@ -104,4 +104,4 @@ void TEntryForm::FocusNext(std::span<const TField> candidates) {
   }
 }
 
-}  // namespace algo::views
+}  // namespace algo::views::entry

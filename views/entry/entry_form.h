@@ -12,7 +12,7 @@
 #include "model/values.h"
 #include "views/entry/field_table.h"
 
-namespace algo::views {
+namespace algo::views::entry {
 
 class TEntryForm {
  public:
@@ -73,4 +73,4 @@ class TEntryForm {
   forms::TCaptionStyle* FKeyCaptions = nullptr;
 };
 
-}  // namespace algo::views
+}  // namespace algo::views::entry

@@ -7,7 +7,7 @@
 #include "plugin/host_contract/view_functions.h"
 #include "text/text.h"
 
-namespace algo::views {
+namespace algo::views::entry {
 
 namespace {
 
@@ -68,4 +68,4 @@ bool TAlgoOrderEntryFrame::SetLayoutData(std::string_view text) {
   });
 }
 
-}  // namespace algo::views
+}  // namespace algo::views::entry

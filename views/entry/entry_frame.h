@@ -27,7 +27,7 @@
 #include "views/entry/layout_text.h"
 #include "views/entry/pick_lists.h"
 
-namespace algo::views {
+namespace algo::views::entry {
 
 /// The view id under which the entry view posts its orders.
 inline constexpr std::int32_t AlgoEntryViewID = 426;
@@ -213,4 +213,4 @@ class TAlgoOrderEntryFrame : public TGuardedFrame {
   TLayoutText FLayoutText;
 };
 
-}  // namespace algo::views
+}  // namespace algo::views::entry

@@ -8,7 +8,7 @@
 #include "views/entry/enter_key_path.h"
 #include "views/entry/entry_frame.h"
 
-namespace algo::views {
+namespace algo::views::entry {
 
 void TAlgoOrderEntryFrame::WireEvents() {
   using TThis = TAlgoOrderEntryFrame;
@@ -62,4 +62,4 @@ void TAlgoOrderEntryFrame::cbPopupClick() {
 
 void TAlgoOrderEntryFrame::cbClearClick() { StoreSetting("ClearOrd", Check(TField::cbClear).Checked()); }
 
-}  // namespace algo::views
+}  // namespace algo::views::entry

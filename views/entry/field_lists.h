@@ -8,7 +8,7 @@
 #include "model/algo_table.h"
 #include "views/entry/field_table.h"
 
-namespace algo::views {
+namespace algo::views::entry {
 
 namespace field_lists {
 
@@ -163,4 +163,4 @@ inline constexpr auto KeyInputs = field_lists::FieldsWhere<field_lists::IsKeyInp
 inline constexpr auto OpenInChange = field_lists::FieldsWhere<field_lists::IsInChange<TInChange::Opens>>();
 inline constexpr auto ClosedInChange = field_lists::FieldsWhere<field_lists::IsInChange<TInChange::Closes>>();
 
-}  // namespace algo::views
+}  // namespace algo::views::entry

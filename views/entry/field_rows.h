@@ -5,7 +5,7 @@
 
 #include "views/entry/fields.h"
 
-namespace algo::views::field_rows {
+namespace algo::views::entry::field_rows {
 
 // How figures are shown: percentages plain, all else with thousands separators; "7" with seven decimals at
 // most.
@@ -133,4 +133,4 @@ constexpr TWords Param(TField field, model::TParam param, std::string_view item,
   return row;
 }
 
-}  // namespace algo::views::field_rows
+}  // namespace algo::views::entry::field_rows

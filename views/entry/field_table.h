@@ -7,7 +7,7 @@
 
 #include "views/entry/field_rows.h"
 
-namespace algo::views {
+namespace algo::views::entry {
 
 namespace field_rows {
 
@@ -191,4 +191,4 @@ inline constexpr std::array Fields = std::to_array<TFieldRow>({
 
 inline constexpr std::size_t FieldCount = field_rows::Fields.size();
 
-}  // namespace algo::views
+}  // namespace algo::views::entry

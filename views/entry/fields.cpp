@@ -4,7 +4,7 @@
 
 #include "views/entry/field_lists.h"
 
-namespace algo::views {
+namespace algo::views::entry {
 
 namespace {
 
@@ -83,4 +83,4 @@ std::span<const TFieldRow> FieldRows() { return Fields; }
 
 TField FieldOf(model::TParam param) { return FieldsByParam[model::IndexOf(param)]; }
 
-}  // namespace algo::views
+}  // namespace algo::views::entry

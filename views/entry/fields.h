@@ -16,7 +16,7 @@
 #include "forms/spin_edit.h"
 #include "model/parameters.h"
 
-namespace algo::views {
+namespace algo::views::entry {
 
 /// The controls, named as on the form. Their order is the one in which Enter goes through them, and in which
 /// the items of one group stand.
@@ -237,4 +237,4 @@ inline const TFieldRow& Row(TField field) { return FieldRows()[IndexOf(field)]; 
 /// The field that holds the parameter.
 TField FieldOf(model::TParam param);
 
-}  // namespace algo::views
+}  // namespace algo::views::entry

@@ -9,7 +9,7 @@
 #include "views/entry/field_lists.h"
 #include "views/entry/price_multiplier.h"
 
-namespace algo::views {
+namespace algo::views::entry {
 
 namespace {
 
@@ -119,4 +119,4 @@ void TFollowedSymbol::MovePriceCarets() const {
   for (const TField field : PriceEditors) FForm.Spin(field).MoveCaretToEnd();
 }
 
-}  // namespace algo::views
+}  // namespace algo::views::entry

@@ -10,7 +10,7 @@
 #include "plugin/host_contract/market_data.h"
 #include "views/entry/entry_form.h"
 
-namespace algo::views {
+namespace algo::views::entry {
 
 class TFollowedSymbol {
  public:
@@ -67,4 +67,4 @@ class TFollowedSymbol {
   bool FCopying = false;
 };
 
-}  // namespace algo::views
+}  // namespace algo::views::entry

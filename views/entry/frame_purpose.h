@@ -4,7 +4,7 @@
 
 #include <string_view>
 
-namespace algo::views {
+namespace algo::views::entry {
 
 struct TFramePurpose {
   std::string_view className;  ///< names the kind of frame to hosts
@@ -17,4 +17,4 @@ inline constexpr TFramePurpose EntryPurpose{"TAlgoOrderEntryFrame", true, false}
 inline constexpr TFramePurpose ChangePurpose{"TAlgoOrderChangeFrame", false, true};
 inline constexpr TFramePurpose WorkPurpose{"TAlgoWorkOrderFrame", false, true};
 
-}  // namespace algo::views
+}  // namespace algo::views::entry

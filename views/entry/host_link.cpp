@@ -13,7 +13,7 @@
 #include "views/entry/entry_frame.h"
 #include "views/entry/field_lists.h"
 
-namespace algo::views {
+namespace algo::views::entry {
 
 namespace {
 
@@ -116,4 +116,4 @@ void TAlgoOrderEntryFrame::UpdateScale() {
   FForm.KeyCaptions().SetSize(LargestFontSize);
 }
 
-}  // namespace algo::views
+}  // namespace algo::views::entry

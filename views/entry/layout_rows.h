@@ -9,7 +9,7 @@
 
 #include "views/entry/field_table.h"
 
-namespace algo::views {
+namespace algo::views::entry {
 
 struct TLayoutRow {
   std::string_view key;
@@ -69,4 +69,4 @@ inline constexpr auto LayoutRows = layout_rows::Rows();
 /// find.
 inline constexpr auto LayoutReadOrder = layout_rows::ReadOrder();
 
-}  // namespace algo::views
+}  // namespace algo::views::entry

@@ -10,7 +10,7 @@
 #include "text/text.h"
 #include "views/entry/layout_rows.h"
 
-namespace algo::views {
+namespace algo::views::entry {
 
 namespace {
 
@@ -131,4 +131,4 @@ void TLayoutText::Apply(const TLayoutRow& row, const std::string& value) {
   }
 }
 
-}  // namespace algo::views
+}  // namespace algo::views::entry

@@ -9,7 +9,7 @@
 #include "views/entry/followed_symbol.h"
 #include "views/entry/pick_lists.h"
 
-namespace algo::views {
+namespace algo::views::entry {
 
 struct TLayoutRow;
 
@@ -35,4 +35,4 @@ class TLayoutText {
   TFollowedSymbol& FSymbol;
 };
 
-}  // namespace algo::views
+}  // namespace algo::views::entry

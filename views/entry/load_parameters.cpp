@@ -4,7 +4,7 @@
 #include "text/errors.h"
 #include "views/entry/entry_form.h"
 
-namespace algo::views {
+namespace algo::views::entry {
 
 void TEntryForm::LoadParameters(const std::vector<std::string_view>& pieces) {
   for (const model::TParamRow& row : model::ParamRows()) LoadParameter(row.param, pieces);
@@ -36,4 +36,4 @@ void TEntryForm::LoadParameter(model::TParam param, const std::vector<std::strin
   }
 }
 
-}  // namespace algo::views
+}  // namespace algo::views::entry

@@ -4,7 +4,7 @@
 #include "text/text.h"
 #include "views/entry/entry_frame.h"
 
-namespace algo::views {
+namespace algo::views::entry {
 
 void TAlgoOrderEntryFrame::PopupMsg(std::string_view resourceId) const {
   ShowMessage(GetResource(resourceId));
@@ -24,4 +24,4 @@ bool TAlgoOrderEntryFrame::CheckTheOrder(std::string_view text) {
   return found;
 }
 
-}  // namespace algo::views
+}  // namespace algo::views::entry

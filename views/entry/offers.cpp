@@ -9,7 +9,7 @@
 #include "plugin/host_contract/user_app_profile.h"
 #include "views/entry/pick_lists.h"
 
-namespace algo::views {
+namespace algo::views::entry {
 
 namespace {
 
@@ -137,4 +137,4 @@ void TPickLists::SelectExchange(const std::string& code) {
   FForm.Combo(TField::cmbExch).SetIndex(IndexOrFirst(FAlgoExchList, code));
 }
 
-}  // namespace algo::views
+}  // namespace algo::views::entry

@@ -10,7 +10,7 @@
 #include "text/errors.h"
 #include "text/text.h"
 
-namespace algo::views {
+namespace algo::views::entry {
 
 namespace {
 
@@ -134,4 +134,4 @@ void TPickLists::SelectOrderType(std::string_view id) {
   }
 }
 
-}  // namespace algo::views
+}  // namespace algo::views::entry

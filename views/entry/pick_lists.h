@@ -14,7 +14,7 @@
 #include "model/order_types.h"
 #include "views/entry/entry_form.h"
 
-namespace algo::views {
+namespace algo::views::entry {
 
 class TPickLists {
  public:
@@ -123,4 +123,4 @@ class TPickLists {
   bool FAlgoMayStandIn = true;
 };
 
-}  // namespace algo::views
+}  // namespace algo::views::entry

@@ -6,7 +6,7 @@
 #include "text/errors.h"
 #include "text/number_text.h"
 
-namespace algo::views {
+namespace algo::views::entry {
 
 std::optional<double> PriceMultiplier(const host::TMarketDataItem* item) {
   if (item == nullptr || item->State() != host::ItemLive || !item->HasField(host::PriceMultiplierField)) {
@@ -26,4 +26,4 @@ double PriceForOrder(double shown, const host::TMarketDataItem* item) {
   return price;
 }
 
-}  // namespace algo::views
+}  // namespace algo::views::entry

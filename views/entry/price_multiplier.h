@@ -7,7 +7,7 @@
 
 #include "plugin/host_contract/market_data.h"
 
-namespace algo::views {
+namespace algo::views::entry {
 
 /// The item's price multiplier; nothing when there is no item, or it is not live, or it has none. A text that
 /// is no number counts as 1.
@@ -20,4 +20,4 @@ double PriceToShow(double raw, const host::TMarketDataItem* item);
 /// EConversionError when that gives no finite number.
 double PriceForOrder(double shown, const host::TMarketDataItem* item);
 
-}  // namespace algo::views
+}  // namespace algo::views::entry

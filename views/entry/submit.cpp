@@ -13,7 +13,7 @@
 #include "views/entry/entry_frame.h"
 #include "views/entry/price_multiplier.h"
 
-namespace algo::views {
+namespace algo::views::entry {
 
 void TAlgoOrderEntryFrame::btnBuyClick() {
   FOrderType = host::SideBuy;
@@ -150,4 +150,4 @@ void TAlgoOrderEntryFrame::SubmitOrder(host::TCustomClientOrder& order) {
   if (accepted && !Detached() && Check(TField::cbClear).Checked()) ClearOrder();
 }
 
-}  // namespace algo::views
+}  // namespace algo::views::entry

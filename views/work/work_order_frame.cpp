@@ -12,9 +12,9 @@
 #include "views/boundary/flag_scope.h"
 #include "views/work/available_quantity.h"
 
-namespace algo::views {
+namespace algo::views::work {
 
-TAlgoWorkOrderFrame::TAlgoWorkOrderFrame() : TAlgoOrderChangeFrame(WorkPurpose) {
+TAlgoWorkOrderFrame::TAlgoWorkOrderFrame() : TAlgoOrderChangeFrame(entry::WorkPurpose) {
   const TBoundary making;
   MakeWorkForm();
   ReadConfig();
@@ -24,7 +24,7 @@ TAlgoWorkOrderFrame::TAlgoWorkOrderFrame() : TAlgoOrderChangeFrame(WorkPurpose) 
 }
 
 void TAlgoWorkOrderFrame::WorkOrder(host::TCustomClientOrder* order) {
-  FOrderOperatorMode = TOperatorMode::Work;
+  FOrderOperatorMode = change::TOperatorMode::Work;
   FMyOrder = order;
   if (FMyOrder != nullptr) {
     InitializeViewbyOrder(*FMyOrder);
@@ -110,4 +110,4 @@ void TAlgoWorkOrderFrame::btnClearClick() {
   }
 }
 
-}  // namespace algo::views
+}  // namespace algo::views::work

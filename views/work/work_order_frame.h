@@ -12,7 +12,12 @@
 
 #include "views/change/change_frame.h"
 
-namespace algo::views {
+namespace algo::views::work {
+
+// The frame speaks of the entry form's own controls.
+using change::TAlgoOrderChangeFrame;
+using entry::TField;
+using entry::TGroup;
 
 class TAlgoWorkOrderFrame : public TAlgoOrderChangeFrame {
  public:
@@ -69,4 +74,4 @@ class TAlgoWorkOrderFrame : public TAlgoOrderChangeFrame {
   bool FIsUpdating = false;
 };
 
-}  // namespace algo::views
+}  // namespace algo::views::work

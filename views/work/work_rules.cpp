@@ -10,7 +10,7 @@
 #include "views/work/available_quantity.h"
 #include "views/work/work_order_frame.h"
 
-namespace algo::views {
+namespace algo::views::work {
 
 namespace {
 
@@ -110,4 +110,4 @@ std::optional<model::TRuleFailure> TAlgoWorkOrderFrame::FirstFailure() const {
   return std::nullopt;
 }
 
-}  // namespace algo::views
+}  // namespace algo::views::work

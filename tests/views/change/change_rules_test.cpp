@@ -8,7 +8,7 @@ namespace algo::tests {
 namespace {
 
 using host::TCustomClientOrder;
-using views::TField;
+using views::entry::TField;
 
 class ChangeRules : public TOrderDialogTest {
  protected:

@@ -210,7 +210,7 @@ TEST_F(CopyingLocks, LoadATextUpToTheTimeThatCannotBeRead) {
 }
 
 TEST_F(CopyingLocks, LetTheMarketFillTheFormAgainAfterACopyThatFailed) {
-  const auto expectPrefill = [this](views::TAlgoOrderEntryFrame& frame, const char* what) {
+  const auto expectPrefill = [this](views::entry::TAlgoOrderEntryFrame& frame, const char* what) {
     EXPECT_EQ(Told().size(), 1U) << what;
     Type(frame, "edtSymbol", "0005");
     Leave(frame);

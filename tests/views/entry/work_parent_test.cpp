@@ -10,7 +10,7 @@ using TMessageSource = std::vector<std::string>;
 
 class WorkParent : public TOrderDialogTest {
  protected:
-  TMessageSource ToldByWork(views::TAlgoOrderEntryFrame& frame) {
+  TMessageSource ToldByWork(views::entry::TAlgoOrderEntryFrame& frame) {
     Forget();
     Click(frame, "btnWork");
     EXPECT_EQ(LeftBehind().orders, 0U);

@@ -17,7 +17,7 @@ namespace algo::tests {
 namespace {
 
 using host::TCustomClientOrder;
-using views::GetWorkParentOrderAvailableQty;
+using views::work::GetWorkParentOrderAvailableQty;
 
 /// A store whose orders a test sets, and which may change while it is looked through.
 class TTestStore : public host::TCustomOrderAdapter {

@@ -83,7 +83,7 @@ TEST_F(WorkHost, FitsItsDialogToTheAlgorithm) {
 }
 
 TEST_F(WorkHost, NeedsNoDialogAndNoListenerForItsSize) {
-  const auto frame = std::make_shared<views::TAlgoWorkOrderFrame>();
+  const auto frame = std::make_shared<views::work::TAlgoWorkOrderFrame>();
   EXPECT_EQ(Spin(*frame, "sedtPecentage").Max(), 100.0);
   EXPECT_EQ(Combo(*frame, "cbSide").Index(), 0);
   TCustomClientOrder parent = ParentOrder();
