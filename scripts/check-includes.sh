@@ -34,7 +34,7 @@ terminal/drive              -> text forms plugin/host_contract terminal/host plu
 terminal/report             -> text
 terminal/storage            -> text plugin/host_contract terminal/host
 terminal/paper              -> text plugin/host_contract terminal/host
-terminal/render             -> text forms
+terminal/render             -> forms
 terminal/ui_driver          -> forms terminal/drive terminal/render
 terminal/desk               -> text forms plugin/host_contract terminal/host terminal/storage terminal/paper terminal/render terminal/drive terminal/ui_driver
 '

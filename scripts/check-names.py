@@ -18,14 +18,15 @@ import sys
 # Each folder, with the one namespace that it is and those inside of it that it may open.
 NAMESPACES = """
 text                        -> algo::text algo
-model                       -> algo::model algo::model::pieces algo::model::rule_tables algo::model::visibility algo::model::parameter_rows
+model                       -> algo::model algo::model::parameter_rows algo::model::algo_rows
 forms                       -> algo::forms
 plugin/host_contract        -> algo::host
+plugin/host_contract/flags  -> algo::host::flags
 plugin/host_contract/checks -> algo::host::checks
 views/boundary              -> algo::views
-views/entry                 -> algo::views
-views/change                -> algo::views
-views/work                  -> algo::views
+views/entry                 -> algo::views::entry algo::views::entry::field_rows algo::views::entry::field_lists algo::views::entry::layout_rows
+views/change                -> algo::views::change
+views/work                  -> algo::views::work
 plugin                      -> algo::plugin
 terminal/host               -> algo::terminal algo::terminal::status
 terminal/drive              -> algo::terminal::drive
