@@ -27,7 +27,7 @@ plugin/host_contract/checks -> forms plugin/host_contract
 views/boundary              -> plugin/host_contract
 views/entry                 -> text model forms plugin/host_contract plugin/host_contract/flags views/boundary
 views/change                -> text model forms plugin/host_contract views/entry
-views/work                  -> text model forms plugin/host_contract views/boundary views/entry views/change
+views/work                  -> text model forms plugin/host_contract views/boundary views/change
 plugin                      -> plugin/host_contract views/boundary views/entry views/change views/work
 terminal/host               -> text forms plugin/host_contract
 terminal/drive              -> text forms plugin/host_contract terminal/host plugin/host_contract/checks
