@@ -41,7 +41,7 @@ TSession::TSession(std::string moduleFile, TInputPlayer& input)
 TSession::~TSession() {
   try {
     if (FModule) Unload();
-  } catch (...) {  // NOLINT(bugprone-empty-catch): the script has ended, nobody is left to tell
+  } catch (...) {  // NOLINT(bugprone-empty-catch):the script has ended, no answer is left to report it in
   }
 }
 

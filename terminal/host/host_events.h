@@ -18,6 +18,9 @@ namespace algo::terminal {
 /// The kinds of shared field editors.
 enum class TEditorKind : std::uint8_t { Account, Symbol, Price, Quantity };
 
+/// "account", "symbol", "price" or "quantity".
+std::string_view NameOf(TEditorKind kind);
+
 class THostEvents {
  public:
   virtual ~THostEvents();

@@ -1,6 +1,6 @@
 #pragma once
 
-// A view and a provider as small as they can be, for services that ask for one.
+// A minimal view and a minimal provider, for services that need one.
 
 #include "plugin/host_contract/base_view.h"
 

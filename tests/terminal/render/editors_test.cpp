@@ -171,7 +171,7 @@ TEST_F(TEditors, ADateIsTypedOrEmptied) {
 }
 
 struct TCalendar : TRenderedForm {
-  /// Opens the calendar by its button; nullptr when none opened.
+  /// Opens the calendar by its button; nullptr if none opened.
   QCalendarWidget* Open() {
     QTest::mouseClick(view->findChild<QToolButton*>("deStartCalendar"), Qt::LeftButton);
     return view->findChild<QCalendarWidget*>("calendar");

@@ -1,4 +1,4 @@
-// A form at the screen: focus, buttons, lists, what is shown, and what becomes of it when the form goes.
+// A form on the screen: focus, buttons, lists, what is shown, and what happens when the form is destroyed.
 
 #include <QAbstractButton>
 #include <QComboBox>
@@ -123,7 +123,7 @@ TEST_F(TShownForm, AListFollowsARefillAndKeepsWhatTheFormPicked) {
   frame->kind.Refill({"Eins", "Zwei"}, 1);
   EXPECT_EQ(list.count(), 2);
   EXPECT_EQ(list.currentText(), "Zwei");
-  // The form takes the pick back: the list must not show what does not hold.
+  // The form reverts the pick, and the list must not go on showing it.
   frame->kind.OnChange = [this] {
     if (frame->kind.Index() == 0) frame->kind.SetIndex(1);
   };

@@ -1,6 +1,6 @@
 #pragma once
 
-// A small form with one control of each kind, shown in a window that is active.
+// A small form with one control of each kind, in an active window.
 
 #include <gtest/gtest.h>
 

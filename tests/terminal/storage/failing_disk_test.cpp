@@ -1,4 +1,4 @@
-// What happens to orders when the disk takes no more.
+// What happens to orders when the disk is full.
 
 #include <sys/resource.h>
 
@@ -16,7 +16,7 @@
 namespace algo::terminal::storage::tests {
 namespace {
 
-/// As long as it lives, no file of this process grows beyond that size.
+/// During its lifetime no file of this process grows beyond that size.
 class TFileSizeLimit {
  public:
   explicit TFileSizeLimit(std::uintmax_t bytes) : FHandler(std::signal(SIGXFSZ, SIG_IGN)) {
