@@ -28,6 +28,9 @@ struct TProfile {
   std::string user;
 };
 
+/// The section of the settings of the whole terminal.
+inline constexpr std::string_view PlatformSection = "VANTORIX_PLATFORM";
+
 struct THostData {
   std::string section = "USER";  ///< the section of the user's own settings
   TTextTables config;            ///< settings by section and key
