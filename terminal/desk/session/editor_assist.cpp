@@ -38,8 +38,8 @@ double SteppedByTick(double price, const paper::TSpreadTable& spread, std::int32
 
 }  // namespace
 
-TDeskEditorAssist::TDeskEditorAssist(TDeskEvents& events, TMemoryHost& host, const paper::TMarketTables& tables,
-                                 const appearance::TTexts& texts)
+TDeskEditorAssist::TDeskEditorAssist(TDeskEvents& events, TMemoryHost& host,
+                                     const paper::TMarketTables& tables, const appearance::TTexts& texts)
     : FHost(host), FTables(tables), FTexts(texts) {
   connect(&events, &TDeskEvents::EditorRegistered, this,
           [this](TEditorKind kind, const forms::TControl& control) { FEditors[&control].kind = kind; });
@@ -52,7 +52,7 @@ TDeskEditorAssist::TDeskEditorAssist(TDeskEvents& events, TMemoryHost& host, con
 }
 
 std::vector<render::TCompletion> TDeskEditorAssist::Completions(const forms::TTextEdit& editor,
-                                                              std::string_view typed) const {
+                                                                std::string_view typed) const {
   const auto found = FEditors.find(&editor);
   const std::string_view part = text::Trim(typed);
   if (found == FEditors.end() || part.empty()) return {};

@@ -21,7 +21,7 @@ class TDeskEditorAssist final : public QObject, public render::TEditorAids {
  public:
   /// All of them outlive the object.
   TDeskEditorAssist(TDeskEvents& events, TMemoryHost& host, const paper::TMarketTables& tables,
-                  const appearance::TTexts& texts);
+                    const appearance::TTexts& texts);
 
   /// Accounts or symbols with the text at their beginning, then those with it elsewhere, in the name of an
   /// instrument too.

@@ -63,8 +63,9 @@ TEST(SettingsPageOfAFullDisk, TellsTheFormsOfWhatWasStoredBeforeTheFailure) {
   for (const char* key : {"ConfirmationPlaceOrd", "ForceConfirmBox", "ClearOrd"})
     QTest::keyClick(page.findChild<QCheckBox*>(QLatin1String(key)), Qt::Key_Space);
   QTest::keyClick(page.findChild<QPushButton*>(QStringLiteral("Apply")), Qt::Key_Space);
-  EXPECT_EQ(notes.lines, (terminal::tests::TNotes{"store USER ConfirmationPlaceOrd Y at once",
-                                 "message The disk is full. Free some space and try again."}));
+  EXPECT_EQ(notes.lines,
+            (terminal::tests::TNotes{"store USER ConfirmationPlaceOrd Y at once",
+                                     "message The disk is full. Free some space and try again."}));
   EXPECT_EQ(told, 1);
   EXPECT_TRUE(page.findChild<QPushButton*>(QStringLiteral("Apply"))->isEnabled());
   host::TCustomConfigManager::GetInstance().RemoveListener(&told);

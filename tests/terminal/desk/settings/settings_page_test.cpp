@@ -56,10 +56,11 @@ TEST_F(TSettingsPageTest, ApplyStoresEachChangedSettingAndTellsOnce) {
   EXPECT_TRUE(notes.lines.empty());
   ASSERT_TRUE(Button("Apply").isEnabled());
   Click(Button("Apply"));
-  EXPECT_EQ(notes.lines, (terminal::tests::TNotes{"store USER ConfirmationPlaceOrd Y at once", "store USER ClearOrd Y at once",
-                                 "store USER WorkOrderQtyOut 0 at once",
-                                 "store VANTORIX_PLATFORM DefaultGroupDataMode 0 at once",
-                                 "store VANTORIX_PLATFORM ScaleSize 150 at once"}));
+  EXPECT_EQ(notes.lines,
+            (terminal::tests::TNotes{"store USER ConfirmationPlaceOrd Y at once",
+                                     "store USER ClearOrd Y at once", "store USER WorkOrderQtyOut 0 at once",
+                                     "store VANTORIX_PLATFORM DefaultGroupDataMode 0 at once",
+                                     "store VANTORIX_PLATFORM ScaleSize 150 at once"}));
   EXPECT_EQ(told, (std::vector<std::string>{"Y"})) << "once, when all is stored";
   EXPECT_FALSE(Button("Apply").isEnabled());
   EXPECT_TRUE(page.isVisible());
