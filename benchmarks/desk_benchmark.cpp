@@ -48,7 +48,7 @@ class TTerminal {
 
   std::shared_ptr<algo::forms::TFrame> Open(const std::string& label) {
     FSession.Execute({{"do", "open"}, {"frame", label}});
-    return FSession.Names().Find(label);
+    return FSession.Labels().Find(label);
   }
 
   void Close(const std::string& label) { FSession.Execute({{"do", "close"}, {"frame", label}}); }
@@ -56,13 +56,13 @@ class TTerminal {
   algo::terminal::TMemoryHost& Host() { return FSession.Host(); }
 
  private:
-  algo::terminal::drive::TTrader FTrader;
+  algo::terminal::drive::TInputPlayer FTrader;
   algo::terminal::drive::TSession FSession{algo::terminal::drive::ModuleBesideProgram(), FTrader};
 };
 
 /// A window with one form of the module.
 struct TFormWindow {
-  explicit TFormWindow(const std::shared_ptr<algo::forms::TFrame>& frame) : view(frame, aids, &window) {
+  explicit TFormWindow(const std::shared_ptr<algo::forms::TFrame>& frame) : view(frame, assist, &window) {
     auto* column = new QVBoxLayout(&window);
     column->addWidget(&view);
   }
@@ -71,7 +71,7 @@ struct TFormWindow {
     return view.Find(*view.Frame()->FindControl(control))->Input();
   }
 
-  algo::terminal::render::TEditorAids aids;
+  algo::terminal::render::TEditorAssist assist;
   QWidget window;
   TFrameView view;
 };
@@ -208,7 +208,7 @@ void BM_KeyAmongMarketUpdates(benchmark::State& state) {
   QObject::connect(&beat, &QTimer::timeout, &beat, [&] {
     for (int i = 0; i < UpdatesPerBeat; ++i) {
       price += price < 70 ? 0.1 : -10;
-      terminal.Host().SetMarket("0005", 1, {{3, std::to_string(price)}}, true, false);
+      terminal.Host().SetMarket("0005", 1, {{3, std::to_string(price)}}, algo::terminal::TMarketNotice::Item);
       ++updates;
     }
   });

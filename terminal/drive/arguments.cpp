@@ -10,12 +10,12 @@ namespace {
   throw ECommandError("'" + std::string(name) + "' must be " + std::string(wanted));
 }
 
-/// A whole number that fits the type; 2.0 is as good as 2.
+/// A whole number that fits the type; 2.0 counts as 2.
 template <class TNumber>
 TNumber AsWhole(std::string_view name, const TCommandJson& value) {
   using TLimits = std::numeric_limits<TNumber>;
   if (!value.is_number()) Refuse(name, "a whole number");
-  // Every number of 32 bits is exact as a double, and what is too large stays too large.
+  // Every 32-bit number is exact as a double, and what is too large stays too large.
   const double number = value.get<double>();
   if (std::trunc(number) != number) Refuse(name, "a whole number");
   if (number < static_cast<double>(TLimits::min()) || number > static_cast<double>(TLimits::max())) {

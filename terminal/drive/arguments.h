@@ -1,8 +1,8 @@
 #pragma once
 
 // The arguments of one command, read by name and type. Every reader throws ECommandError, naming the
-// argument, when a value has the wrong type or, for those that are required, is missing. Handlers read all of
-// their arguments before they do anything, so that a refused command changes nothing.
+// argument, if a value has the wrong type or a required one is missing. Handlers read all of their arguments
+// before they do anything, so that a refused command changes nothing.
 
 #include <cstdint>
 #include <optional>
@@ -14,8 +14,8 @@
 
 namespace algo::terminal::drive {
 
-/// What a value has to be. Each throws ECommandError, with `name` in the text, for a value of another type;
-/// whole numbers moreover for one that does not fit.
+/// The value as the given type. Each throws ECommandError, with `name` in the text, for a value of another
+/// type, the integers also for one that does not fit.
 const std::string& AsText(std::string_view name, const TCommandJson& value);
 bool AsBoolean(std::string_view name, const TCommandJson& value);
 double AsNumber(std::string_view name, const TCommandJson& value);
@@ -29,17 +29,17 @@ class TArguments {
   /// `command` is a JSON object that outlives the arguments.
   explicit TArguments(const TCommandJson& command) : FCommand(command) {}
 
-  /// The value under the name; nullptr when it was not given.
+  /// The value with that name; nullptr if it was not given.
   const TCommandJson* Find(std::string_view name) const;
   bool Has(std::string_view name) const { return Find(name) != nullptr; }
 
-  /// The value under the name. Throws ECommandError when it was not given.
+  /// The value with that name. Throws ECommandError if it was not given.
   const TCommandJson& Required(std::string_view name) const;
 
   const std::string& Text(std::string_view name) const { return AsText(name, Required(name)); }
   std::int32_t Integer(std::string_view name) const { return AsInteger(name, Required(name)); }
 
-  /// The same with a value that stands in for an argument that was not given.
+  /// The same with a default for an argument that was not given.
   std::string TextOr(std::string_view name, std::string_view otherwise) const;
   std::int32_t IntegerOr(std::string_view name, std::int32_t otherwise) const;
   bool BooleanOr(std::string_view name, bool otherwise) const;

@@ -5,7 +5,7 @@
 namespace algo::terminal::drive {
 
 const TCommand& FindCommand(std::string_view name) {
-  for (const auto& part : {HostCommands(), ViewCommands(), TraderCommands(), LookingCommands(),
+  for (const auto& part : {HostCommands(), ViewCommands(), InputCommands(), ControlCommands(),
                            MarketCommands(), OrderCommands()}) {
     const auto found = std::ranges::find(part, name, &TCommand::name);
     if (found != part.end()) return *found;

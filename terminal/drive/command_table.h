@@ -1,6 +1,6 @@
 #pragma once
 
-// The commands by name. Each subject has its own source with its part of the table.
+// The commands by name. Each subject has a source file of its own with its part of the table.
 
 #include <span>
 #include <string_view>
@@ -11,8 +11,8 @@ namespace algo::terminal::drive {
 
 class TSession;
 
-/// One command: reads its arguments, does its work and writes what the answer has beyond the common members.
-/// Throws ECommandError when the command is refused.
+/// One command. The handler reads the arguments, does the work and writes what the answer has beyond the
+/// common members; it throws ECommandError if the command is refused.
 struct TCommand {
   std::string_view name;
   void (*handler)(TSession& session, const TArguments& arguments, TAnswerJson& answer);
@@ -20,8 +20,8 @@ struct TCommand {
 
 std::span<const TCommand> HostCommands();     ///< host data, and loading the module
 std::span<const TCommand> ViewCommands();     ///< the provider and its views
-std::span<const TCommand> TraderCommands();   ///< typing, clicking, picking, closing
-std::span<const TCommand> LookingCommands();  ///< reading, and the program's own hand on controls
+std::span<const TCommand> InputCommands();    ///< the trader's input: typing, clicking, picking, closing
+std::span<const TCommand> ControlCommands();  ///< reading controls, and setting them as a program does
 std::span<const TCommand> MarketCommands();   ///< market data and spread tables
 std::span<const TCommand> OrderCommands();    ///< the order store, posts, available quantity
 

@@ -4,8 +4,8 @@
 
 namespace algo::terminal::drive {
 
-TDialogs::TDialogs(TFrameNames& names, TRunStack& runs, TTrader& trader, TExecute execute)
-    : FNames(names), FRuns(runs), FTrader(trader), FExecute(std::move(execute)) {}
+TDialogs::TDialogs(TFrameLabels& labels, TCommandStack& stack, TInputPlayer& input, TExecute execute)
+    : FLabels(labels), FRunning(stack), FInput(input), FExecute(std::move(execute)) {}
 
 void TDialogs::Play(forms::TDialogForm& form) {
   struct TShowing {
@@ -13,30 +13,31 @@ void TDialogs::Play(forms::TDialogForm& form) {
     ~TShowing() {
       forms::TDialogForm& done = *dialogs.FShowing.back();
       dialogs.FShowing.pop_back();
-      dialogs.FTrader.DialogDone(done);
+      dialogs.FInput.DialogDone(done);
     }
   };
   FShowing.push_back(&form);
-  FTrader.DialogOpened(form);
+  FInput.DialogOpened(form);
   const TShowing showing{*this};
 
-  const std::string label = form.Frame() ? FNames.LabelOf(*form.Frame()) : std::string();
-  if (const auto frame = std::dynamic_pointer_cast<host::TViewFrame>(form.Frame())) FNames.Name(frame, label);
+  const std::string label = form.Frame() ? FLabels.LabelOf(*form.Frame()) : std::string();
+  if (const auto frame = std::dynamic_pointer_cast<host::TViewFrame>(form.Frame()))
+    FLabels.Assign(frame, label);
 
-  TRun& run = FRuns.Current();
-  const std::size_t place = run.dialogsOpened++;
+  TRunningCommand& running = FRunning.Current();
+  const std::size_t place = running.dialogsOpened++;
   TAnswerJson answers = TAnswerJson::array();
-  if (place < run.dialogScripts.size()) {
-    for (const auto& command : *run.dialogScripts[place]) answers.push_back(FExecute(command));
+  if (place < running.dialogScripts.size()) {
+    for (const auto& command : *running.dialogScripts[place]) answers.push_back(FExecute(command));
   }
   if (form.ModalResult() == forms::ModalNone) form.SetModalResult(forms::ModalCancel);
 
-  run.dialogs.push_back({{"frame", label},
-                         {"caption", form.Caption()},
-                         {"width", NumberJson(form.ClientSize().width)},
-                         {"height", NumberJson(form.ClientSize().height)},
-                         {"answers", std::move(answers)},
-                         {"result", form.ModalResult()}});
+  running.dialogs.push_back({{"frame", label},
+                             {"caption", form.Caption()},
+                             {"width", NumberJson(form.ClientSize().width)},
+                             {"height", NumberJson(form.ClientSize().height)},
+                             {"answers", std::move(answers)},
+                             {"result", form.ModalResult()}});
 }
 
 }  // namespace algo::terminal::drive

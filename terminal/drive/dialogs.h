@@ -1,15 +1,15 @@
 #pragma once
 
-// Modal dialogs. A dialog blocks the command that led to it; meanwhile the commands that were given for it
-// are carried out, and then it closes, so that a script never hangs on one.
+// Modal dialogs. A dialog blocks the command that opened it; meanwhile the commands that were given for the
+// dialog are executed, and then it closes, so that a script never hangs.
 
 #include <functional>
 #include <vector>
 
 #include "forms/dialog_form.h"
-#include "terminal/drive/frame_names.h"
-#include "terminal/drive/run_stack.h"
-#include "terminal/drive/trader.h"
+#include "terminal/drive/command_stack.h"
+#include "terminal/drive/frame_labels.h"
+#include "terminal/drive/input_player.h"
 
 namespace algo::terminal::drive {
 
@@ -17,19 +17,19 @@ class TDialogs {
  public:
   using TExecute = std::function<TAnswerJson(const TCommandJson& command)>;
 
-  TDialogs(TFrameNames& names, TRunStack& runs, TTrader& trader, TExecute execute);
+  TDialogs(TFrameLabels& labels, TCommandStack& stack, TInputPlayer& input, TExecute execute);
 
-  /// Plays the dialog: carries out the commands that the innermost command has for it, dismisses it when they
-  /// gave it no result, and notes in that command how it went.
+  /// Runs the dialog: executes the commands that the innermost command has for it, dismisses it if they gave
+  /// it no result, and records the outcome in that command.
   void Play(forms::TDialogForm& form);
 
-  /// The dialog that opened last of those that show; nullptr when none does.
+  /// The open dialog that was opened last; nullptr if none is open.
   forms::TDialogForm* Innermost() const { return FShowing.empty() ? nullptr : FShowing.back(); }
 
  private:
-  TFrameNames& FNames;
-  TRunStack& FRuns;
-  TTrader& FTrader;
+  TFrameLabels& FLabels;
+  TCommandStack& FRunning;
+  TInputPlayer& FInput;
   TExecute FExecute;
   std::vector<forms::TDialogForm*> FShowing;
 };

@@ -11,11 +11,11 @@ namespace algo::terminal::drive {
 
 namespace {
 
-// Commands nest for dialogs inside dialogs only. What is deeper could not be copied or written without
-// running out of stack.
+// Commands nest only for dialogs inside dialogs. Deeper JSON could not be copied or written without running
+// out of stack.
 constexpr int DeepestNesting = 200;
 
-// The parser quotes what it last read, which may be the whole line.
+// The parser's messages quote what it last read, which may be the whole line.
 constexpr std::size_t LongestReason = 200;
 
 }  // namespace
@@ -29,9 +29,9 @@ TCommandJson ParseCommand(std::string_view line) {
   try {
     command = TCommandJson::parse(line, checkDepth);
   } catch (const TCommandJson::exception& error) {
-    throw ECommandError("the line is no JSON: " + std::string(error.what()).substr(0, LongestReason));
+    throw ECommandError("the line is not JSON: " + std::string(error.what()).substr(0, LongestReason));
   }
-  if (!command.is_object()) throw ECommandError("the line is no JSON object");
+  if (!command.is_object()) throw ECommandError("the line is not a JSON object");
   return command;
 }
 
@@ -45,7 +45,7 @@ void Drive(TSession& session, std::istream& script, std::ostream& answers) {
     } catch (const ECommandError& error) {
       answer = {{"ok", false}, {"error", error.what()}};
     }
-    // Texts come from module and script as they are; what is no UTF-8 in them must not stop the run.
+    // Texts come from module and script unchecked; invalid UTF-8 in them must not stop the run.
     answers << answer.dump(-1, ' ', false, TAnswerJson::error_handler_t::replace) << '\n' << std::flush;
     if (!answers) return;
   }

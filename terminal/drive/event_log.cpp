@@ -7,24 +7,24 @@
 
 namespace algo::terminal::drive {
 
-TEventLog::TEventLog(TFrameNames& names, TRunStack& runs, TDialogs& dialogs)
-    : FNames(names), FRuns(runs), FDialogs(dialogs) {}
+TEventLog::TEventLog(TFrameLabels& labels, TCommandStack& stack, TDialogs& dialogs)
+    : FLabels(labels), FRunning(stack), FDialogs(dialogs) {}
 
 void TEventLog::MessageShown(std::string_view text) {
-  FRuns.AddEvent({{"event", "message"}, {"text", text}});
+  FRunning.AddEvent({{"event", "message"}, {"text", text}});
 }
 
 void TEventLog::ErrorCodeShown(std::string_view code) {
-  FRuns.AddEvent({{"event", "error_code"}, {"code", code}});
+  FRunning.AddEvent({{"event", "error_code"}, {"code", code}});
 }
 
 void TEventLog::ActionTaken(const host::TCustomClientOrder& order, host::TOrderAction action,
                             std::int32_t argument, bool answer) {
-  FRuns.AddEvent({{"event", "take_action"},
-                  {"order", OrderJson(order)},
-                  {"action", static_cast<std::int32_t>(action)},
-                  {"argument", argument},
-                  {"answer", answer}});
+  FRunning.AddEvent({{"event", "take_action"},
+                     {"order", OrderJson(order)},
+                     {"action", static_cast<std::int32_t>(action)},
+                     {"argument", argument},
+                     {"answer", answer}});
 }
 
 void TEventLog::Posted(std::int32_t channel, const host::TChannelRecord& record) {
@@ -35,31 +35,31 @@ void TEventLog::Posted(std::int32_t channel, const host::TChannelRecord& record)
     event["view"] = action->viewId;
     event["result"] = action->result;
   }
-  FRuns.AddEvent(std::move(event));
+  FRunning.AddEvent(std::move(event));
 }
 
 void TEventLog::ViewNotified(const host::TViewFrame& view, std::int32_t code) {
-  FRuns.AddEvent({{"event", "view_notify"}, {"frame", FNames.LabelOf(view)}, {"code", code}});
+  FRunning.AddEvent({{"event", "view_notify"}, {"frame", FLabels.LabelOf(view)}, {"code", code}});
 }
 
 void TEventLog::Stored(std::string_view section, std::string_view key, std::string_view value,
                        bool writeThrough) {
-  FRuns.AddEvent(
+  FRunning.AddEvent(
       {{"event", "store"}, {"section", section}, {"key", key}, {"value", value}, {"flag", writeThrough}});
 }
 
 void TEventLog::Subscribed(std::string_view symbol, std::string_view dataSet, bool live) {
-  FRuns.AddEvent({{"event", "subscribe"}, {"symbol", symbol}, {"data_set", dataSet}, {"flag", live}});
+  FRunning.AddEvent({{"event", "subscribe"}, {"symbol", symbol}, {"data_set", dataSet}, {"flag", live}});
 }
 
 void TEventLog::Unsubscribed(std::string_view symbol) {
-  FRuns.AddEvent({{"event", "unsubscribe"}, {"symbol", symbol}});
+  FRunning.AddEvent({{"event", "unsubscribe"}, {"symbol", symbol}});
 }
 
 TAnswerJson TEventLog::EditorEvent(std::string_view event, TEditorKind kind, const forms::TControl& control) {
   constexpr std::array<std::string_view, 4> KindNames{"account", "symbol", "price", "quantity"};
   return {{"event", event},
-          {"frame", FNames.LabelOf(control.Frame())},
+          {"frame", FLabels.LabelOf(control.Frame())},
           {"kind", KindNames[static_cast<std::size_t>(kind)]},
           {"control", control.Name()}};
 }
@@ -67,47 +67,48 @@ TAnswerJson TEventLog::EditorEvent(std::string_view event, TEditorKind kind, con
 void TEventLog::EditorRegistered(TEditorKind kind, const forms::TControl& control, std::string_view groupId) {
   TAnswerJson event = EditorEvent("register_editor", kind, control);
   event["group"] = groupId;
-  FRuns.AddEvent(std::move(event));
+  FRunning.AddEvent(std::move(event));
 }
 
 void TEventLog::EditorRemoved(TEditorKind kind, const forms::TControl& control) {
-  FRuns.AddEvent(EditorEvent("remove_editor", kind, control));
+  FRunning.AddEvent(EditorEvent("remove_editor", kind, control));
 }
 
 void TEventLog::EditorSymbolSet(TEditorKind kind, const forms::TControl& control, std::string_view symbol) {
   TAnswerJson event = EditorEvent("editor_symbol", kind, control);
   event["symbol"] = symbol;
-  FRuns.AddEvent(std::move(event));
+  FRunning.AddEvent(std::move(event));
 }
 
 void TEventLog::LayoutAccountSet(const forms::TControl& control, std::string_view account) {
-  FRuns.AddEvent(
-      {{"event", "layout_account"}, {"frame", FNames.LabelOf(control.Frame())}, {"account", account}});
+  FRunning.AddEvent(
+      {{"event", "layout_account"}, {"frame", FLabels.LabelOf(control.Frame())}, {"account", account}});
 }
 
 std::string TEventLog::LabelOf(const forms::TDialogForm& form) {
-  return form.Frame() ? FNames.LabelOf(*form.Frame()) : std::string();
+  return form.Frame() ? FLabels.LabelOf(*form.Frame()) : std::string();
 }
 
 void TEventLog::FormShown(forms::TDialogForm& form) {
   const std::string label = LabelOf(form);
-  if (const auto frame = std::dynamic_pointer_cast<host::TViewFrame>(form.Frame())) FNames.Name(frame, label);
-  FRuns.AddEvent({{"event", "show"},
-                  {"frame", label},
-                  {"caption", form.Caption()},
-                  {"on_top", form.StaysOnTop()},
-                  {"width", NumberJson(form.ClientSize().width)},
-                  {"height", NumberJson(form.ClientSize().height)}});
+  if (const auto frame = std::dynamic_pointer_cast<host::TViewFrame>(form.Frame()))
+    FLabels.Assign(frame, label);
+  FRunning.AddEvent({{"event", "show"},
+                     {"frame", label},
+                     {"caption", form.Caption()},
+                     {"on_top", form.StaysOnTop()},
+                     {"width", NumberJson(form.ClientSize().width)},
+                     {"height", NumberJson(form.ClientSize().height)}});
 }
 
 void TEventLog::FormBroughtToFront(forms::TDialogForm& form) {
-  FRuns.AddEvent({{"event", "to_front"}, {"frame", LabelOf(form)}});
+  FRunning.AddEvent({{"event", "to_front"}, {"frame", LabelOf(form)}});
 }
 
 void TEventLog::FormClosed(forms::TDialogForm& form) {
   const std::string label = LabelOf(form);
-  FNames.Forget(label);
-  FRuns.AddEvent({{"event", "close_form"}, {"frame", label}});
+  FLabels.Forget(label);
+  FRunning.AddEvent({{"event", "close_form"}, {"frame", label}});
 }
 
 }  // namespace algo::terminal::drive

@@ -1,18 +1,18 @@
 #pragma once
 
-// What the host sees from the module, written down as the events of the command that is under way.
+// Records what the module does at the host's services as the events of the command that is running.
 
+#include "terminal/drive/command_stack.h"
 #include "terminal/drive/dialogs.h"
-#include "terminal/drive/frame_names.h"
-#include "terminal/drive/run_stack.h"
+#include "terminal/drive/frame_labels.h"
 #include "terminal/host/host_events.h"
 
 namespace algo::terminal::drive {
 
 class TEventLog final : public THostEvents {
  public:
-  /// What is passed outlives the log.
-  TEventLog(TFrameNames& names, TRunStack& runs, TDialogs& dialogs);
+  /// All of them outlive the log.
+  TEventLog(TFrameLabels& labels, TCommandStack& stack, TDialogs& dialogs);
 
   void MessageShown(std::string_view text) override;
   void ErrorCodeShown(std::string_view code) override;
@@ -37,8 +37,8 @@ class TEventLog final : public THostEvents {
   TAnswerJson EditorEvent(std::string_view event, TEditorKind kind, const forms::TControl& control);
   std::string LabelOf(const forms::TDialogForm& form);
 
-  TFrameNames& FNames;
-  TRunStack& FRuns;
+  TFrameLabels& FLabels;
+  TCommandStack& FRunning;
   TDialogs& FDialogs;
 };
 

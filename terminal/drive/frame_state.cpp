@@ -33,8 +33,7 @@ void AddFont(TAnswerJson& state, const forms::TFont& font) {
   state["font_size"] = font.size;
 }
 
-/// What an editor, a pick list or a button has beyond every control. Adds nothing for controls of another
-/// class.
+/// The members that only editors have; AddChoice adds those of lists, boxes and buttons.
 void AddEditor(TAnswerJson& state, const forms::TControl& control) {
   const auto* editor = dynamic_cast<const forms::TEditor*>(&control);
   if (editor == nullptr) return;

@@ -9,13 +9,13 @@
 
 namespace algo::terminal::drive {
 
-/// The state of the control, group or item of that name. Throws ECommandError when the frame has none.
+/// The state of the control, group or item of that name. Throws ECommandError if the frame has none.
 TAnswerJson StateOf(const forms::TFrame& frame, std::string_view name);
 
 /// The state of every control, group and item, by name.
 TAnswerJson StatesOf(const forms::TFrame& frame);
 
-/// What there is to see of a form.
+/// The state of a form.
 TAnswerJson FormState(const forms::TDialogForm& form);
 
 }  // namespace algo::terminal::drive

@@ -2,7 +2,7 @@
 
 #include <array>
 
-#include "terminal/drive/boundary.h"
+#include "terminal/drive/call_module.h"
 #include "terminal/drive/command_table.h"
 #include "terminal/drive/host_merge.h"
 #include "terminal/drive/session.h"
@@ -13,13 +13,13 @@ namespace {
 
 void Host(TSession& session, const TArguments& arguments, TAnswerJson& /*answer*/) {
   TCommandJson changes = arguments.All();
-  // What is left is what the command says of the host.
+  // What is left are the changes to the host's data.
   for (const char* common : {"do", "id", "modal"}) changes.erase(common);
   MergeHostData(changes, session.Host().Data());
 }
 
 void ConfigChanged(TSession& session, const TArguments& /*arguments*/, TAnswerJson& /*answer*/) {
-  CallModule([&] { session.Host().TellConfigChanged(); });
+  CallModule([&] { session.Host().NotifyConfigChanged(); });
 }
 
 void Load(TSession& session, const TArguments& /*arguments*/, TAnswerJson& /*answer*/) { session.Load(); }

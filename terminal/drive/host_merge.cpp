@@ -15,13 +15,13 @@ std::int32_t WholeNumber(std::string_view text, int base) {
   std::int32_t number = 0;
   const auto end = std::from_chars(text.data(), text.data() + text.size(), number, base);
   if (end.ec != std::errc() || end.ptr != text.data() + text.size()) {
-    throw ECommandError("'" + std::string(text) + "' is no whole number");
+    throw ECommandError("'" + std::string(text) + "' is not a whole number");
   }
   return number;
 }
 
-// One reader for each kind of value. Structures and tables come last, since they read their members with the
-// others.
+// One overload for each kind of value. Structures and tables come last, since they merge their members with
+// the others.
 
 void Merge(std::string_view name, const TCommandJson& value, std::string& into) {
   into = AsText(name, value);
@@ -59,14 +59,14 @@ void Merge(std::string_view name, const TCommandJson& value, TFaults& into) {
   into.Set(std::move(operations));
 }
 
-/// A member of a structure by the name that scripts have for it.
+/// A member of a structure by the name that scripts use for it.
 template <class TOwner>
 struct TMember {
   std::string_view name;
   void (*merge)(std::string_view name, const TCommandJson& value, TOwner& owner);
 };
 
-/// Merges one member; null brings back what a new owner has.
+/// Merges one member; null restores the value that a new owner has.
 template <auto Member, class TOwner>
 void MergeMember(std::string_view name, const TCommandJson& value, TOwner& owner);
 

@@ -1,6 +1,6 @@
 #pragma once
 
-// What the trader's commands have in common: why an input was not taken, and which item of a list is meant.
+// What the input commands have in common: why an input was not taken, and which item of a list is meant.
 
 #include <cstdint>
 
@@ -9,11 +9,11 @@
 
 namespace algo::terminal::drive {
 
-/// Throws ECommandError for an input that the control did not take.
+/// Throws ECommandError with the reason if the control did not take an input.
 void CheckTaken(forms::TInputResult result, const forms::TControl& control);
 
-/// The place of the item that the arguments name, by place or by text. Throws ECommandError when they name
-/// none.
+/// The index of the item that the arguments give by index or by text. Throws ECommandError if they give
+/// neither, both, or a text that the list does not have.
 std::int32_t ItemOf(const forms::TControl& control, const TArguments& arguments);
 
 }  // namespace algo::terminal::drive

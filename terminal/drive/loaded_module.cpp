@@ -3,7 +3,7 @@
 #include <string_view>
 
 #include "plugin/host_contract/class_registry.h"
-#include "terminal/drive/boundary.h"
+#include "terminal/drive/call_module.h"
 
 namespace algo::terminal::drive {
 

@@ -1,6 +1,6 @@
 #pragma once
 
-// The module as the driver uses it: loaded, with the one provider that its view is opened through.
+// The module as the driver uses it: loaded, with the one provider through which its views are opened.
 
 #include <memory>
 #include <string>
@@ -12,21 +12,21 @@ namespace algo::terminal::drive {
 
 class TLoadedModule {
  public:
-  /// Loads the module and makes its provider. Throws EError, leaving nothing loaded, when that fails. `owner`
-  /// is the component that keeps the provider.
+  /// Loads the module and creates its provider. Throws EError, leaving nothing loaded, if that fails. `owner`
+  /// is the component that owns the provider.
   TLoadedModule(const std::string& file, const void* owner);
 
   host::TIBaseView& Provider() const { return *FProvider; }
   const host::TModuleEntry& Entry() const { return FLibrary.Entry(); }
 
-  /// Destroys the provider, which closes the views that are left.
-  void DropProvider() { FProvider.reset(); }
+  /// Destroys the provider, which closes the remaining views.
+  void DestroyProvider() { FProvider.reset(); }
 
   /// See TModuleLibrary.
   void KeepLoaded() { FLibrary.KeepLoaded(); }
 
  private:
-  // In this order: the provider's code goes with the library.
+  // In this order: the provider's code is in the library.
   TModuleLibrary FLibrary;
   std::unique_ptr<host::TIBaseView> FProvider;
 };

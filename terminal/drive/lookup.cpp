@@ -4,7 +4,7 @@ namespace algo::terminal::drive {
 
 TFramePointer FrameOf(TSession& session, const TArguments& arguments) {
   const auto& label = arguments.Text("frame");
-  auto frame = session.Names().Find(label);
+  auto frame = session.Labels().Find(label);
   if (!frame) throw ECommandError("there is no frame '" + label + "'");
   return frame;
 }
@@ -12,7 +12,7 @@ TFramePointer FrameOf(TSession& session, const TArguments& arguments) {
 TFramePointer OpenedFrameOf(TSession& session, const TArguments& arguments) {
   auto frame = FrameOf(session, arguments);
   const auto& label = arguments.Text("frame");
-  if (TFrameNames::IsReserved(label)) throw ECommandError("'" + label + "' is no view that was opened");
+  if (TFrameLabels::IsReserved(label)) throw ECommandError("'" + label + "' is not a view that was opened");
   return frame;
 }
 

@@ -1,7 +1,7 @@
 #pragma once
 
-// What commands name: frames, controls and orders. Each look-up throws ECommandError when there is no such
-// thing.
+// Looks up the frames, controls and orders that commands name. Each function throws ECommandError if there is
+// no such thing.
 
 #include <memory>
 #include <string>
@@ -16,7 +16,7 @@ using TFramePointer = std::shared_ptr<host::TViewFrame>;
 /// The frame that the argument `frame` names.
 TFramePointer FrameOf(TSession& session, const TArguments& arguments);
 
-/// The same, when it is the frame of a view that was opened by command.
+/// The same, provided that it is the frame of a view that a command opened.
 TFramePointer OpenedFrameOf(TSession& session, const TArguments& arguments);
 
 /// The control that the argument `control` names.

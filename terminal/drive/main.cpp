@@ -1,4 +1,4 @@
-// algo-drive: a terminal without a screen, driven by text.
+// algo-drive: a terminal without a screen, driven by a script.
 
 #include <CLI/CLI.hpp>
 #include <csignal>
@@ -33,13 +33,13 @@ int main(int argc, char** argv) {
   }
 
 #ifdef SIGPIPE
-  // A reader that goes away ends the run in an orderly way, not in the middle of a call.
+  // If the reader of the answers goes away, the run ends in order and not in the middle of a call.
   std::signal(SIGPIPE, SIG_IGN);
 #endif
   std::ios::sync_with_stdio(false);
   try {
-    algo::terminal::drive::TTrader trader;
-    algo::terminal::drive::TSession session(module, trader);
+    algo::terminal::drive::TInputPlayer input;
+    algo::terminal::drive::TSession session(module, input);
     algo::terminal::drive::Drive(session, std::cin, std::cout);
   } catch (const std::exception& error) {
     std::cerr << "algo-drive: " << error.what() << '\n';

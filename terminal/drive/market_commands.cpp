@@ -1,9 +1,9 @@
-// The market: data of symbols, and spread tables.
+// Market data of symbols, and spread tables.
 
 #include <array>
 #include <charconv>
 
-#include "terminal/drive/boundary.h"
+#include "terminal/drive/call_module.h"
 #include "terminal/drive/command_table.h"
 #include "terminal/drive/session.h"
 
@@ -15,7 +15,7 @@ std::int32_t FieldNumber(const std::string& text) {
   std::int32_t number = 0;
   const auto end = std::from_chars(text.data(), text.data() + text.size(), number);
   if (text.empty() || end.ec != std::errc() || end.ptr != text.data() + text.size()) {
-    throw ECommandError("'" + text + "' is no field number");
+    throw ECommandError("'" + text + "' is not a field number");
   }
   return number;
 }
@@ -38,12 +38,15 @@ void Market(TSession& session, const TArguments& arguments, TAnswerJson& /*answe
   const auto changes = FieldChanges(arguments);
   const bool notify = arguments.BooleanOr("notify", true);
   const bool others = arguments.BooleanOr("others", false);
-  CallModule([&] { session.Host().SetMarket(symbol, state, changes, notify, others); });
+  const auto notice = !notify  ? TMarketNotice::None
+                      : others ? TMarketNotice::OtherItems
+                               : TMarketNotice::Item;
+  CallModule([&] { session.Host().SetMarket(symbol, state, changes, notice); });
 }
 
 void Spread(TSession& session, const TArguments& arguments, TAnswerJson& /*answer*/) {
   const auto codes = AsTexts("codes", arguments.Required("codes"));
-  CallModule([&] { session.Host().TellSpread(codes); });
+  CallModule([&] { session.Host().NotifySpreadChanged(codes); });
 }
 
 constexpr std::array Commands{TCommand{"market", Market}, TCommand{"spread", Spread}};

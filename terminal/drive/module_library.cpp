@@ -29,7 +29,7 @@ TModuleLibrary::TModuleLibrary(const std::string& file)
   std::unique_ptr<void, TLibraryCloser> loaded(FHandle);
   const auto entryFunction =
       reinterpret_cast<host::TModuleEntryFunction>(dlsym(FHandle, host::ModuleEntrySymbol));
-  if (entryFunction == nullptr) throw EError("the file is no module: " + LoadError());
+  if (entryFunction == nullptr) throw EError("the file is not a module: " + LoadError());
   FEntry = entryFunction();
   if (FEntry == nullptr || FEntry->contractVersion != host::ContractVersion) {
     throw EError("the module was built for another contract");

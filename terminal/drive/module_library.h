@@ -1,7 +1,6 @@
 #pragma once
 
-// A module as a shared library that is loaded at run time. What belongs to the platform about that stands in
-// module_library.cpp alone.
+// A module as a shared library that is loaded at run time. Only module_library.cpp depends on the platform.
 
 #include <string>
 
@@ -11,17 +10,18 @@ namespace algo::terminal::drive {
 
 class TModuleLibrary {
  public:
-  /// Loads the module and makes its classes known. Throws EError, leaving nothing loaded, when the file
-  /// cannot be loaded, is no module, or was built for another contract.
+  /// Loads the module and registers its classes. Throws EError, leaving nothing loaded, if the file cannot be
+  /// loaded, is not a module, or was built for another contract.
   explicit TModuleLibrary(const std::string& file);
-  /// Takes the module's classes back and unloads it.
+  /// Unregisters the module's classes and unloads it.
   ~TModuleLibrary();
   TModuleLibrary(const TModuleLibrary&) = delete;
   TModuleLibrary& operator=(const TModuleLibrary&) = delete;
 
   const host::TModuleEntry& Entry() const { return *FEntry; }
 
-  /// Leaves the code in memory when the object goes, for a module of which the host still holds handlers.
+  /// Leaves the code in memory when the object is destroyed, for a module whose handlers the host still
+  /// holds.
   void KeepLoaded() { FKeepLoaded = true; }
 
  private:
@@ -30,7 +30,7 @@ class TModuleLibrary {
   bool FKeepLoaded = false;
 };
 
-/// The module that was built together with this program, in ../lib beside the program's own folder.
+/// The path of the module that was built together with this program, in ../lib of the program's folder.
 std::string ModuleBesideProgram();
 
 }  // namespace algo::terminal::drive

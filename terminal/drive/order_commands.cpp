@@ -1,9 +1,9 @@
-// The order store, and what other views of the terminal post about orders.
+// The order store, and the posts of the terminal's other views about orders.
 
 #include <array>
 #include <memory>
 
-#include "terminal/drive/boundary.h"
+#include "terminal/drive/call_module.h"
 #include "terminal/drive/command_table.h"
 #include "terminal/drive/lookup.h"
 #include "terminal/drive/order_json.h"
@@ -12,7 +12,7 @@ namespace algo::terminal::drive {
 
 namespace {
 
-/// An order of the host that no client owns, which the module has to leave alone.
+/// An order of the host that is not a client order, which the module has to leave alone.
 class TForeignOrder final : public host::TCustomOrder {};
 
 void Order(TSession& session, const TArguments& arguments, TAnswerJson& /*answer*/) {
@@ -29,19 +29,19 @@ void Order(TSession& session, const TArguments& arguments, TAnswerJson& /*answer
 }
 
 void Orders(TSession& session, const TArguments& arguments, TAnswerJson& answer) {
-  TAnswerJson told = TAnswerJson::array();
+  TAnswerJson list = TAnswerJson::array();
   if (arguments.Has("key")) {
     const auto& key = arguments.Text("key");
     const host::TCustomClientOrder* order = session.Host().Orders().Find(key);
     if (order == nullptr) throw ECommandError("there is no order '" + key + "'");
-    told.push_back(OrderJson(*order));
+    list.push_back(OrderJson(*order));
   } else {
-    for (const auto& order : session.Host().Orders().All()) told.push_back(OrderJson(*order));
+    for (const auto& order : session.Host().Orders().All()) list.push_back(OrderJson(*order));
   }
-  answer["orders"] = std::move(told);
+  answer["orders"] = std::move(list);
 }
 
-/// The order that a post carries, and what of it belongs to the post alone.
+/// The order that a post carries, and ownership of it if it exists for the post alone.
 struct TPosted {
   host::TCustomOrder* order = nullptr;
   std::unique_ptr<host::TCustomOrder> own;
@@ -64,7 +64,7 @@ void PostAction(TSession& session, const TArguments& arguments, TAnswerJson& ans
   record.viewId = arguments.IntegerOr("view", 0);
   TPosted posted = PostedOrder(session, arguments);
   const auto* stored = dynamic_cast<const host::TCustomClientOrder*>(posted.order);
-  // The order view hands its own orders over, but lets a work order be cut from a copy.
+  // The order view passes its own orders, but a copy for a work order.
   if (record.action == static_cast<std::int32_t>(host::TOrderAction::Work) && stored != nullptr) {
     posted.own = std::make_unique<host::TCustomClientOrder>(*stored);
     posted.order = posted.own.get();
@@ -72,8 +72,8 @@ void PostAction(TSession& session, const TArguments& arguments, TAnswerJson& ans
   record.order = posted.order;
   const bool besideOthers =
       record.action == static_cast<std::int32_t>(host::TOrderAction::Change) && !session.ChangesAreModal();
-  const TFrameNames::TMaking making(
-      session.Names(), {}, besideOthers && stored != nullptr ? "change:" + stored->key : std::string());
+  const TFrameLabels::TNewFrameLabels making(
+      session.Labels(), {}, besideOthers && stored != nullptr ? "change:" + stored->key : std::string());
   CallModule([&] { session.Host().PostAsHost(host::OrderActionChannel, record); });
   answer["result"] = record.result;
 }

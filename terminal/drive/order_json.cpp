@@ -9,7 +9,7 @@ namespace {
 
 using host::TCustomOrder;
 
-/// A field that lies in one of the order's two lists of text properties.
+/// A field in one of the order's two lists of text properties.
 struct TNumberedText {
   std::int32_t number;
 };
@@ -17,7 +17,7 @@ struct TNamedText {
   std::string_view name;
 };
 
-/// Where a field lies in the order; the kind of place is the type that its value has to have.
+/// Where a field is in the order; the kind of place is the type that its value must have.
 using TPlace = std::variant<std::string TCustomOrder::*, double TCustomOrder::*, std::int32_t TCustomOrder::*,
                             std::uint32_t TCustomOrder::*, TNumberedText, TNamedText>;
 
@@ -49,7 +49,7 @@ const std::array Fields{
     TField{"user", &TCustomOrder::user},
 };
 
-/// One read or write for each kind of place.
+/// Reads or writes a field, one overload for each kind of place.
 struct TReader {
   const TCustomOrder& order;
 

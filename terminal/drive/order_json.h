@@ -1,6 +1,6 @@
 #pragma once
 
-// Orders in commands, answers and events.
+// Orders as JSON, in commands, answers and events.
 
 #include "plugin/host_contract/orders.h"
 #include "terminal/drive/arguments.h"
@@ -14,7 +14,7 @@ TAnswerJson OrderJson(const host::TCustomOrder& order);
 TAnswerJson OrderJson(const host::TCustomOrder* order);
 
 /// Writes the fields that the arguments name into the order. Throws ECommandError, with no effect on the
-/// order, for a field of the wrong type; arguments that are no field are passed over.
+/// order, for a field of the wrong type; arguments that are not fields are ignored.
 void ApplyOrderFields(const TArguments& arguments, host::TCustomClientOrder& order);
 
 }  // namespace algo::terminal::drive

@@ -2,14 +2,14 @@
 
 #include <utility>
 
-#include "terminal/drive/boundary.h"
+#include "terminal/drive/call_module.h"
 #include "terminal/drive/command_table.h"
 
 namespace algo::terminal::drive {
 
 namespace {
 
-/// The scripts for the dialogs of a command. Throws ECommandError when they are no list of lists.
+/// The scripts for the dialogs of a command. Throws ECommandError if they are not a list of lists.
 std::vector<const TCommandJson*> DialogScripts(const TCommandJson& command) {
   std::vector<const TCommandJson*> scripts;
   const auto modal = command.find("modal");
@@ -24,15 +24,15 @@ std::vector<const TCommandJson*> DialogScripts(const TCommandJson& command) {
 
 }  // namespace
 
-TSession::TSession(std::string moduleFile, TTrader& trader)
+TSession::TSession(std::string moduleFile, TInputPlayer& input)
     : FModuleFile(std::move(moduleFile)),
-      FTrader(trader),
-      FDialogs(FNames, FRuns, trader, [this](const TCommandJson& command) { return Execute(command); }),
-      FLog(FNames, FRuns, FDialogs),
+      FInput(input),
+      FDialogs(FLabels, FRunning, input, [this](const TCommandJson& command) { return Execute(command); }),
+      FLog(FLabels, FRunning, FDialogs),
       FHost(FLog) {
-  // The module would catch a mere exception and go on, so the breach is noted where no module can lose it.
+  // The module could catch a mere exception and go on, so the violation is recorded outside its reach.
   FStrict.OnViolation([this](const std::string& what) {
-    auto& violation = FRuns.Current().violation;
+    auto& violation = FRunning.Current().violation;
     if (violation.empty()) violation = what;
     throw EError("contract violated: " + what);
   });
@@ -48,28 +48,28 @@ TSession::~TSession() {
 TAnswerJson TSession::Execute(const TCommandJson& command) {
   TAnswerJson answer{{"ok", true}};
   if (command.is_object() && command.contains("id")) answer["id"] = command["id"];
-  TRun run;
-  const TRunStack::TPush push(FRuns, run);
+  TRunningCommand running;
+  const TCommandStack::TPush push(FRunning, running);
   try {
     if (!command.is_object()) throw ECommandError("a command must be a JSON object");
-    run.dialogScripts = DialogScripts(command);
+    running.dialogScripts = DialogScripts(command);
     const TArguments arguments(command);
     const TCommand& found = FindCommand(arguments.Text("do"));
-    TAnswerJson told = TAnswerJson::object();
-    found.handler(*this, arguments, told);
-    FTrader.Settle();
-    answer.update(told);
+    TAnswerJson result = TAnswerJson::object();
+    found.handler(*this, arguments, result);
+    FInput.Settle();
+    answer.update(result);
   } catch (const std::exception& error) {
     answer["ok"] = false;
     answer["error"] = error.what();
   }
-  if (!run.violation.empty()) {
+  if (!running.violation.empty()) {
     answer["ok"] = false;
-    answer["error"] = "contract violated: " + run.violation;
+    answer["error"] = "contract violated: " + running.violation;
   }
-  if (!run.dialogs.empty()) answer["modal"] = std::move(run.dialogs);
-  if (!run.events.empty()) answer["events"] = std::move(run.events);
-  FNames.DropGone();
+  if (!running.dialogs.empty()) answer["modal"] = std::move(running.dialogs);
+  if (!running.events.empty()) answer["events"] = std::move(running.events);
+  FLabels.RemoveExpired();
   return answer;
 }
 
@@ -83,12 +83,12 @@ void TSession::Load() {
 host::TLeftBehind TSession::Unload() {
   if (!FModule) throw ECommandError("no module is loaded");
   if (FDialogs.Innermost() != nullptr) throw ECommandError("a modal dialog is showing");
-  CallModule([this] { FModule->DropProvider(); });
+  CallModule([this] { FModule->DestroyProvider(); });
   const auto left = FStrict.LeftBehind();
-  // The module's code has to outlive whatever the host still holds of it; even the mere names of frames that
-  // are gone lead back into it.
-  FNames.DropGone();
-  if (left != host::TLeftBehind{} || !FNames.Empty()) FModule->KeepLoaded();
+  // The module's code has to outlive whatever the host still holds of it; even a weak pointer to a frame that
+  // is gone refers to that code.
+  FLabels.RemoveExpired();
+  if (left != host::TLeftBehind{} || !FLabels.Empty()) FModule->KeepLoaded();
   FModule.reset();
   return left;
 }

@@ -1,9 +1,9 @@
-// The provider and its views: what a host asks before and after a view is opened.
+// The provider and its views: what a host calls before and after a view is opened.
 
 #include <array>
 
 #include "plugin/host_contract/order_adapter.h"
-#include "terminal/drive/boundary.h"
+#include "terminal/drive/call_module.h"
 #include "terminal/drive/command_table.h"
 #include "terminal/drive/lookup.h"
 
@@ -20,24 +20,24 @@ TAnswerJson MenuLevel(host::TIBaseView& provider, std::int32_t level) {
 
 void Provider(TSession& session, const TArguments& /*arguments*/, TAnswerJson& answer) {
   host::TIBaseView& provider = session.Provider();
-  TAnswerJson told;
+  TAnswerJson result;
   CallModule([&] {
-    told["name"] = provider.GetName();
-    told["view_id"] = provider.GetViewID();
-    told["menu_level"] = provider.GetMenuLevel();
-    told["menu"] = TAnswerJson::array();
-    for (const std::int32_t level : {0, 1, 2}) told["menu"].push_back(MenuLevel(provider, level));
-    told["visible"] = provider.GetIsVisible();
+    result["name"] = provider.GetName();
+    result["view_id"] = provider.GetViewID();
+    result["menu_level"] = provider.GetMenuLevel();
+    result["menu"] = TAnswerJson::array();
+    for (const std::int32_t level : {0, 1, 2}) result["menu"].push_back(MenuLevel(provider, level));
+    result["visible"] = provider.GetIsVisible();
     std::string caption;
     const bool hasCaption = provider.GetDefaultCaption(caption);
-    told["default_caption"] = {{"result", hasCaption}, {"caption", caption}};
-    // What a view leaves untouched is the host's own.
+    result["default_caption"] = {{"result", hasCaption}, {"caption", caption}};
+    // What a view leaves untouched keeps the host's default.
     std::int32_t width = 640;
     std::int32_t height = 480;
     const bool hasSize = provider.GetDefaultSize(width, height);
-    told["default_size"] = {{"result", hasSize}, {"width", width}, {"height", height}};
+    result["default_size"] = {{"result", hasSize}, {"width", width}, {"height", height}};
   });
-  answer.update(told);
+  answer.update(result);
 }
 
 void AddSize(host::TViewFrame& frame, TAnswerJson& answer) {
@@ -50,20 +50,20 @@ void AddSize(host::TViewFrame& frame, TAnswerJson& answer) {
 void Open(TSession& session, const TArguments& arguments, TAnswerJson& answer) {
   const auto& label = arguments.Text("frame");
   host::TIBaseView& provider = session.Provider();
-  if (TFrameNames::IsReserved(label)) throw ECommandError("no view can be opened under '" + label + "'");
-  if (session.Names().Find(label)) throw ECommandError("'" + label + "' is open already");
-  const TFrameNames::TMaking making(session.Names(), label, {});
+  if (TFrameLabels::IsReserved(label)) throw ECommandError("no view can be opened under '" + label + "'");
+  if (session.Labels().Find(label)) throw ECommandError("'" + label + "' is open already");
+  const TFrameLabels::TNewFrameLabels making(session.Labels(), label, {});
   const auto handle = CallModule([&] { return provider.OpenNewInstance(); });
   const auto frame = provider.FindView(handle);
   if (!frame) throw ECommandError("the view could not be opened");
-  session.Names().Name(frame, label);
+  session.Labels().Assign(frame, label);
   AddSize(*frame, answer);
 }
 
 void Close(TSession& session, const TArguments& arguments, TAnswerJson& /*answer*/) {
   const auto frame = OpenedFrameOf(session, arguments);
-  // The label goes first: events still know it, but from the module's point of view the instance is gone.
-  session.Names().Forget(arguments.Text("frame"));
+  // The label goes first: events still carry it, but for scripts the instance is gone.
+  session.Labels().Forget(arguments.Text("frame"));
   CallModule([&] { session.Provider().CloseInstance(host::HandleOf(*frame)); });
 }
 

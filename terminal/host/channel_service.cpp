@@ -20,7 +20,7 @@ void TMemoryChannelManager::Post(std::int32_t channel, host::TChannelRecord* rec
 }
 
 void TMemoryChannelManager::Deliver(std::int32_t channel, host::TChannelRecord* record) {
-  FChannels[channel].Tell(this, record);
+  FChannels[channel].Notify(this, record);
 }
 
 }  // namespace algo::terminal

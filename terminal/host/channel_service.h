@@ -17,7 +17,7 @@ class TMemoryChannelManager final : public host::TCustomGlobalChannelManager {
 
   void Subscribe(std::int32_t channel, THandler handler, host::TOwner owner) override;
   void Unsubscribe(std::int32_t channel, host::TOwner owner) override;
-  /// Told as an event once the record was delivered.
+  /// Reported as an event once the record was delivered.
   void Post(std::int32_t channel, host::TChannelRecord* record) override;
 
   /// Delivers `record` to every subscriber.

@@ -24,7 +24,7 @@ bool TMemoryConfigManager::ReadBoolean(std::string_view section, std::string_vie
 void TMemoryConfigManager::Store(std::string_view section, std::string_view key, std::string_view value,
                                  bool writeThrough) {
   FHost.Check("config.store");
-  FHost.keeper.KeepSetting(section, key, value);
+  FHost.storage.StoreSetting(section, key, value);
   FHost.data.config[std::string(section)].insert_or_assign(std::string(key), std::string(value));
   FHost.events.Stored(section, key, value, writeThrough);
 }

@@ -25,8 +25,8 @@ class TMemoryConfigManager final : public host::TCustomConfigManager {
   void AddListener(std::function<void()> listener, host::TOwner owner) override;
   void RemoveListener(host::TOwner owner) override;
 
-  /// Tells the listeners that settings changed.
-  void Tell() { FListeners.Tell(); }
+  /// Notifies the listeners that settings changed.
+  void Notify() { FListeners.Notify(); }
 
  private:
   const THostContext& FHost;

@@ -1,7 +1,8 @@
 #pragma once
 
-// The shared field editors: how the account and the symbol editor react to being left. Prices and quantities
-// are not stepped here, since nobody holds a mouse; which symbol they serve is told as an event.
+// The shared field editors: how the account and the symbol editor react when the focus leaves them. Prices
+// and quantities are not stepped here, since there is no mouse; which symbol they serve is reported as an
+// event.
 
 #include <cstdint>
 #include <functional>
@@ -19,7 +20,7 @@ class TMemoryEditorManager final : public host::TEditorManager {
   /// On leaving, the text is trimmed.
   void RegisterAccountEditor(forms::TTextEdit& control, std::string_view groupId, std::int32_t mode,
                              std::int32_t options) override;
-  /// On leaving, the trimmed text is looked up: a known symbol becomes text and hint, any other text empties
+  /// On leaving, the trimmed text is looked up: a known symbol becomes text and hint, any other text clears
   /// the hint.
   void RegisterSymbolEditor(forms::TTextEdit& control, std::string_view groupId, std::int32_t mode,
                             std::int32_t options) override;

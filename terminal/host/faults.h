@@ -1,7 +1,7 @@
 #pragma once
 
 // Failures on demand: which operations of the host's services throw when they are called. They let a test see
-// what a module does when the host cannot do what it is asked for.
+// how a module behaves when the host fails.
 
 #include <set>
 #include <string>
@@ -11,7 +11,7 @@
 
 namespace algo::terminal {
 
-/// What an operation throws that was told to fail. The text names the operation.
+/// Thrown by an operation that was made to fail. The text names the operation.
 class EHostFault : public EError {
  public:
   using EError::EError;
@@ -19,13 +19,13 @@ class EHostFault : public EError {
 
 class TFaults {
  public:
-  /// Whether an operation of that name can be told to fail.
+  /// Whether there is an operation of that name that can be made to fail.
   static bool IsKnown(std::string_view operation);
 
   /// Makes exactly these operations fail from now on.
   void Set(std::set<std::string, std::less<>> operations);
 
-  /// Throws EHostFault when the operation is to fail; with no effect otherwise.
+  /// Throws EHostFault if the operation is to fail; otherwise without effect.
   void Check(std::string_view operation) const;
 
  private:

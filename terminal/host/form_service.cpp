@@ -18,7 +18,7 @@ void TMemoryForm::Shown() {
 }
 
 void TMemoryForm::Hidden() {
-  // A modal form is hidden too when it is done, but was never shown beside the others.
+  // A modal form is hidden too when it is done, but was never among the modeless forms.
   const auto self = shared_from_this();
   if (std::erase(FShown, self) > 0) FEvents.FormClosed(*this);
 }
@@ -37,9 +37,9 @@ void TMemoryViewService::Notify(host::TViewFrame& view, std::int32_t code) {
   FHost.events.ViewNotified(view, code);
 }
 
-void TMemoryViewService::DropForms() {
-  // Out of the list first: a frame that goes with its form may close others.
-  const TShownForms dropped = std::exchange(FShown, {});
+void TMemoryViewService::ReleaseForms() {
+  // Out of the list first: a frame that is destroyed with its form may close others.
+  const TShownForms released = std::exchange(FShown, {});
 }
 
 }  // namespace algo::terminal

@@ -1,6 +1,6 @@
 #pragma once
 
-// The window system without windows: dialog forms that are played through the host's events.
+// The window system without windows: dialog forms that are operated through the host's events.
 
 #include <cstdint>
 #include <memory>
@@ -11,7 +11,7 @@
 
 namespace algo::terminal {
 
-/// The forms that show beside the others. The host holds them, so that they last until they are closed.
+/// The open modeless forms. The host holds them, so that they live until they are closed.
 using TShownForms = std::vector<std::shared_ptr<forms::TDialogForm>>;
 
 class TMemoryForm final : public forms::TDialogForm {
@@ -38,8 +38,8 @@ class TMemoryViewService final : public host::TCustomViewService {
   std::shared_ptr<forms::TDialogForm> MakeDialogForm(host::TIBaseView& provider) override;
   void Notify(host::TViewFrame& view, std::int32_t code) override;
 
-  /// Lets go of the forms that show, without closing them.
-  void DropForms();
+  /// Releases the open forms without closing them.
+  void ReleaseForms();
 
  private:
   const THostContext& FHost;

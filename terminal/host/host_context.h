@@ -1,6 +1,6 @@
 #pragma once
 
-// What every service of the host works on: the host's data, and whom it tells what it sees.
+// What every service of the host works with: the host's data, the receiver of its events, and the storage.
 
 #include <string_view>
 
@@ -13,9 +13,9 @@ namespace algo::terminal {
 struct THostContext {
   THostData& data;
   THostEvents& events;
-  TOrderStorage& keeper;
+  TOrderStorage& storage;
 
-  /// See TFaults::Check. Every operation that can be told to fail asks this before it does anything.
+  /// See TFaults::Check. Every operation that can be made to fail calls this before it does anything.
   void Check(std::string_view operation) const { data.faults.Check(operation); }
 };
 

@@ -1,7 +1,7 @@
 #pragma once
 
-// What the host knows, as plain values. Whoever drives the host edits them at any time; the services read
-// them anew at each call.
+// What the host knows, as plain values. Whoever drives the host may edit them at any time; the services read
+// them afresh at each call.
 
 #include <cstdint>
 #include <map>
@@ -41,13 +41,13 @@ struct THostData {
   std::map<std::string, std::vector<std::string>, std::less<>> lists;  ///< list-valued settings
   std::map<std::string, host::TInstrument, std::less<>> instruments;   ///< known instruments by symbol
   std::map<std::int32_t, forms::TColor> colors;                        ///< skin colours by index
-  bool accept = true;  ///< what order actions are answered with
-  /// Whether the host works the orders itself: what it filled while a change was made on a copy is then kept,
-  /// and not replaced by what stands in the copy.
+  bool accept = true;                                                  ///< whether order actions are accepted
+  /// Whether the host works the orders itself. What it filled while a change was made on a copy is then
+  /// retained instead of being replaced by the copy's figures.
   bool worksOrders = false;
   TFaults faults;
 
-  /// The setting under the key; empty when there is none.
+  /// The setting with that key; empty if there is none.
   std::string Setting(std::string_view wantedSection, std::string_view key) const;
 };
 

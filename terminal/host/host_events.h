@@ -1,8 +1,8 @@
 #pragma once
 
-// What the host sees of the module, told as it happens to whoever runs the host. A service call that fails is
-// not told. References are good for the duration of the call; a frame may be in the middle of being made or
-// of going away, so that it is no more than an identity with a class name.
+// What the module does at the host's services, reported as it happens to whoever runs the host. A service
+// call that fails is not reported. References are valid for the duration of the call; a frame may be under
+// construction or destruction, so that it is no more than an identity with a class name.
 
 #include <cstdint>
 #include <string_view>
@@ -25,11 +25,11 @@ class THostEvents {
   virtual void MessageShown(std::string_view text) = 0;
   virtual void ErrorCodeShown(std::string_view code) = 0;
 
-  /// An order action was asked for and answered. `order` is as it was at the call.
+  /// An order action was requested and answered. `order` is as it was at the call.
   virtual void ActionTaken(const host::TCustomClientOrder& order, host::TOrderAction action,
                            std::int32_t argument, bool answer) = 0;
 
-  /// The module posted; every subscriber has had the record.
+  /// The module posted; every subscriber has received the record.
   virtual void Posted(std::int32_t channel, const host::TChannelRecord& record) = 0;
 
   virtual void ViewNotified(const host::TViewFrame& view, std::int32_t code) = 0;
@@ -43,19 +43,19 @@ class THostEvents {
   virtual void EditorRegistered(TEditorKind kind, const forms::TControl& control,
                                 std::string_view groupId) = 0;
   virtual void EditorRemoved(TEditorKind kind, const forms::TControl& control) = 0;
-  /// A price or quantity editor was told which symbol it serves.
+  /// A price or quantity editor was given the symbol that it serves.
   virtual void EditorSymbolSet(TEditorKind kind, const forms::TControl& control, std::string_view symbol) = 0;
-  /// An account from a layout is put into an account editor; told before the editor takes it up.
+  /// An account from a layout is about to be put into an account editor.
   virtual void LayoutAccountSet(const forms::TControl& control, std::string_view account) = 0;
 
-  /// A form shows beside the others, is called to the front, or has closed again. Modal forms are not told
+  /// A form opened beside the others, was brought to the front, or closed again. Modal forms are not reported
   /// here.
   virtual void FormShown(forms::TDialogForm& form) = 0;
   virtual void FormBroughtToFront(forms::TDialogForm& form) = 0;
   virtual void FormClosed(forms::TDialogForm& form) = 0;
 
-  /// Caption, client size or stay-on-top of a form changed, whether it shows or not. A host without windows
-  /// has no use for it.
+  /// Caption, client size or stay-on-top of a form changed, whether it is open or not. Does nothing, which is
+  /// right for a host without windows.
   virtual void FormLooksChanged(forms::TDialogForm& form);
 
   /// Plays the trader while the form shows modally. Must give the form a modal result before it returns.

@@ -1,7 +1,7 @@
 #pragma once
 
-// The listeners of one source of news. While they are told, any of them may take itself or another one off
-// the list, add one, or set off the next round; a listener that was taken off is not called any more.
+// The listeners of one source of notifications. While they are being notified, any of them may remove itself
+// or another listener, add one, or start another round; a listener that was removed is not called any more.
 
 #include <algorithm>
 #include <cstddef>
@@ -14,16 +14,16 @@
 
 namespace algo::terminal {
 
-template <class... TNews>
+template <class... TArguments>
 class TListeners {
  public:
-  using THandler = std::function<void(TNews...)>;
+  using THandler = std::function<void(TArguments...)>;
 
   void Add(THandler handler, host::TOwner owner) {
     FEntries.push_back(std::make_shared<const TEntry>(TEntry{std::move(handler), owner}));
   }
 
-  /// Takes the listeners of the owner off the list; with no effect when there is none.
+  /// Removes the owner's listeners; without effect if there are none.
   void Remove(host::TOwner owner) {
     for (auto& entry : FEntries) {
       if (entry && entry->owner == owner) entry.reset();
@@ -35,14 +35,14 @@ class TListeners {
     return std::all_of(FEntries.begin(), FEntries.end(), [](const auto& entry) { return !entry; });
   }
 
-  /// Calls the listeners in the order in which they came; those that are added meanwhile wait for the next
-  /// round. What a listener throws ends the round and runs up to the caller.
-  void Tell(TNews... news) {
+  /// Calls the listeners in the order in which they were added; those that are added meanwhile wait for the
+  /// next round. What a listener throws ends the round and reaches the caller.
+  void Notify(TArguments... arguments) {
     const TRound round(*this);
     const std::size_t count = FEntries.size();
     for (std::size_t i = 0; i < count; ++i) {
-      // Held here, because the listener may take itself off the list.
-      if (const auto entry = FEntries[i]) entry->handler(news...);
+      // Held here, because the listener may remove itself.
+      if (const auto entry = FEntries[i]) entry->handler(arguments...);
     }
   }
 
@@ -52,8 +52,7 @@ class TListeners {
     host::TOwner owner;
   };
 
-  // A round that runs goes by places in the list, so that the places of those that leave are kept until the
-  // outermost round is over.
+  // A round iterates by index, so the entries of removed listeners stay until the outermost round is over.
   class TRound {
    public:
     explicit TRound(TListeners& listeners) : FListeners(listeners) { ++FListeners.FRounds; }

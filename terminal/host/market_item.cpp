@@ -18,7 +18,7 @@ std::string_view TMemoryItem::FieldText(std::int32_t field) const {
 
 void TMemoryItem::SetField(std::int32_t field, std::string_view text) {
   TField& changed = FFields[field];
-  changed.text = text;  // into the room that it has
+  changed.text = text;  // reuses its capacity
   changed.number = text::NumberOr(text, 0);
 }
 

@@ -1,7 +1,7 @@
 #pragma once
 
-// The live record of one symbol, and the collections of such records and of spread codes in which news of
-// them travels.
+// The live record of one symbol, and the collections of such records and of spread codes that listeners are
+// notified with.
 
 #include <cstddef>
 #include <cstdint>
@@ -31,11 +31,11 @@ class TMemoryItem final : public host::TMarketDataItem {
   void SetField(std::int32_t field, std::string_view text);
   void RemoveField(std::int32_t field) { FFields.erase(field); }
 
-  /// Those who are told of updates of this item.
+  /// The listeners that are notified of updates of this item.
   TUpdateListeners& Listeners() { return FListeners; }
 
  private:
-  // Read as a number once, when it is set: a field is asked for far more often than it changes.
+  // The number is parsed once, when the field is set: a field is read far more often than it changes.
   struct TField {
     std::string text;
     double number = 0;
@@ -47,7 +47,7 @@ class TMemoryItem final : public host::TMarketDataItem {
   std::int32_t FState = host::ItemEmpty;
 };
 
-/// The news that one item changed.
+/// The notification that one item changed.
 class TOneItem final : public host::TItemDictionary {
  public:
   explicit TOneItem(TMemoryItem& item) : FItem(item) {}
@@ -61,7 +61,7 @@ class TOneItem final : public host::TItemDictionary {
   TMemoryItem& FItem;
 };
 
-/// The news that the spread tables with some codes changed.
+/// The notification that the spread tables with some codes changed.
 class TSpreadCodes final : public host::TSpreadDictionary {
  public:
   explicit TSpreadCodes(std::span<const std::string> codes) : FCodes(codes) {}

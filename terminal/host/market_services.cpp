@@ -45,9 +45,9 @@ void TMemoryMarketAdapter::AddSpreadListener(TSpreadListener listener, host::TOw
 
 void TMemoryMarketAdapter::RemoveSpreadListener(host::TOwner owner) { FListeners.Remove(owner); }
 
-void TMemoryMarketAdapter::Tell(std::span<const std::string> codes) {
+void TMemoryMarketAdapter::Notify(std::span<const std::string> codes) {
   const TSpreadCodes changed(codes);
-  FListeners.Tell(this, &changed);
+  FListeners.Notify(this, &changed);
 }
 
 }  // namespace algo::terminal

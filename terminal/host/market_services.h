@@ -19,16 +19,18 @@ class TMemorySubscribeAdapter final : public host::TCustomSubscribeAdapter {
  public:
   explicit TMemorySubscribeAdapter(const THostContext& host) : FHost(host) {}
 
-  /// All data sets hold the same items, and an item once made stays.
+  /// All data sets hold the same items, and an item is never removed.
   host::TMarketDataItem* Subscribe(std::string_view symbol, std::string_view dataSet, bool live) override;
   void AddListener(host::TMarketDataItem* item, TListener listener, host::TOwner owner) override;
   void Unsubscribe(host::TMarketDataItem* item, host::TOwner owner) override;
 
-  /// The item of the symbol, made in state 0 if need be.
+  /// The item of the symbol, created in state 0 if necessary.
   TMemoryItem& Item(std::string_view symbol);
 
-  /// Tells the listeners of `item` the news, which need not be of that item.
-  void Tell(TMemoryItem& item, const host::TItemDictionary& news) { item.Listeners().Tell(this, &news); }
+  /// Notifies the listeners of `item` that the items in `changed`, which need not include it, changed.
+  void Notify(TMemoryItem& item, const host::TItemDictionary& changed) {
+    item.Listeners().Notify(this, &changed);
+  }
 
  private:
   const THostContext& FHost;
@@ -43,8 +45,8 @@ class TMemoryMarketAdapter final : public host::TCustomMarketAdapter {
   void AddSpreadListener(TSpreadListener listener, host::TOwner owner) override;
   void RemoveSpreadListener(host::TOwner owner) override;
 
-  /// Tells the listeners that the spread tables with these codes changed.
-  void Tell(std::span<const std::string> codes);
+  /// Notifies the listeners that the spread tables with these codes changed.
+  void Notify(std::span<const std::string> codes);
 
  private:
   const THostContext& FHost;

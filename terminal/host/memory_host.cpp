@@ -14,12 +14,12 @@
 namespace algo::terminal {
 
 struct TMemoryHost::TServices {
-  TServices(THostEvents& events, TOrderStorage& keeper)
-      : ledger(orders, keeper), context{data, events, keeper} {}
+  TServices(THostEvents& events, TOrderStorage& storage)
+      : journal(orders, storage), context{data, events, storage} {}
 
   THostData data;
   TOrderStore orders;
-  TOrderJournal ledger;
+  TOrderJournal journal;
   THostContext context;
 
   host::TInstalledService<TMemoryConfigManager> config{context};
@@ -30,7 +30,7 @@ struct TMemoryHost::TServices {
   host::TInstalledService<TMemoryLookAndFeelService> skins{context};
   host::TInstalledService<TMemoryChannelManager> channels{context};
   host::TInstalledService<TMemoryOrderAdapter> adapter{context, orders};
-  host::TInstalledService<TMemoryOrderActionManager> actions{context, ledger};
+  host::TInstalledService<TMemoryOrderActionManager> actions{context, journal};
   host::TInstalledService<TMemorySubscribeAdapter> subscriptions{context};
   host::TInstalledService<TMemoryMarketAdapter> market{context};
   host::TInstalledService<TMemoryEditorManager> editors{context};
@@ -39,32 +39,32 @@ struct TMemoryHost::TServices {
 
 namespace {
 
-TOrderStorage& KeepsNothing() {
+TOrderStorage& NoStorage() {
   static TOrderStorage nothing;
   return nothing;
 }
 
 }  // namespace
 
-TMemoryHost::TMemoryHost(THostEvents& events) : TMemoryHost(events, KeepsNothing()) {}
+TMemoryHost::TMemoryHost(THostEvents& events) : TMemoryHost(events, NoStorage()) {}
 
-TMemoryHost::TMemoryHost(THostEvents& events, TOrderStorage& keeper)
-    : FServices(std::make_unique<TServices>(events, keeper)) {}
+TMemoryHost::TMemoryHost(THostEvents& events, TOrderStorage& storage)
+    : FServices(std::make_unique<TServices>(events, storage)) {}
 
-TMemoryHost::~TMemoryHost() { FServices->views->DropForms(); }
+TMemoryHost::~TMemoryHost() { FServices->views->ReleaseForms(); }
 
 THostData& TMemoryHost::Data() { return FServices->data; }
 
 TOrderStore& TMemoryHost::Orders() { return FServices->orders; }
 
-TOrderJournal& TMemoryHost::Ledger() { return FServices->ledger; }
+TOrderJournal& TMemoryHost::Journal() { return FServices->journal; }
 
-void TMemoryHost::TellConfigChanged() { FServices->config->Tell(); }
+void TMemoryHost::NotifyConfigChanged() { FServices->config->Notify(); }
 
-void TMemoryHost::TellSkinChanged(std::string_view name) { FServices->skins->Tell(name); }
+void TMemoryHost::NotifySkinChanged(std::string_view name) { FServices->skins->Notify(name); }
 
 void TMemoryHost::SetMarket(std::string_view symbol, std::optional<std::int32_t> state,
-                            const TFieldChanges& changes, bool notify, bool others) {
+                            const TFieldChanges& changes, TMarketNotice notice) {
   TMemorySubscribeAdapter& subscriptions = *FServices->subscriptions;
   TMemoryItem& item = subscriptions.Item(symbol);
   if (state) item.SetState(*state);
@@ -75,22 +75,22 @@ void TMemoryHost::SetMarket(std::string_view symbol, std::optional<std::int32_t>
       item.RemoveField(field);
     }
   }
-  if (!notify) return;
-  if (others) {
+  if (notice == TMarketNotice::Item) subscriptions.Notify(item, TOneItem(item));
+  if (notice == TMarketNotice::OtherItems) {
     TMemoryItem other(std::string(symbol) + "+");
-    subscriptions.Tell(item, TOneItem(other));
-  } else {
-    subscriptions.Tell(item, TOneItem(item));
+    subscriptions.Notify(item, TOneItem(other));
   }
 }
 
 void TMemoryHost::SetMarket(std::string_view symbol, std::span<const TFieldText> fields) {
   TMemoryItem& item = FServices->subscriptions->Item(symbol);
   for (const auto& [field, text] : fields) item.SetField(field, text);
-  FServices->subscriptions->Tell(item, TOneItem(item));
+  FServices->subscriptions->Notify(item, TOneItem(item));
 }
 
-void TMemoryHost::TellSpread(std::span<const std::string> codes) { FServices->market->Tell(codes); }
+void TMemoryHost::NotifySpreadChanged(std::span<const std::string> codes) {
+  FServices->market->Notify(codes);
+}
 
 void TMemoryHost::PostAsHost(std::int32_t channel, host::TChannelRecord& record) {
   FServices->channels->Deliver(channel, &record);

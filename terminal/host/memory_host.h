@@ -20,10 +20,17 @@
 
 namespace algo::terminal {
 
-/// Changes of a market-data item by field id; nothing takes the field out.
+/// Changes of a market-data item by field id; a field without a text is removed.
 using TFieldChanges = std::map<std::int32_t, std::optional<std::string>>;
 
-/// A field of a market-data item and the text that it is to have.
+/// Whom a change of a market-data item is announced to, and as a change of what.
+enum class TMarketNotice : std::uint8_t {
+  None,        ///< nobody is notified
+  Item,        ///< the item's listeners are notified of the item
+  OtherItems,  ///< the item's listeners are notified of items other than theirs
+};
+
+/// A field of a market-data item and its new text.
 struct TFieldText {
   std::int32_t field = 0;
   std::string_view text;
@@ -31,40 +38,39 @@ struct TFieldText {
 
 class TMemoryHost {
  public:
-  /// Installs all services, which keep nothing beyond the host's life. `events` outlives the host.
+  /// Installs all services, which store nothing beyond the host's life. `events` outlives the host.
   explicit TMemoryHost(THostEvents& events);
-  /// The same, but what changes for good goes to the keeper first. Both outlive the host.
-  TMemoryHost(THostEvents& events, TOrderStorage& keeper);
-  /// Lets go of the forms that still show, then puts back the services that were installed before.
+  /// The same, but lasting changes go to the storage first. Both outlive the host.
+  TMemoryHost(THostEvents& events, TOrderStorage& storage);
+  /// Releases the forms that still show, then restores the services that were installed before.
   ~TMemoryHost();
   TMemoryHost(const TMemoryHost&) = delete;
   TMemoryHost& operator=(const TMemoryHost&) = delete;
 
   THostData& Data();
   TOrderStore& Orders();
-  /// Through which the terminal itself, a market for one, changes orders.
-  TOrderJournal& Ledger();
+  /// The way for the terminal itself, for instance a market, to change orders.
+  TOrderJournal& Journal();
 
-  /// Tells every listener for settings that they changed.
-  void TellConfigChanged();
+  /// Notifies every settings listener that settings changed.
+  void NotifyConfigChanged();
 
-  /// Tells every listener for skins the name of the new one.
-  void TellSkinChanged(std::string_view name);
+  /// Notifies every skin listener of the new skin's name.
+  void NotifySkinChanged(std::string_view name);
 
-  /// Merges the changes into the item of the symbol, which is made if need be; without a state it keeps the
-  /// one that it has (a new one: empty). Then, if `notify`, tells the item's listeners; with `others` they
-  /// are given items other than theirs.
+  /// Merges the changes into the item of the symbol, which is created if necessary, then notifies. Without a
+  /// state the item keeps its own; a new item is in the empty state.
   void SetMarket(std::string_view symbol, std::optional<std::int32_t> state, const TFieldChanges& changes,
-                 bool notify, bool others);
+                 TMarketNotice notice);
 
-  /// Gives these fields of the symbol's item, which is made if need be, their texts, then tells the item's
-  /// listeners. Takes no memory where the item has the fields already, with room for the texts.
+  /// Sets these fields of the symbol's item, which is created if necessary, then notifies the item's
+  /// listeners. Allocates nothing if the item has the fields already, with room for the texts.
   void SetMarket(std::string_view symbol, std::span<const TFieldText> fields);
 
-  /// Tells every listener for spread tables that the tables with these codes changed.
-  void TellSpread(std::span<const std::string> codes);
+  /// Notifies every spread table listener that the tables with these codes changed.
+  void NotifySpreadChanged(std::span<const std::string> codes);
 
-  /// Posts as another view of the terminal would: delivered as any post, but not told as an event.
+  /// Posts as another view of the terminal would: delivered like any post, but not reported as an event.
   void PostAsHost(std::int32_t channel, host::TChannelRecord& record);
 
  private:

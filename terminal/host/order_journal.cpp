@@ -5,14 +5,14 @@
 namespace algo::terminal {
 
 void TOrderJournal::Record(const TOrderEvent& event, const host::TCustomClientOrder& order) {
-  FKeeper.KeepOrder(event, order);
+  FStorage.StoreOrder(event, order);
   host::TCustomClientOrder* stored = FOrders.Find(order.key);
   if (stored == nullptr) {
     stored = &FOrders.Add(std::make_unique<host::TCustomClientOrder>(order));
   } else {
     stored->AssignContent(order);
   }
-  FListeners.Tell(*stored);
+  FListeners.Notify(*stored);
 }
 
 }  // namespace algo::terminal

@@ -1,7 +1,7 @@
 #pragma once
 
-// The one way by which orders come into the store and change there: kept first, then stored, then told. So an
-// order that anybody was told of is one that is on record.
+// The only way in which orders enter the store and change there: first written to the storage, then put into
+// the store, then announced to the listeners. So every order that a listener has seen is on record.
 
 #include "terminal/host/listeners.h"
 #include "terminal/host/order_storage.h"
@@ -13,26 +13,26 @@ class TOrderJournal {
  public:
   using TOrderListeners = TListeners<const host::TCustomClientOrder&>;
 
-  /// Both outlive the ledger.
-  TOrderJournal(TOrderStore& orders, TOrderStorage& keeper) : FOrders(orders), FKeeper(keeper) {}
+  /// `orders` and `storage` outlive the journal.
+  TOrderJournal(TOrderStore& orders, TOrderStorage& storage) : FOrders(orders), FStorage(storage) {}
 
-  /// Adds the order, or gives the stored order of its key this content. Throws EError, with no effect on the
-  /// store, when it could not be kept.
+  /// Adds the order, or gives the order with its key this content. Throws EError, with no effect on the order
+  /// store, if it could not be written to the storage.
   void Record(const TOrderEvent& event, const host::TCustomClientOrder& order);
 
-  /// Puts an event on record that changes no order. Throws EError when it could not be kept.
+  /// Records an event that changes no order. Throws EError if it could not be written to the storage.
   void Note(const TOrderEvent& event, const host::TCustomClientOrder& order) {
-    FKeeper.KeepEvent(event, order);
+    FStorage.StoreEvent(event, order);
   }
 
   TOrderStore& Orders() { return FOrders; }
 
-  /// Those who are told of each order that came or changed, as it is in the store.
+  /// The listeners that are notified of each new or changed order, as it is in the store.
   TOrderListeners& Listeners() { return FListeners; }
 
  private:
   TOrderStore& FOrders;
-  TOrderStorage& FKeeper;
+  TOrderStorage& FStorage;
   TOrderListeners FListeners;
 };
 

@@ -62,7 +62,7 @@ bool TMemoryOrderActionManager::TakeAction(const void* /*sender*/, host::TCustom
   if (answer) {
     CarryOut(*order, action);
   } else {
-    FLedger.Note({FHost.data.profile.user, std::string(NameOf(action)), "refused"}, *order);
+    FJournal.Note({FHost.data.profile.user, std::string(NameOf(action)), "refused"}, *order);
   }
   FHost.events.ActionTaken(*order, action, argument, answer);
   return answer;
@@ -70,18 +70,18 @@ bool TMemoryOrderActionManager::TakeAction(const void* /*sender*/, host::TCustom
 
 void TMemoryOrderActionManager::CarryOut(const host::TCustomClientOrder& order, host::TOrderAction action) {
   const TOrderEvent event{FHost.data.profile.user, std::string(NameOf(action)), "accepted"};
-  TOrderStore& orders = FLedger.Orders();
+  TOrderStore& orders = FJournal.Orders();
   switch (action) {
     case host::TOrderAction::New:
-      return FLedger.Record(event, AsNewOrder(order, orders.NextFreeKey()));
+      return FJournal.Record(event, AsNewOrder(order, orders.NextFreeKey()));
     case host::TOrderAction::Change:
-      // An order that is not the host's own was accepted for somebody else to carry out.
+      // An order that is not in the store was accepted on behalf of somebody else, who carries it out.
       if (const auto* stored = orders.Find(order.key)) {
-        return FLedger.Record(event, FHost.data.worksOrders ? AsChangedOrder(*stored, order) : order);
+        return FJournal.Record(event, FHost.data.worksOrders ? AsChangedOrder(*stored, order) : order);
       }
-      return FLedger.Note(event, order);
+      return FJournal.Note(event, order);
     case host::TOrderAction::Work:
-      return FLedger.Record(event, AsChildOrder(order, orders.NextFreeKey()));
+      return FJournal.Record(event, AsChildOrder(order, orders.NextFreeKey()));
   }
 }
 

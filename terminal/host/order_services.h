@@ -1,6 +1,6 @@
 #pragma once
 
-// The services around orders: the store as the module sees it, and the taking of actions on orders.
+// The services around orders: the store as the module sees it, and actions on orders.
 
 #include <cstddef>
 #include <cstdint>
@@ -30,11 +30,12 @@ class TMemoryOrderAdapter final : public host::TCustomOrderAdapter {
   TOrderStore& FOrders;
 };
 
-/// Answers what the host data says, and records what it accepts: a new order is added, a change replaces the
-/// order of that key where there is one, a work order adds a child. What it refuses is noted.
+/// Answers as the host data says, and records what it accepts: a new order is added, a change replaces the
+/// order with that key if there is one, a work order adds a child. A refusal is recorded as an event.
 class TMemoryOrderActionManager final : public host::TCustomOrderActionManager {
  public:
-  TMemoryOrderActionManager(const THostContext& host, TOrderJournal& ledger) : FHost(host), FLedger(ledger) {}
+  TMemoryOrderActionManager(const THostContext& host, TOrderJournal& journal)
+      : FHost(host), FJournal(journal) {}
 
   bool TakeAction(const void* sender, host::TCustomClientOrder* order, host::TOrderAction action,
                   std::int32_t argument) override;
@@ -43,7 +44,7 @@ class TMemoryOrderActionManager final : public host::TCustomOrderActionManager {
   void CarryOut(const host::TCustomClientOrder& order, host::TOrderAction action);
 
   const THostContext& FHost;
-  TOrderJournal& FLedger;
+  TOrderJournal& FJournal;
 };
 
 }  // namespace algo::terminal

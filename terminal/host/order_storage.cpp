@@ -4,11 +4,11 @@ namespace algo::terminal {
 
 TOrderStorage::~TOrderStorage() = default;
 
-void TOrderStorage::KeepOrder(const TOrderEvent& /*event*/, const host::TCustomClientOrder& /*order*/) {}
+void TOrderStorage::StoreOrder(const TOrderEvent& /*event*/, const host::TCustomClientOrder& /*order*/) {}
 
-void TOrderStorage::KeepEvent(const TOrderEvent& /*event*/, const host::TCustomClientOrder& /*order*/) {}
+void TOrderStorage::StoreEvent(const TOrderEvent& /*event*/, const host::TCustomClientOrder& /*order*/) {}
 
-void TOrderStorage::KeepSetting(std::string_view /*section*/, std::string_view /*key*/,
-                                std::string_view /*value*/) {}
+void TOrderStorage::StoreSetting(std::string_view /*section*/, std::string_view /*key*/,
+                                 std::string_view /*value*/) {}
 
 }  // namespace algo::terminal

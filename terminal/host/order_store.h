@@ -1,6 +1,6 @@
 #pragma once
 
-// The orders of the host, in the order in which they came, each under a key of its own.
+// The orders of the host, in the order in which they arrived, each under a key of its own.
 
 #include <cstddef>
 #include <cstdint>
@@ -19,13 +19,13 @@ class TOrderStore {
   /// All orders, oldest first.
   const std::vector<std::unique_ptr<host::TCustomClientOrder>>& All() const { return FOrders; }
 
-  /// The order with that key; nullptr when there is none. The key of a stored order does not change.
+  /// The order with that key; nullptr if there is none. The key of a stored order does not change.
   host::TCustomClientOrder* Find(std::string_view key) const;
 
-  /// Adds an order, whose key no other order of the store has.
+  /// Adds an order, whose key must not be in use.
   host::TCustomClientOrder& Add(std::unique_ptr<host::TCustomClientOrder> order);
 
-  /// The key for the next order that the host itself numbers: "N1", "N2", …, leaving out keys in use.
+  /// The key for the next order that the host itself numbers: "N1", "N2", …, skipping keys in use.
   std::string NextFreeKey();
 
  private:

@@ -1,6 +1,6 @@
 #pragma once
 
-// The services that the user sees: messages and skins.
+// The services whose work the user sees: messages and skins.
 
 #include <cstdint>
 #include <functional>
@@ -28,13 +28,13 @@ class TMemoryLookAndFeelService final : public host::TCustomLookAndFeelService {
  public:
   explicit TMemoryLookAndFeelService(const THostContext& host) : FHost(host) {}
 
-  /// A colour that the skin does not have is black.
+  /// A colour that the skin lacks is black.
   forms::TColor ColorOf(std::int32_t index, std::int32_t variant) override;
   void AddListener(std::function<void(std::string_view skin)> listener, host::TOwner owner) override;
   void RemoveListener(host::TOwner owner) override;
 
-  /// Tells the listeners that the skin of that name is in use now.
-  void Tell(std::string_view skin) { FListeners.Tell(skin); }
+  /// Notifies the listeners that the skin with that name is now in use.
+  void Notify(std::string_view skin) { FListeners.Notify(skin); }
 
  private:
   const THostContext& FHost;

@@ -17,7 +17,7 @@ class TMemoryLanguageManager final : public host::TCustomLanguageManager {
  public:
   explicit TMemoryLanguageManager(const THostContext& host) : FHost(host) {}
 
-  /// A resource id without a text gives the id itself, any other id nothing.
+  /// A resource id without a text yields the id itself, any other id an empty text.
   std::string GetText(std::string_view tag, std::string_view id, std::int32_t language, std::int32_t variant,
                       std::int32_t options) override;
 

@@ -69,7 +69,7 @@ bool TakePiece(TAlgoPlan& plan, std::string_view piece) {
 }  // namespace
 
 std::optional<TAlgoPlan> ReadAlgoPlan(std::string_view text) {
-  // Whether children carry a price is told by the order's own price, so either prefix will do.
+  // Whether children carry a price follows from the order's own price, so either prefix will do.
   const bool framed = (text.starts_with("TMLO:") || text.starts_with("TMMO:")) && text.ends_with(';');
   if (!framed) return std::nullopt;
   text.remove_prefix(std::string_view("TMLO:").size());

@@ -1,6 +1,6 @@
 #pragma once
 
-// Takes the text of a CSV file apart into the fields of its lines, and counts the lines.
+// Splits the text of a CSV file into the fields of its lines, and counts the lines.
 
 #include <cstddef>
 #include <string>
@@ -11,16 +11,16 @@ namespace algo::terminal::paper {
 
 class TCsvScanner {
  public:
-  /// Passes over a byte-order mark. `file`, the name for messages, and `text` outlive the scanner.
+  /// Skips a byte-order mark. `file`, the name for messages, and `text` outlive the scanner.
   TCsvScanner(const std::string& file, std::string_view text);
 
-  /// The number of the line that the next call of ReadFields begins at, from 1.
+  /// The number of the line at which the next call of ReadFields begins, from 1.
   std::size_t Line() const { return FLine; }
 
-  /// Passes over comments and empty lines; whether a line with fields follows.
+  /// Skips comments and empty lines. Returns whether a line with fields follows.
   bool SkipToFields();
 
-  /// The fields of the line, one at least. Throws EPaperError when the quotes in it do not match.
+  /// The fields of the line, at least one. Throws EPaperError if its quotes do not match.
   std::vector<std::string> ReadFields();
 
  private:

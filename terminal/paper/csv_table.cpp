@@ -81,7 +81,7 @@ void TCsvTable::TRow::Fail(const std::string& problem) const {
 std::string ReadTableFile(const std::filesystem::path& file) {
   std::ifstream stream(file, std::ios::binary);
   std::ostringstream text;
-  // An empty file leaves nothing to copy, which the stream takes for a failure.
+  // Copying nothing from an empty file would set the stream's failure flag.
   if (stream && stream.peek() != std::ifstream::traits_type::eof()) text << stream.rdbuf();
   if (!stream.is_open() || stream.bad())
     throw EPaperError(file.string(), 1, "cannot be read; a file is expected");

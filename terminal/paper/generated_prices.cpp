@@ -35,7 +35,7 @@ void TGeneratedPrices::Advance(double seconds, std::span<TQuote> quotes) {
 
 void TGeneratedPrices::Move(TWalk& walk, double seconds) {
   const double deviation = walk.instrument.dailyVolatility * std::sqrt(seconds / walk.sessionSeconds);
-  // A sample that lost or won more than this in a day would look broken.
+  // A sample that lost or gained more than this in a day would look broken.
   constexpr double Least = 0.5;
   constexpr double Most = 2;
   const double close = walk.instrument.previousClose;
@@ -43,7 +43,7 @@ void TGeneratedPrices::Move(TWalk& walk, double seconds) {
 }
 
 void TGeneratedPrices::Trade(TWalk& walk, double seconds, TQuote& quote) {
-  // Twice a number between 0 and 1 is 1 on average, so that a day's volumes add up to the day's volume.
+  // Twice a number between 0 and 1 is 1 on average, so that the steps of a day add up to the daily volume.
   walk.untraded += walk.instrument.dailyVolume * seconds / walk.sessionSeconds * 2 * FRandom.Uniform();
   const bool buyer = FRandom.Uniform() < 0.5;
   const double lots = std::floor(walk.untraded / walk.instrument.lot);

@@ -1,7 +1,7 @@
 #pragma once
 
-// Made-up prices: each instrument walks at random about as widely, and trades about as much, in a day as its
-// tables say. The same seed gives the same prices on any machine.
+// Generated prices: the price of each instrument is a random walk with about the daily volatility and the
+// daily volume of its tables. The same seed gives the same prices on any machine.
 
 #include <cstdint>
 #include <vector>
@@ -20,13 +20,13 @@ class TGeneratedPrices final : public TPriceSource {
   void Advance(double seconds, std::span<TQuote> quotes) override;
 
  private:
-  // One instrument under way.
+  // The random walk of one instrument.
   struct TWalk {
     const TSpreadTable& spread;
     const TPaperInstrument& instrument;
     double sessionSeconds;  ///< from open to close, in which a day's volume trades
-    double fair;            ///< where the price would be without a grid
-    double untraded = 0;    ///< volume that was too little for a lot
+    double fair;            ///< the price before it is rounded to a tick
+    double untraded = 0;    ///< volume that did not fill a lot yet
   };
 
   void Move(TWalk& walk, double seconds);

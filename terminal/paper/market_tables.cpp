@@ -57,7 +57,7 @@ void AddExchange(TMarketTables& tables, const TRow& row) {
 }
 
 void AddSpreadStep(TMarketTables& tables, const TRow& row) {
-  // Finer prices would get lost where they are rounded.
+  // Finer prices would be lost in rounding.
   constexpr double FinestTick = 1e-6;
   TSpreadTable& steps = tables.spreads[row.Given("spread")];
   const TSpreadStep step{row.NotNegative("from"), row.Positive("tick")};

@@ -1,7 +1,7 @@
 #pragma once
 
-// What the paper market trades in and where, as plain values read from a folder of tables: exchanges.csv,
-// spreads.csv and instruments.csv.
+// The instruments of the paper market and their exchanges, as plain values read from a folder of tables:
+// exchanges.csv, spreads.csv and instruments.csv.
 
 #include <chrono>
 #include <cstddef>
@@ -41,7 +41,7 @@ struct TPaperInstrument {
   double previousClose = 0;    ///< on the grid of its spread table
   double dailyVolatility = 0;  ///< standard deviation of a day's return, 0.02 for two percent
   double dailyVolume = 0;      ///< shares
-  double multiplier = 1;       ///< the price shown is the market's times this
+  double multiplier = 1;       ///< the shown price is the market's times this
 };
 
 struct TMarketTables {
@@ -49,7 +49,7 @@ struct TMarketTables {
   std::map<std::string, TSpreadTable, std::less<>> spreads;  ///< by spread code
   std::vector<TPaperInstrument> instruments;
 
-  /// The index of the instrument; nothing when there is none of that symbol.
+  /// The index of the instrument; nothing if there is none with that symbol.
   std::optional<std::size_t> IndexOf(std::string_view symbol) const;
   /// The spread table of an instrument of these tables.
   const TSpreadTable& SpreadOf(const TPaperInstrument& instrument) const;
@@ -57,7 +57,7 @@ struct TMarketTables {
   const TPaperExchange& ExchangeOf(const TPaperInstrument& instrument) const;
 };
 
-/// Reads the tables of the folder. Throws EPaperError at the first thing in them that cannot be used.
+/// Reads the tables of the folder. Throws EPaperError at the first unusable entry.
 TMarketTables LoadMarketTables(const std::filesystem::path& folder);
 
 }  // namespace algo::terminal::paper

@@ -6,7 +6,7 @@ namespace algo::terminal::paper {
 
 namespace {
 
-// The next moment after `from` at which the clock shows that time of day.
+// The next occurrence of that time of day after `from`.
 TMoment NextTime(TMoment from, std::chrono::seconds timeOfDay) {
   const TMoment today = std::chrono::floor<std::chrono::days>(from) + timeOfDay;
   return today > from ? today : today + std::chrono::days(1);
@@ -32,7 +32,7 @@ TWindow WindowOf(TPhase phase, const TPaperExchange& exchange, const TAlgoPlan& 
   const TMoment from = plan.start ? std::max(seen, TMoment(*plan.start)) : seen;
   TWindow window = PhaseAfter(phase, exchange, from);
   window.begin = std::max(window.begin, from);
-  // A day's order may go on past the close when it says so.
+  // A day order may go on past the close if its end time says so.
   if (plan.end)
     window.end = phase == TPhase::Day ? TMoment(*plan.end) : std::min(window.end, TMoment(*plan.end));
   return window;

@@ -10,7 +10,7 @@
 
 namespace algo::terminal::paper {
 
-/// A moment of the trader's local time, finer than a second.
+/// A moment in the trader's local time, finer than a second.
 using TMoment = std::chrono::local_time<std::chrono::duration<double>>;
 
 /// The part of the trading day in which an algorithm works.
@@ -19,17 +19,18 @@ enum class TPhase { Day, Opening, Closing };
 /// How long the opening and the closing phase last, from the open and up to the close.
 inline constexpr std::chrono::minutes AuctionTime{5};
 
-/// After `begin` up to and with `end`; nothing when `end` is not after `begin`.
+/// From after `begin` up to and including `end`; empty if `end` is not after `begin`.
 struct TWindow {
   TMoment begin;
   TMoment end;
 
-  /// How much of the window has passed, from 0 to 1.
+  /// The part of the window that has passed, from 0 to 1.
   double Passed(TMoment now) const;
 };
 
-/// The window of an order that came at `seen`: the phase's next one that the order's own start and end time
-/// leave. Without an end time it ends with the phase, and so a day's order at the next close.
+/// The window of an order that arrived at `seen`: the next occurrence of the phase, restricted by the order's
+/// own start and end time. Without an end time it ends with the phase, so that a day order ends at the next
+/// close.
 TWindow WindowOf(TPhase phase, const TPaperExchange& exchange, const TAlgoPlan& plan, TMoment seen);
 
 }  // namespace algo::terminal::paper

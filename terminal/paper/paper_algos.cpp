@@ -10,7 +10,7 @@ namespace algo::terminal::paper {
 
 namespace {
 
-// The smaller one of two figures of which 0 is none.
+// The smaller of two figures; 0 means not given.
 double SmallerGiven(double left, double right) {
   if (left <= 0) return right;
   return right <= 0 ? left : std::min(left, right);
@@ -22,7 +22,7 @@ double GivenOr(double figure, double fallback) { return figure > 0 ? figure : fa
 
 bool AtOnce(const TStepView&) { return true; }
 
-// Once the last price is at the stop price or beyond; an order without one never begins.
+// Once the last price has reached the stop price; an order without one never begins.
 bool AtStop(const TStepView& view) {
   if (view.plan.stopPrice <= 0) return false;
   return view.buy ? view.quote.last >= view.plan.stopPrice : view.quote.last <= view.plan.stopPrice;
@@ -30,9 +30,9 @@ bool AtStop(const TStepView& view) {
 
 // What an order wants.
 
-double Rest(const TStepView& view) { return view.quantity - view.filled; }
+double Remaining(const TStepView& view) { return view.quantity - view.filled; }
 
-// As far as the part `due` of what was to be filled at the window's begin goes beyond what is filled.
+// How far the filled quantity lags behind the part `due` of what remained when the window began.
 double Behind(const TStepView& view, double due) {
   return view.filledBefore + (view.quantity - view.filledBefore) * due - view.filled;
 }
@@ -40,13 +40,13 @@ double Behind(const TStepView& view, double due) {
 // Evenly over the window.
 double EvenlyInTime(const TStepView& view) { return Behind(view, view.passed); }
 
-// In waves that begin at even distances. The first and the last may have a percentage of their own; the
-// others share evenly what these leave.
+// In waves at equal intervals. The first and the last may have a percentage of their own; the others share
+// the remainder equally.
 double InWaves(const TStepView& view) {
   constexpr double UsualWaves = 12;
   const double waves = std::max(1.0, std::floor(GivenOr(view.plan.waves, UsualWaves)));
   const double begun = std::min(waves, std::floor(view.passed * waves) + 1);
-  if (begun == waves) return Rest(view);
+  if (begun == waves) return Remaining(view);
 
   const double open = view.plan.openPct / 100;
   const double close = view.plan.closePct / 100;
@@ -58,7 +58,7 @@ double InWaves(const TStepView& view) {
 
 double StopQuantity(const TStepView& view) { return GivenOr(view.plan.stopQty, view.quantity) - view.filled; }
 
-// Its part of what is on offer, when that is enough.
+// Its part of what is on offer, if that is enough.
 double PartOfOffer(const TStepView& view) {
   if (view.OnOffer() < view.plan.minQty) return 0;
   return view.OnOffer() * GivenOr(view.plan.servePct, 100) / 100;
@@ -74,7 +74,7 @@ double OfClosingVolume(const TStepView& view, double percent) {
   return view.volume * GivenOr(SmallerGiven(view.plan.closePct, view.plan.maxVolPct), percent) / 100;
 }
 
-// The first threshold is where the price is good, the second where it is bad.
+// The first threshold applies where the price is good, the second where it is bad.
 double OfVolumeByPrice(const TStepView& view, double percent) {
   const TAlgoPlan& plan = view.plan;
   const auto isAsGood = [&](double price) {
@@ -95,22 +95,21 @@ double OfVolumeByPrice(const TStepView& view, double percent) {
 double OfOffer(const TStepView& view, double) { return view.OnOffer(); }
 
 using enum TPhase;
-using TPricing::Take;
-constexpr TPricing AtOwnPrice = TPricing::Rest;
+using enum TPricing;
 
 constexpr std::array<TPaperAlgo, 12> Algos{{
-    {"TVOL", Day, Take, 10, AtOnce, Rest, OfVolume},
-    {"TVOL Threshold", Day, Take, 10, AtOnce, Rest, OfVolumeByPrice},
+    {"TVOL", Day, Take, 10, AtOnce, Remaining, OfVolume},
+    {"TVOL Threshold", Day, Take, 10, AtOnce, Remaining, OfVolumeByPrice},
     {"TWAP", Day, Take, 30, AtOnce, EvenlyInTime, OfVolume},
     {"VWAP", Day, Take, 30, AtOnce, InWaves, OfVolume},
-    {"CLOSE", Closing, Take, 0, AtOnce, Rest, OfOffer},
-    {"OPEN", Opening, Take, 0, AtOnce, Rest, OfOffer},
-    {"ICEBERG", Day, AtOwnPrice, 20, AtOnce, Rest, OfVolume},
+    {"CLOSE", Closing, Take, 0, AtOnce, Remaining, OfOffer},
+    {"OPEN", Opening, Take, 0, AtOnce, Remaining, OfOffer},
+    {"ICEBERG", Day, Rest, 20, AtOnce, Remaining, OfVolume},
     {"STOP", Day, Take, 0, AtStop, StopQuantity, OfOffer},
-    {"PEG", Day, AtOwnPrice, 20, AtOnce, Rest, OfVolume},
-    {"MOC", Closing, Take, 25, AtOnce, Rest, OfClosingVolume},
+    {"PEG", Day, Rest, 20, AtOnce, Remaining, OfVolume},
+    {"MOC", Closing, Take, 25, AtOnce, Remaining, OfClosingVolume},
     {"SNIPER", Day, Take, 0, AtOnce, PartOfOffer, OfOffer},
-    {"SHORT SELL", Day, AtOwnPrice, 20, AtOnce, Rest, OfVolume},
+    {"SHORT SELL", Day, Rest, 20, AtOnce, Remaining, OfVolume},
 }};
 
 }  // namespace

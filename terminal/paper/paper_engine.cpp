@@ -10,17 +10,18 @@ namespace algo::terminal::paper {
 
 TPaperEngine::TPaperEngine(TMemoryHost& host, TPaperMarket& market, std::uint64_t seed)
     : FHost(host), FMarket(market), FRandom(seed) {
-  for (const auto& order : FHost.Orders().All()) Notice(*order);
-  FHost.Ledger().Listeners().Add([this](const host::TCustomClientOrder& order) { Notice(order); }, this);
+  for (const auto& order : FHost.Orders().All()) MarkChanged(*order);
+  FHost.Journal().Listeners().Add([this](const host::TCustomClientOrder& order) { MarkChanged(order); },
+                                  this);
 }
 
-TPaperEngine::~TPaperEngine() { FHost.Ledger().Listeners().Remove(this); }
+TPaperEngine::~TPaperEngine() { FHost.Journal().Listeners().Remove(this); }
 
-// Only noted here: whoever records an order is in the middle of something, and must not fail for what the
-// engine then has to report.
-void TPaperEngine::Notice(const host::TCustomClientOrder& order) {
+// Only marks the order: the caller is in the middle of recording it, and must not fail because of what the
+// engine has to report about it.
+void TPaperEngine::MarkChanged(const host::TCustomClientOrder& order) {
   if (const auto known = FByKey.find(order.key); known != FByKey.end()) {
-    known->second->told = true;
+    known->second->changed = true;
     return;
   }
   FOrders.push_back(std::make_unique<TPaperOrder>(order));
@@ -30,17 +31,17 @@ void TPaperEngine::Notice(const host::TCustomClientOrder& order) {
 void TPaperEngine::Advance(text::TDateTime now, double seconds) {
   const TMoment end(now);
   const TMoment begin = end - std::chrono::duration<double>(seconds);
-  // By index and up to a fixed count: whoever is told of a report may add orders.
+  // By index and up to a fixed count: a listener may add orders.
   const std::size_t count = FOrders.size();
   for (std::size_t i = 0; i < count; ++i) {
     TPaperOrder& order = *FOrders[i];
     if (order.IsParent()) continue;
-    if (order.told) Settle(order, begin);
+    if (order.changed) Settle(order, begin);
     Work(order, end, seconds);
   }
   for (std::size_t i = 0; i < count; ++i) {
     TPaperOrder& order = *FOrders[i];
-    if (order.IsParent() && order.told) SumUp(order);
+    if (order.IsParent() && order.changed) SumUp(order);
   }
 }
 
@@ -48,9 +49,9 @@ bool TPaperEngine::Cancel(std::string_view key, std::string_view who) {
   const auto found = FByKey.find(key);
   if (found == FByKey.end()) return false;
   TPaperOrder& order = *found->second;
-  if (!order.IsWorkedHere()) order.outcome = order.ShownOutcome();
+  if (!order.IsWorkedHere()) order.outcome = order.StoredOutcome();
   if (IsDone(order.outcome.status)) {
-    FHost.Ledger().Note({std::string(who), "cancel", "refused"}, order.order);
+    FHost.Journal().Note({std::string(who), "cancel", "refused"}, order.order);
     return false;
   }
   const TOrderEvent event{std::string(who), "cancel", "accepted"};
@@ -64,21 +65,21 @@ bool TPaperEngine::Cancel(std::string_view key, std::string_view who) {
   return true;
 }
 
-// Brings books and order together after the order came or was changed.
+// Reconciles the engine's record with the order after the order was added or changed.
 void TPaperEngine::Settle(TPaperOrder& order, TMoment stepBegin) {
   if (!order.IsWorkedHere()) {
-    order.outcome = order.ShownOutcome();
-    NoticeParentOf(order);
+    order.outcome = order.StoredOutcome();
+    MarkParentChanged(order);
   } else if (TakeTerms(order, stepBegin)) {
     const TOutcome outcome = order.outcome.WithProgress(order.order.quantity);
-    if (outcome.status != order.outcome.status || order.ShowsAnotherOutcome()) {
+    if (outcome.status != order.outcome.status || order.DiffersFromStored()) {
       Report(order, "status", "as filled", outcome);
     }
   }
-  order.told = false;
+  order.changed = false;
 }
 
-// Reads the order's terms where they are new; false when the order was rejected for them.
+// Reads the order's terms if they changed. Returns false if the order was rejected because of them.
 bool TPaperEngine::TakeTerms(TPaperOrder& order, TMoment stepBegin) {
   const bool ended = IsDone(order.outcome.WithProgress(order.order.quantity).status);
   if (ended || (order.terms && order.terms->Match(order.order))) return true;
@@ -94,7 +95,7 @@ bool TPaperEngine::TakeTerms(TPaperOrder& order, TMoment stepBegin) {
   return true;
 }
 
-// What is wrong with the terms; empty when they were read.
+// Reads the terms. Returns what is wrong with them; empty if nothing is.
 std::string_view TPaperEngine::ReadTerms(TPaperOrder& order, TMoment stepBegin) const {
   auto plan = ReadAlgoPlan(order.order.TextProperty(host::AlgoTextProperty));
   if (!plan) return "the algo parameters cannot be read";
@@ -130,10 +131,10 @@ void TPaperEngine::SumUp(TPaperOrder& parent) {
     sum.value += child->outcome.value;
   }
   sum = sum.WithProgress(parent.order.quantity);
-  const bool news = sum.filled != parent.outcome.filled || sum.value != parent.outcome.value ||
-                    sum.status != parent.outcome.status;
-  if (news || parent.ShowsAnotherOutcome()) Report(parent, "fill", "sum of the children", sum);
-  parent.told = false;
+  const bool differs = sum.filled != parent.outcome.filled || sum.value != parent.outcome.value ||
+                       sum.status != parent.outcome.status;
+  if (differs || parent.DiffersFromStored()) Report(parent, "fill", "sum of the children", sum);
+  parent.changed = false;
 }
 
 void TPaperEngine::Report(TPaperOrder& order, std::string_view what, std::string_view answer,
@@ -141,22 +142,22 @@ void TPaperEngine::Report(TPaperOrder& order, std::string_view what, std::string
   Record(order, {"paper", std::string(what), std::string(answer)}, outcome);
 }
 
-// The order is recorded first: books that ran ahead of the ledger would say what nobody can prove.
+// The journal first: the engine's record must not show anything that is not in the journal.
 void TPaperEngine::Record(TPaperOrder& order, const TOrderEvent& event, const TOutcome& outcome) {
   host::TCustomClientOrder next(order.order);
   next.filled = outcome.filled;
   next.quantity = std::max(next.quantity, outcome.filled);
   next.status = outcome.status;
   next.SetNamedText(AveragePriceProperty, outcome.filled > 0 ? text::PlainNumber(outcome.Average()) : "");
-  FHost.Ledger().Record(event, next);
+  FHost.Journal().Record(event, next);
   order.outcome = outcome;
-  NoticeParentOf(order);
+  MarkParentChanged(order);
 }
 
-void TPaperEngine::NoticeParentOf(const TPaperOrder& order) {
+void TPaperEngine::MarkParentChanged(const TPaperOrder& order) {
   if (order.order.parentNo.empty()) return;
   for (const auto& parent : FOrders) {
-    if (order.IsChildOf(*parent)) parent->told = true;
+    if (order.IsChildOf(*parent)) parent->changed = true;
   }
 }
 

@@ -1,12 +1,11 @@
 #pragma once
 
-// An algo engine on paper: it fills algo orders at the paper market's prices so that the terminal can be
-// shown and practised with. No order leaves the terminal, and no money moves. How it works each algorithm is
-// in paper_algos.h.
+// A simulated algo engine: it fills algo orders at the paper market's prices, for demonstrations and
+// practice. No order leaves the terminal, and no money moves. paper_algos.h has the rules of each algorithm.
 //
-// It works the orders of the ledger that carry a parameter text, in the order in which they came; other
-// orders it leaves alone, but for parents, whose figures are the sums of their children's. Every order stands
-// by itself: two orders may both take their part of the same trade.
+// It works the orders of the journal that carry a parameter text, in the order of their arrival, and leaves
+// other orders alone, except parents, whose figures are the sums of their children's. Orders do not compete:
+// two orders may both take their part of the same trade.
 
 #include <cstdint>
 #include <map>
@@ -25,26 +24,26 @@ namespace algo::terminal::paper {
 
 class TPaperEngine {
  public:
-  /// Takes over the orders that the host has, and listens for more. Host and market outlive the engine.
+  /// Takes over the orders that the host has, and listens for new ones. Host and market outlive the engine.
   TPaperEngine(TMemoryHost& host, TPaperMarket& market, std::uint64_t seed);
   ~TPaperEngine();
   TPaperEngine(const TPaperEngine&) = delete;
   TPaperEngine& operator=(const TPaperEngine&) = delete;
 
-  /// Works the orders in the market's last step, which took so many seconds and ended at `now`; called once
-  /// after each step. An order that cannot be worked is rejected, one whose time is over expires. Throws
-  /// EError when the ledger cannot keep a report: that report and what was left to do have then not happened,
-  /// and the next step goes on from there.
+  /// Works the orders in the market's last step, which took that many seconds and ended at `now`; to be
+  /// called once after each step. An order that cannot be worked is rejected, one whose time is over expires.
+  /// Throws EError if the journal cannot record a report: neither that report nor the remaining work has then
+  /// happened, and the next step continues from there.
   void Advance(text::TDateTime now, double seconds);
 
-  /// Cancels the order in the name of `who`, and before it its children that are not done. False, with no
-  /// effect on any order, when there is no order of that key, or when it is done, which the ledger notes.
-  /// Throws EError when it could not be kept; children may then be cancelled already.
+  /// Cancels the order on behalf of `who`, after those of its children that are not done. Returns false, with
+  /// no effect on any order, if there is no order with that key or if it is done, which the journal records.
+  /// Throws EError if the journal could not record it; children may then be cancelled already.
   bool Cancel(std::string_view key, std::string_view who);
 
  private:
-  void Notice(const host::TCustomClientOrder& order);
-  void NoticeParentOf(const TPaperOrder& order);
+  void MarkChanged(const host::TCustomClientOrder& order);
+  void MarkParentChanged(const TPaperOrder& order);
   void Settle(TPaperOrder& order, TMoment stepBegin);
   bool TakeTerms(TPaperOrder& order, TMoment stepBegin);
   std::string_view ReadTerms(TPaperOrder& order, TMoment stepBegin) const;
@@ -59,7 +58,7 @@ class TPaperEngine {
   TMemoryHost& FHost;
   TPaperMarket& FMarket;
   TRandom FRandom;
-  std::vector<std::unique_ptr<TPaperOrder>> FOrders;  // as they came
+  std::vector<std::unique_ptr<TPaperOrder>> FOrders;  // in the order of arrival
   std::map<std::string, TPaperOrder*, std::less<>> FByKey;
 };
 

@@ -1,6 +1,6 @@
 #pragma once
 
-// What stops the loading of the paper market's tables.
+// The error of an unusable table of the paper market.
 
 #include <cstddef>
 #include <string>
@@ -9,7 +9,7 @@
 
 namespace algo::terminal::paper {
 
-/// A table that cannot be used as it is. The text is "FILE:LINE: what is wrong and what is expected".
+/// The text is "FILE:LINE: what is wrong and what is expected".
 class EPaperError : public EError {
  public:
   EPaperError(const std::string& file, std::size_t line, const std::string& problem)

@@ -19,7 +19,7 @@ struct TPublishedFigure {
   double TQuote::*figure;
 };
 
-// What changes during the day. A figure of 0 is one that there is not yet.
+// The figures that change during the day. A figure of 0 does not exist yet.
 constexpr std::array<TPublishedFigure, 9> Figures{{
     {host::PriceField, &TQuote::last},
     {field::Bid, &TQuote::bid},
@@ -72,7 +72,7 @@ void TPaperMarket::Advance(double seconds) {
   for (TQuote& quote : FQuotes) quote.stepVolume = 0;
   FPrices->Advance(seconds, FQuotes);
   for (TQuote& quote : FQuotes) CountTrades(quote);
-  // Told only when all have moved, so that whoever is told sees one moment of the market.
+  // Published only after all have moved, so that listeners see the market at one moment.
   for (std::size_t i = 0; i < FQuotes.size(); ++i) {
     const TQuote before = std::exchange(FPublished[i], FQuotes[i]);
     PublishChanges(FTables.instruments[i], FQuotes[i], before);
@@ -102,7 +102,7 @@ void TPaperMarket::PublishFirst(const TPaperInstrument& instrument, const TQuote
   for (const auto& [id, figure] : Figures) {
     if (quote.*figure != 0) fields[id] = text::PlainNumber(quote.*figure);
   }
-  FHost.SetMarket(instrument.symbol, host::ItemLive, fields, true, false);
+  FHost.SetMarket(instrument.symbol, host::ItemLive, fields, TMarketNotice::Item);
 }
 
 void TPaperMarket::PublishChanges(const TPaperInstrument& instrument, const TQuote& now,

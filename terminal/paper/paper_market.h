@@ -1,7 +1,7 @@
 #pragma once
 
-// A market on paper: it stands in for a market-data feed so that the terminal has something to show and the
-// paper engine something to fill orders with. Its prices are made up or recorded; nobody trades in it.
+// A simulated market: it stands in for a market-data feed, so that the terminal has prices to show and the
+// paper engine prices at which to fill orders. The prices are generated or recorded; nobody trades here.
 
 #include <cstdint>
 #include <memory>
@@ -16,23 +16,23 @@ namespace algo::terminal::paper {
 
 class TPaperMarket {
  public:
-  /// Makes the instruments of the tables known to the host, which outlives the market, publishes an item for
-  /// each at its previous close, and makes up prices from then on.
+  /// Adds the instruments of the tables to the data of the host, which outlives the market, publishes an item
+  /// for each at its previous close, and generates prices from then on.
   TPaperMarket(TMemoryHost& host, TMarketTables tables, std::uint64_t seed);
-  /// The same with prices from `prices`, which was made for these tables.
+  /// The same with prices from `prices`, which was created for these tables.
   TPaperMarket(TMemoryHost& host, TMarketTables tables, std::unique_ptr<TPriceSource> prices);
   TPaperMarket(const TPaperMarket&) = delete;
   TPaperMarket& operator=(const TPaperMarket&) = delete;
 
-  /// Lets so many seconds pass, 0 or more, and publishes what changed in them. Takes no memory beyond what
-  /// the items' texts need.
+  /// Advances by that many seconds, 0 or more, and publishes the changes. Allocates nothing beyond what the
+  /// items' texts need.
   void Advance(double seconds);
 
   const TMarketTables& Tables() const { return FTables; }
 
   /// The quote of the instrument with that index in the tables.
   const TQuote& Quote(std::size_t instrument) const { return FQuotes[instrument]; }
-  /// The same by symbol; nullptr when there is none of that symbol.
+  /// The same by symbol; nullptr if there is no such instrument.
   const TQuote* Quote(std::string_view symbol) const;
 
  private:

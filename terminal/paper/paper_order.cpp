@@ -22,7 +22,7 @@ bool TTerms::Match(const host::TCustomClientOrder& order) const {
 }
 
 TPaperOrder::TPaperOrder(const host::TCustomClientOrder& storedOrder)
-    : order(storedOrder), outcome(ShownOutcome()) {}
+    : order(storedOrder), outcome(StoredOutcome()) {}
 
 bool TPaperOrder::IsParent() const { return (order.flags & host::WorkParentMark) != 0; }
 
@@ -35,13 +35,13 @@ bool TPaperOrder::IsWorkedHere() const {
   return IsParent() || !order.TextProperty(host::AlgoTextProperty).empty();
 }
 
-TOutcome TPaperOrder::ShownOutcome() const {
+TOutcome TPaperOrder::StoredOutcome() const {
   const double average = text::NumberOr(order.NamedText(AveragePriceProperty), order.price);
   return {order.filled, order.filled * average, order.status};
 }
 
-bool TPaperOrder::ShowsAnotherOutcome() const {
-  // An average that was read back from its text may differ in its last digit.
+bool TPaperOrder::DiffersFromStored() const {
+  // An average that was parsed from its text may differ in the last digit.
   constexpr double Slack = 1e-12;
   const double average = outcome.Average();
   const double shown = text::NumberOr(order.NamedText(AveragePriceProperty), 0);

@@ -1,8 +1,7 @@
 #pragma once
 
-// The paper engine's books of one order: what it read from the order, and what it did with it. What was
-// filled is told by the books and not by the order, since whoever changes an order does so on a copy that may
-// be old.
+// The paper engine's record of one order: what it read from the order, and what it did with it. This record
+// and not the order says what is filled, since a trader changes an order on a copy that may be outdated.
 
 #include <cstddef>
 #include <cstdint>
@@ -16,22 +15,22 @@
 
 namespace algo::terminal::paper {
 
-/// How far an order has come.
+/// How much of an order is filled, for how much, and its status.
 struct TOutcome {
   double filled = 0;
-  double value = 0;  ///< what was paid for it: the sum of quantity times price
+  double value = 0;  ///< the sum of quantity times price of what is filled
   std::int32_t status = 0;
 
   /// The average price; 0 while nothing is filled.
   double Average() const;
   /// The same with that status.
   TOutcome WithStatus(std::int32_t newStatus) const;
-  /// The same with the status of an order of that quantity of which so much is filled; what is done stays so,
-  /// and what is not filled has the status that it has.
+  /// The same with the status that follows from what is filled of an order of that quantity. The status stays
+  /// if the order is done or nothing is filled.
   TOutcome WithProgress(double quantity) const;
 };
 
-/// What of an order the trader decides; the engine reads the order anew when it differs.
+/// The part of an order that the trader decides; the engine reads the order again if it differs.
 struct TTerms {
   std::string text;
   std::string symbol;
@@ -43,33 +42,33 @@ struct TTerms {
 };
 
 struct TPaperOrder {
-  /// Takes over how far the order has come by itself. `order` is in the store, and so outlives the books.
+  /// Takes over the order's outcome so far. `storedOrder` is in the store, and so outlives the record.
   explicit TPaperOrder(const host::TCustomClientOrder& storedOrder);
 
   bool IsParent() const;
   bool IsChildOf(const TPaperOrder& parent) const;
-  /// Whether the engine decides how far the order comes: an algorithm's order, or a parent.
+  /// Whether the engine decides the order's outcome: an algo order or a parent.
   bool IsWorkedHere() const;
   bool IsBuy() const { return order.side == host::SideBuy; }
 
-  /// How far the order has come by what the stored order says.
-  TOutcome ShownOutcome() const;
-  /// Whether the stored order shows another outcome than the books.
-  bool ShowsAnotherOutcome() const;
+  /// The outcome according to the stored order.
+  TOutcome StoredOutcome() const;
+  /// Whether the stored order shows a different outcome.
+  bool DiffersFromStored() const;
 
   const host::TCustomClientOrder& order;
   TOutcome outcome;
-  bool told = true;  ///< the order came or changed, and was not looked at since
+  bool changed = true;  ///< the order was added or changed, and was not processed since
 
-  std::optional<TTerms> terms;  ///< what the following was read from
+  std::optional<TTerms> terms;  ///< the terms from which the following was read
   TAlgoPlan plan;
-  const TPaperAlgo* algo = nullptr;  ///< none when the order is not worked by itself
+  const TPaperAlgo* algo = nullptr;  ///< nullptr if the order is not worked
   std::size_t instrument = 0;
   TWindow window{};
 
-  double filledBefore = 0;  ///< what was filled when the terms were read
-  double mayTake = 0;       ///< part of a lot that was too little to take
-  double onDisplay = 0;     ///< what is left of the quantity shown
+  double filledBefore = 0;  ///< the quantity filled when the terms were read
+  double mayTake = 0;       ///< allowance of less than a lot, carried over to the next step
+  double onDisplay = 0;     ///< what remains of the quantity on display
 };
 
 }  // namespace algo::terminal::paper

@@ -14,12 +14,12 @@ namespace algo::terminal::paper {
 namespace {
 
 double WholeLots(double quantity, double lot) {
-  // What arithmetic takes off a whole number of lots must not cost one.
+  // A rounding error below a whole number of lots must not cost a lot.
   constexpr double Slack = 1e-9;
   return std::max(0.0, std::floor(quantity / lot + Slack) * lot);
 }
 
-// How much of a step that ended at `now` lies after `begin`, from 0 to 1.
+// The part of a step that ended at `now` that lies after `begin`, from 0 to 1.
 double PartOfStep(TMoment begin, TMoment now, double seconds) {
   const double inside = (now - begin).count();
   return inside >= seconds ? 1 : inside / seconds;
@@ -64,7 +64,7 @@ void TPaperEngine::Fill(TPaperOrder& order, const TStepView& view) {
   const double quantity =
       WholeLots(std::min({view.quantity - view.filled, order.algo->wants(view), mayTake, onDisplay}), lot);
 
-  // A part of a lot adds up over the steps; whole lots that were not taken are gone with their trades.
+  // Parts of a lot add up over the steps; whole lots that were not taken are lost with their trades.
   order.mayTake = std::fmod(mayTake - quantity, lot);
   order.onDisplay = onDisplay;
   if (quantity <= 0) return;
@@ -76,7 +76,7 @@ void TPaperEngine::Fill(TPaperOrder& order, const TStepView& view) {
   order.onDisplay -= quantity;
 }
 
-// What the order has on display: what is left of it, or, where that is used up, the next part.
+// The quantity on display: what remains of it, or the next portion if it is used up.
 double TPaperEngine::OnDisplay(const TPaperOrder& order, double lot) {
   const TAlgoPlan& plan = order.plan;
   if (plan.showQty <= 0) return std::numeric_limits<double>::infinity();

@@ -1,6 +1,6 @@
 #pragma once
 
-// Where the paper market has its prices from.
+// Where the paper market gets its prices from.
 
 #include <span>
 
@@ -12,9 +12,9 @@ class TPriceSource {
  public:
   virtual ~TPriceSource();
 
-  /// Goes on by so many seconds: gives the quotes, which stand in the order of the instruments, new bids,
-  /// asks, sizes and last prices, and the volume of this step. Quotes of which there is no news keep what
-  /// they have; their step volume was set to 0 before.
+  /// Advances by that many seconds: sets bid, ask, sizes, last price and the volume of this step in the
+  /// quotes, which are in the order of the instruments. A quote that does not change is left alone; its step
+  /// volume was set to 0 before.
   virtual void Advance(double seconds, std::span<TQuote> quotes) = 0;
 };
 

@@ -1,13 +1,13 @@
 #pragma once
 
-// What the paper market knows of an instrument at one moment.
+// The paper market's figures of an instrument at one moment.
 
 namespace algo::terminal::paper {
 
 struct TQuote {
   double bid = 0;
   double ask = 0;
-  double bidSize = 0;  ///< shares offered at the bid
+  double bidSize = 0;  ///< shares wanted at the bid
   double askSize = 0;
   double last = 0;        ///< the price of the last trade; before the first one, the previous close
   double stepVolume = 0;  ///< shares traded in the last step

@@ -10,8 +10,8 @@ double TRandom::Uniform() {
 }
 
 double TRandom::Normal() {
-  // The sum of twelve numbers between 0 and 1 has mean 6 and variance 1, and needs no function that machines
-  // differ in.
+  // The sum of twelve numbers between 0 and 1 has mean 6 and variance 1, and needs no function whose results
+  // differ between machines.
   double sum = -6;
   for (int i = 0; i < 12; ++i) sum += Uniform();
   return sum;

@@ -1,7 +1,7 @@
 #pragma once
 
-// Random numbers that are the same for the same seed on any machine. The distributions of the standard
-// library differ from one library to the next, so they are made here.
+// Random numbers that are the same for the same seed on any machine. The standard distributions differ from
+// library to library, so they are implemented here.
 
 #include <cstdint>
 #include <random>
@@ -12,10 +12,10 @@ class TRandom {
  public:
   explicit TRandom(std::uint64_t seed) : FBits(seed) {}
 
-  /// Evenly from 0 to below 1.
+  /// Uniformly distributed from 0 to below 1.
   double Uniform();
 
-  /// About normal, with mean 0 and deviation 1, never beyond 6.
+  /// Approximately normal, with mean 0 and standard deviation 1, never beyond ±6.
   double Normal();
 
  private:

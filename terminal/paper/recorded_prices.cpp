@@ -54,7 +54,7 @@ TRecordedPrices::TRecordedPrices(TRecording recording, const TMarketTables& tabl
 
 void TRecordedPrices::Advance(double seconds, std::span<TQuote> quotes) {
   assert(quotes.size() == FLots.size());
-  // Ten steps of a tenth add up to a little less than one; a line due at 1 is due then all the same.
+  // Ten steps of a tenth add up to a little less than one; a line due at 1 is nevertheless due then.
   constexpr double Slack = 1e-6;
   FTime += seconds * FSpeed;
   for (; !AtEnd() && FRecording[FNext].seconds <= FTime + Slack; ++FNext) {

@@ -1,6 +1,6 @@
 #pragma once
 
-// Prices as they were once recorded, played again at any speed.
+// Recorded prices, replayed at any speed.
 
 #include <cstddef>
 #include <filesystem>
@@ -11,8 +11,7 @@
 
 namespace algo::terminal::paper {
 
-/// One line of a recording: what an instrument quoted from that time on, and what had traded since its line
-/// before.
+/// One line of a recording: an instrument's quote from that time on, and the volume since its previous line.
 struct TRecordedQuote {
   double seconds = 0;  ///< since the recording began
   std::size_t instrument = 0;
@@ -22,23 +21,22 @@ struct TRecordedQuote {
   double volume = 0;
 };
 
-/// By rising time.
+/// In order of time.
 using TRecording = std::vector<TRecordedQuote>;
 
-/// Reads a recording of instruments of these tables. Throws EPaperError at the first line that cannot be
-/// used.
+/// Reads a recording of instruments of these tables. Throws EPaperError at the first unusable line.
 TRecording LoadRecording(const std::filesystem::path& file, const TMarketTables& tables);
 
 class TRecordedPrices final : public TPriceSource {
  public:
-  /// Plays `speed` seconds of the recording for each second; above 0.
+  /// Plays `speed` seconds of the recording per second; above 0.
   TRecordedPrices(TRecording recording, const TMarketTables& tables, double speed);
 
-  /// With no effect once the recording is at its end. A recording has no sizes: there are as many shares at
-  /// either side as the line says that traded, and one lot at least.
+  /// Without effect once the recording is at its end. A recording has no sizes: either side has as many
+  /// shares as the line's volume, but at least one lot.
   void Advance(double seconds, std::span<TQuote> quotes) override;
 
-  /// Whether all of the recording was played.
+  /// Whether the whole recording was played.
   bool AtEnd() const { return FNext == FRecording.size(); }
 
  private:

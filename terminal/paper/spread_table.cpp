@@ -9,7 +9,7 @@ namespace algo::terminal::paper {
 
 namespace {
 
-// How far, in ticks, a price may be off the grid and still be taken as on it; far above what arithmetic adds.
+// How far, in ticks, a price may be off the grid and still count as on it; far above rounding errors.
 constexpr double Slack = 1e-6;
 
 double SixDecimals(double price) {
@@ -17,7 +17,7 @@ double SixDecimals(double price) {
   return std::round(price * Scale) / Scale;
 }
 
-// The grid's price that is `ticks` above the begin of the step, where the next step begins at the latest.
+// The price `ticks` above the beginning of the step, but not above the beginning of the next step.
 double PriceIn(std::span<const TSpreadStep> table, std::size_t step, double ticks) {
   const double next =
       step + 1 < table.size() ? table[step + 1].from : std::numeric_limits<double>::infinity();
@@ -41,7 +41,7 @@ double NextAbove(std::span<const TSpreadStep> table, double price) {
 
 double NextBelow(std::span<const TSpreadStep> table, double price) {
   std::size_t step = StepAt(table, price);
-  // What begins at the price itself lies above what is below it.
+  // A step that begins at this very price does not contain the prices below it.
   if (step > 0 && TicksInto(table[step], price) < Slack) --step;
   return PriceIn(table, step, std::ceil(TicksInto(table[step], price) - Slack) - 1);
 }

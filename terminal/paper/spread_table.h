@@ -1,7 +1,7 @@
 #pragma once
 
-// The grid that prices move on: a spread table says from which price on which tick holds. Results are the
-// nearest numbers to prices of at most six decimals, so that they read as people write them.
+// The grid of possible prices: a spread table says which tick applies from which price on. Results are
+// rounded to six decimals, so that they read as people write them.
 
 #include <span>
 #include <vector>
@@ -14,23 +14,23 @@ struct TSpreadStep {
   double tick = 0;
 };
 
-/// Steps by rising price; the first begins at 0, and none is empty of ticks.
+/// Steps in order of price; the first begins at 0, and each has a tick above 0.
 using TSpreadTable = std::vector<TSpreadStep>;
 
-/// The tick at that price, which is 0 or more; at a price where two steps meet, the upper one's.
+/// The tick at that price, which is 0 or more; where two steps meet, the upper step's.
 double TickAt(std::span<const TSpreadStep> table, double price);
 
-/// The price on the grid at or next below `price`.
+/// The nearest price on the grid that is not above `price`.
 double RoundDownToTick(std::span<const TSpreadStep> table, double price);
 
-/// The price on the grid at or next above `price`.
+/// The nearest price on the grid that is not below `price`.
 double RoundUpToTick(std::span<const TSpreadStep> table, double price);
 
-/// The price on the grid that is nearest to `price`; the upper one of two.
+/// The price on the grid that is nearest to `price`; the upper of two equally near.
 double RoundToTick(std::span<const TSpreadStep> table, double price);
 
-/// The price so many ticks above `price`, below it for a negative count, each as wide as it is where it is
-/// taken; never below the lowest price above 0. `price` is on the grid.
+/// The price that many ticks above `price`, or below it for a negative count, each tick as wide as the grid
+/// is there; never below the lowest price above 0. `price` is on the grid.
 double MoveTicks(std::span<const TSpreadStep> table, double price, int ticks);
 
 }  // namespace algo::terminal::paper

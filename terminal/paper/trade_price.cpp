@@ -34,7 +34,8 @@ double ReferencePrice(double code, bool buy, const TQuote& quote) {
   }
 }
 
-// 0 for none. Rounded away from the other side, so that rounding never costs the order anything.
+// The price at which the order rests; 0 for none. Rounded away from the other side, so that rounding never
+// costs the order anything.
 double RestingPrice(const TAlgoPlan& plan, bool buy, double limit, const TQuote& quote,
                     const TSpreadTable& spread) {
   const double reference = ReferencePrice(plan.ref, buy, quote);

@@ -11,9 +11,9 @@ namespace algo::terminal::render {
 
 namespace {
 
-/// Shows what the model says; a press only asks.
+/// Shows the model's state; a press only requests a change.
 template <class TQtButton>
-class TAsking final : public TQtButton {
+class TModelDriven final : public TQtButton {
  public:
   using TQtButton::TQtButton;
 
@@ -22,13 +22,13 @@ class TAsking final : public TQtButton {
 };
 
 template <class TQtButton>
-QAbstractButton& MakeAsking(forms::TControl& control, const TFrameInput& input, QWidget& parent) {
-  auto* button = new TAsking<TQtButton>(&parent);
+QAbstractButton& MakeButton(forms::TControl& control, const TFrameInput& input, QWidget& parent) {
+  auto* button = new TModelDriven<TQtButton>(&parent);
   QObject::connect(button, &QAbstractButton::clicked, button, [&control, &input] { input.Click(control); });
   return *button;
 }
 
-/// The slot of a button's colours that skins fill.
+/// The slot of a button's colours that skins set.
 constexpr std::int32_t FaceSlot = 7;
 
 /// Black or white, whichever is easier to read on `face` (the eye weighs green most).
@@ -52,7 +52,7 @@ void ShowCaption(QAbstractButton& button, const forms::TControl& control) {
 }  // namespace
 
 TCheckView::TCheckView(forms::TCheckBox& control, const TFrameInput& input, QWidget& parent)
-    : TControlView(control), FBox(MakeAsking<QCheckBox>(control, input, parent)) {
+    : TControlView(control), FBox(MakeButton<QCheckBox>(control, input, parent)) {
   FBox.setCheckable(true);
 }
 
@@ -62,7 +62,7 @@ void TCheckView::Show() {
 }
 
 TButtonView::TButtonView(forms::TButton& control, const TFrameInput& input, QWidget& parent)
-    : TControlView(control), FButton(MakeAsking<QPushButton>(control, input, parent)) {
+    : TControlView(control), FButton(MakeButton<QPushButton>(control, input, parent)) {
   FButton.setCheckable(dynamic_cast<const forms::TSpeedButton*>(&control) != nullptr);
   static_cast<QPushButton&>(FButton).setAutoDefault(false);
 }
@@ -81,7 +81,7 @@ void TButtonView::ShowColor(const forms::TButton& control, bool down) {
   QString style;
   if (found != control.Colors().end()) {
     const QColor face = QColor::fromRgb(found->second);
-    // The side that is chosen is filled; the other one shows its colour without standing out.
+    // The chosen side is filled; the other one shows its colour without standing out.
     style = down ? QStringLiteral(
                        "QPushButton{background:%1;color:%2;border:2px solid %1;border-radius:4px;"
                        "padding:3px}QPushButton:focus{border-color:palette(highlight)}")

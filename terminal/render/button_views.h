@@ -1,6 +1,6 @@
 #pragma once
 
-// What is pressed: check boxes, and buttons in the skin's colours of which some stay down.
+// Check boxes, and buttons in the skin's colours, some of which stay down.
 
 #include <QAbstractButton>
 

@@ -16,7 +16,7 @@ class TBox final : public QComboBox {
 
  protected:
   void wheelEvent(QWheelEvent* event) override {
-    // Whoever scrolls past a list does not mean to pick from it.
+    // Scrolling past a list must not pick from it.
     if (hasFocus()) {
       QComboBox::wheelEvent(event);
     } else {
@@ -34,7 +34,7 @@ TComboView::TComboView(forms::TComboBox& control, const TFrameInput& input, QWid
   QObject::connect(&FBox, &QComboBox::activated, &FBox, [this, &control, &input](int index) {
     const QPointer<QComboBox> alive(&FBox);
     input.Pick(control, index);
-    // What was not taken must not stay in sight.
+    // A pick that was not taken must not stay visible.
     if (alive && input.Frame()) Refresh();
   });
 }

@@ -1,6 +1,6 @@
 #pragma once
 
-// A fixed list of which the trader picks one.
+// A fixed list from which the trader picks an item.
 
 #include <QComboBox>
 

@@ -8,7 +8,7 @@ namespace algo::terminal::render {
 
 namespace {
 
-/// Shows text and note of each match; what is put into the line is the text alone.
+/// Shows text and note of each match; only the text is put into the line.
 class TMatches final : public QAbstractListModel {
  public:
   using QAbstractListModel::QAbstractListModel;
@@ -39,19 +39,19 @@ class TMatches final : public QAbstractListModel {
 }  // namespace
 
 void OfferCompletions(QLineEdit& line, forms::TTextEdit& editor, const TFrameInput& input,
-                      const TEditorAids& aids) {
+                      const TEditorAssist& assist) {
   auto* completer = new QCompleter(&line);
   auto* matches = new TMatches(completer);
   completer->setModel(matches);
   completer->setCompletionRole(Qt::EditRole);
-  // The terminal chose the matches already, by name too; nothing is to be filtered again.
+  // The terminal chose the matches already, also by name; they must not be filtered again.
   completer->setCompletionMode(QCompleter::UnfilteredPopupCompletion);
   completer->setWidget(&line);
 
   QObject::connect(&line, &QLineEdit::textEdited, completer,
-                   [&line, &editor, &input, &aids, completer, matches](const QString& text) {
+                   [&line, &editor, &input, &assist, completer, matches](const QString& text) {
                      std::vector<TCompletion> found;
-                     if (input.Frame() && !text.isEmpty()) found = aids.Completions(editor, FromQt(text));
+                     if (input.Frame() && !text.isEmpty()) found = assist.Completions(editor, FromQt(text));
                      const bool settled =
                          found.empty() || (found.size() == 1 && found.front().text == FromQt(text));
                      matches->Set(std::move(found));
@@ -69,7 +69,7 @@ void OfferCompletions(QLineEdit& line, forms::TTextEdit& editor, const TFrameInp
 bool EnterMeansCompletion(QLineEdit& line) {
   auto* completer = qobject_cast<QCompleter*>(line.property("completer").value<QObject*>());
   if (completer == nullptr || !completer->popup()->isVisible()) return false;
-  // The list has a current row from the first; only a key or the mouse selects one.
+  // The list has a current row from the beginning; only a key or the mouse selects one.
   if (completer->popup()->selectionModel()->hasSelection()) return true;
   completer->popup()->hide();
   return false;

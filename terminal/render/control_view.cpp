@@ -21,14 +21,14 @@ void TControlView::Refresh() {
 }
 
 std::unique_ptr<TControlView> MakeControlView(forms::TControl& control, const TFrameInput& input,
-                                              const TEditorAids& aids, QWidget& parent) {
+                                              const TEditorAssist& assist, QWidget& parent) {
   std::unique_ptr<TControlView> view;
   switch (control.Kind()) {
     case forms::TControlKind::Edit:
-      view = std::make_unique<TTextView>(static_cast<forms::TTextEdit&>(control), input, aids, parent);
+      view = std::make_unique<TTextView>(static_cast<forms::TTextEdit&>(control), input, assist, parent);
       break;
     case forms::TControlKind::Spin:
-      view = std::make_unique<TSpinView>(static_cast<forms::TSpinEdit&>(control), input, aids, parent);
+      view = std::make_unique<TSpinView>(static_cast<forms::TSpinEdit&>(control), input, assist, parent);
       break;
     case forms::TControlKind::Date:
       view = std::make_unique<TDateView>(static_cast<forms::TDateEdit&>(control), input, parent);
@@ -44,7 +44,7 @@ std::unique_ptr<TControlView> MakeControlView(forms::TControl& control, const TF
       break;
   }
   view->Widget().setObjectName(ToQt(control.Name()));
-  // The frame's own click rule says what a click does, so a click does not move the focus by itself.
+  // The frame decides what a click does, so a click does not move the focus by itself.
   view->Input().setFocusPolicy(Qt::TabFocus);
   return view;
 }

@@ -1,6 +1,6 @@
 #pragma once
 
-// The widget of one control. It shows what the control holds and sends back what the trader does; it decides
+// The widget of one control. It shows what the control holds and passes on what the trader does; it decides
 // nothing.
 
 #include <QWidget>
@@ -8,7 +8,7 @@
 #include <string>
 
 #include "forms/control.h"
-#include "terminal/render/editor_aids.h"
+#include "terminal/render/editor_assist.h"
 #include "terminal/render/frame_input.h"
 
 namespace algo::terminal::render {
@@ -22,29 +22,29 @@ class TControlView {
 
   forms::TControl& Control() const { return FControl; }
 
-  /// What stands in the layout; it carries the control's name. Owned by its parent widget.
+  /// The widget in the layout, with the control's name as its object name. Owned by its parent widget.
   virtual QWidget& Widget() const = 0;
   /// The part of it that takes keys and mouse.
   virtual QWidget& Input() const { return Widget(); }
 
-  /// Shows the control as it is now: value, looks, and whether it takes input.
+  /// Shows the control as it is now: value, appearance, and whether it takes input.
   void Refresh();
 
-  /// The text that the widget shows, for whoever compares it with the control's.
+  /// The text that the widget shows, for comparison with the control's.
   virtual QString ShownText() const { return {}; }
-  /// What of the shown text is selected.
+  /// The selected part of the shown text.
   virtual QString SelectedText() const { return {}; }
 
  protected:
-  /// Shows value and looks; what all kinds have in common is done already.
+  /// Shows value and appearance; Refresh has done what all kinds have in common.
   virtual void Show() = 0;
 
  private:
   forms::TControl& FControl;
 };
 
-/// The view of the control, its widget made as a child of `parent`. `aids` and `input` outlive it.
+/// The view of the control, its widget created as a child of `parent`. `assist` and `input` outlive it.
 std::unique_ptr<TControlView> MakeControlView(forms::TControl& control, const TFrameInput& input,
-                                              const TEditorAids& aids, QWidget& parent);
+                                              const TEditorAssist& assist, QWidget& parent);
 
 }  // namespace algo::terminal::render

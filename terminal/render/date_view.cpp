@@ -19,16 +19,16 @@ constexpr qsizetype DayLength = 10;
 TDateView::TDateView(forms::TDateEdit& control, const TFrameInput& input, QWidget& parent)
     : TControlView(control),
       FInput(input),
-      FWhole(*new QWidget(&parent)),
-      FLine(*new QLineEdit(&FWhole)),
-      FButton(*new QToolButton(&FWhole)) {
-  auto* row = new QHBoxLayout(&FWhole);
+      FContainer(*new QWidget(&parent)),
+      FLine(*new QLineEdit(&FContainer)),
+      FButton(*new QToolButton(&FContainer)) {
+  auto* row = new QHBoxLayout(&FContainer);
   row->setContentsMargins(0, 0, 0, 0);
   row->setSpacing(1);
   row->addWidget(&FLine, 1);
   row->addWidget(&FButton);
-  FWhole.setFocusProxy(&FLine);
-  // A date that is cut off is worse than none.
+  FContainer.setFocusProxy(&FLine);
+  // A truncated date is worse than none.
   const int text = FLine.fontMetrics().horizontalAdvance(QStringLiteral("8888-88-88 88:88:88"));
   constexpr int Rim = 14;
   FLine.setMinimumWidth(text + Rim);
@@ -37,7 +37,7 @@ TDateView::TDateView(forms::TDateEdit& control, const TFrameInput& input, QWidge
   FButton.setFocusPolicy(Qt::NoFocus);
   FLine.setObjectName(ToQt(control.Name() + "Line"));
   FButton.setObjectName(ToQt(control.Name() + "Calendar"));
-  QObject::connect(&FButton, &QToolButton::clicked, &FWhole, [this] { OpenCalendar(); });
+  QObject::connect(&FButton, &QToolButton::clicked, &FContainer, [this] { OpenCalendar(); });
 }
 
 void TDateView::Show() {
@@ -49,22 +49,22 @@ void TDateView::Show() {
 
 void TDateView::OpenCalendar() {
   if (!FInput.Focus(Control())) return;
-  auto* calendar = new QCalendarWidget(&FWhole);
+  auto* calendar = new QCalendarWidget(&FContainer);
   calendar->setWindowFlag(Qt::Popup);
   calendar->setAttribute(Qt::WA_DeleteOnClose);
   calendar->setObjectName(QStringLiteral("calendar"));
   calendar->setVerticalHeaderFormat(QCalendarWidget::NoVerticalHeader);
   const QDate day = QDate::fromString(FLine.text().left(DayLength), DayFormat);
   if (day.isValid()) calendar->setSelectedDate(day);
-  QObject::connect(calendar, &QCalendarWidget::activated, &FWhole, [this, calendar](const QDate& picked) {
+  QObject::connect(calendar, &QCalendarWidget::activated, &FContainer, [this, calendar](const QDate& picked) {
     TakeDay(picked);
     calendar->close();
   });
-  QObject::connect(calendar, &QCalendarWidget::clicked, &FWhole, [this, calendar](const QDate& picked) {
+  QObject::connect(calendar, &QCalendarWidget::clicked, &FContainer, [this, calendar](const QDate& picked) {
     TakeDay(picked);
     calendar->close();
   });
-  calendar->move(FWhole.mapToGlobal(QPoint(0, FWhole.height())));
+  calendar->move(FContainer.mapToGlobal(QPoint(0, FContainer.height())));
   calendar->show();
   calendar->setFocus();
 }

@@ -1,6 +1,6 @@
 #pragma once
 
-// A date with a time of day, or nothing: typed in one line, or the day picked from a calendar.
+// A date with a time of day, or empty: typed in one line, or the day picked from a calendar.
 
 #include <QLineEdit>
 #include <QToolButton>
@@ -13,7 +13,7 @@ class TDateView final : public TControlView {
  public:
   TDateView(forms::TDateEdit& control, const TFrameInput& input, QWidget& parent);
 
-  QWidget& Widget() const override { return FWhole; }
+  QWidget& Widget() const override { return FContainer; }
   QWidget& Input() const override { return FLine; }
   QString ShownText() const override { return FLine.text(); }
   QString SelectedText() const override { return FLine.selectedText(); }
@@ -26,7 +26,7 @@ class TDateView final : public TControlView {
   void TakeDay(const QDate& day);
 
   const TFrameInput& FInput;
-  QWidget& FWhole;
+  QWidget& FContainer;
   QLineEdit& FLine;
   QToolButton& FButton;
 };

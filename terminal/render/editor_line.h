@@ -1,7 +1,7 @@
 #pragma once
 
-// The line in which an editor's text is typed: refuses what the editor does not accept, and keeps text and
-// selection as the editor has them.
+// The line edit of an editor: refuses what the editor does not accept, and shows text and selection as the
+// editor has them.
 
 #include <QLineEdit>
 
@@ -10,11 +10,11 @@
 
 namespace algo::terminal::render {
 
-/// Lets the line take what the editor accepts, and sends each change made by key to the frame. Both outlive
-/// the line.
+/// Lets the line take what the editor accepts, and passes each typed change on to the frame. Both outlive the
+/// line.
 void BindLine(QLineEdit& line, forms::TEditor& editor, const TFrameInput& input);
 
-/// Shows text, selection, placeholder and whether it may be changed.
+/// Shows text, selection and placeholder, and whether the text may be changed.
 void ShowInLine(QLineEdit& line, const forms::TEditor& editor);
 
 }  // namespace algo::terminal::render

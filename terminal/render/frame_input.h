@@ -1,7 +1,6 @@
 #pragma once
 
-// The way back from a widget to the form model: what the trader does reaches the frame as long as there is
-// one.
+// Passes the trader's input from the widgets to the form model, as long as the frame exists.
 
 #include <QString>
 #include <memory>
@@ -15,13 +14,13 @@ class TFrameInput {
  public:
   explicit TFrameInput(std::weak_ptr<forms::TFrame> frame) : FFrame(std::move(frame)) {}
 
-  /// The frame, or nullptr when it has gone; then none of its controls may be touched.
+  /// The frame, or nullptr if it is gone; then none of its controls may be used.
   std::shared_ptr<forms::TFrame> Frame() const { return FFrame.lock(); }
 
-  /// Lets go of a frame that goes.
-  void LetGo() { FFrame.reset(); }
+  /// Releases the frame, which is being destroyed.
+  void Release() { FFrame.reset(); }
 
-  /// See the operations of the same names of TFrame. False when the frame has gone or did not take the input.
+  /// See TFrame's operations of the same names. False if the frame is gone or did not take the input.
   bool Typed(forms::TControl& control, const QString& text) const {
     return Send([&](forms::TFrame& frame) { return frame.InputTyped(control, FromQt(text)); });
   }

@@ -12,8 +12,8 @@ namespace algo::terminal::render {
 
 namespace {
 
-/// Lays out everything below the widget, innermost first: by itself Qt works its way up an event at a time,
-/// and each would be painted.
+/// Activates all layouts below the widget, innermost first. Otherwise Qt would work its way up one event at a
+/// time, and paint after each.
 void Settle(QWidget& widget) {
   for (QObject* child : widget.children()) {
     if (child->isWidgetType()) Settle(static_cast<QWidget&>(*child));
@@ -23,8 +23,9 @@ void Settle(QWidget& widget) {
 
 }  // namespace
 
-TFrameView::TFrameView(const std::shared_ptr<forms::TFrame>& frame, const TEditorAids& aids, QWidget* parent)
-    : QWidget(parent), FInput(frame), FAids(aids), FContent(new QWidget(this)) {
+TFrameView::TFrameView(const std::shared_ptr<forms::TFrame>& frame, const TEditorAssist& assist,
+                       QWidget* parent)
+    : QWidget(parent), FInput(frame), FAssist(assist), FContent(new QWidget(this)) {
   auto* whole = new QVBoxLayout(this);
   whole->setContentsMargins(0, 0, 0, 0);
   whole->addWidget(FContent, 0, Qt::AlignTop);
@@ -38,7 +39,7 @@ TFrameView::TFrameView(const std::shared_ptr<forms::TFrame>& frame, const TEdito
 }
 
 TFrameView::~TFrameView() {
-  // The widgets that go with the view give the focus away while they do.
+  // Widgets that are destroyed with the view lose the focus, which must not reach the frame.
   disconnect(qApp, nullptr, this, nullptr);
   if (const auto frame = FInput.Frame()) frame->RemoveObserver(*this);
 }
@@ -59,11 +60,11 @@ TControlView* TFrameView::Find(const forms::TControl& control) const {
 }
 
 QWidget& TFrameView::MakeControl(forms::TControl& control, QWidget& parent) {
-  auto view = MakeControlView(control, FInput, FAids, parent);
+  auto view = MakeControlView(control, FInput, FAssist, parent);
   QWidget& widget = view->Widget();
   view->Input().installEventFilter(this);
   FByInput.emplace(&view->Input(), view.get());
-  // The line inside of a box gets the mouse in its stead.
+  // The line inside a spin box gets the mouse events in its place.
   if (auto* line = view->Input().findChild<QLineEdit*>()) {
     line->installEventFilter(this);
     FByInput.emplace(line, view.get());
@@ -99,7 +100,7 @@ void TFrameView::ShowNames(const forms::TFrame& frame) {
     const std::string& item = control->Item()->Caption();
     const std::string& own = control->Caption().empty() ? item : control->Caption();
     const std::string& hint = control->Hint();
-    // A screen reader says the caption; a lock box has none, but a hint.
+    // A screen reader reads the caption; a lock box has none, but a hint.
     const QString name = ToQt(!own.empty() ? own : !hint.empty() ? hint : control->Name());
     if (view->Input().accessibleName() != name) view->Input().setAccessibleName(name);
     if (view->Input().accessibleDescription() != ToQt(hint)) {
@@ -115,7 +116,7 @@ void TFrameView::ControlChanged(const forms::TControl& control) {
 void TFrameView::LayoutChanged() {
   const auto frame = FInput.Frame();
   if (!frame) return;
-  // All of it is repainted once, when it has come to rest.
+  // Everything is repainted once, when the layout is final.
   setUpdatesEnabled(false);
   ShowAll(*frame);
   Settle(*this);
@@ -138,9 +139,9 @@ void TFrameView::FrameGone() {
   FByInput.clear();
   FViews.clear();
   FLayout.reset();
-  // Even the mere handle leads back into the module that made the frame, which may be unloaded now.
-  FInput.LetGo();
-  // The widgets may be in the middle of an event of theirs.
+  // Even a weak pointer refers to code of the module that created the frame, which may be unloaded now.
+  FInput.Release();
+  // The widgets cannot be deleted here, since one of them may be handling an event.
   FContent->hide();
   FContent->setEnabled(false);
 }
@@ -154,8 +155,8 @@ void TFrameView::DesktopFocusChanged(QWidget* before, QWidget* now) {
     }
     return;
   }
-  // Nowhere means another program, and a window of another form waits for this one: both leave the trader
-  // where he was.
+  // Without a focus widget another program has the focus, and another window may be a dialog of this form: in
+  // both cases the form keeps its focus.
   const bool wasHere = before != nullptr && isAncestorOf(before);
   if (wasHere && now != nullptr && now->window() == window() && frame->Focused() != nullptr) FInput.Leave();
 }
@@ -189,11 +190,11 @@ void TFrameView::FilterMouse(TControlView& view, const QEvent& event) {
   if (mouse == nullptr || mouse->button() != Qt::LeftButton) return;
   auto* editor = dynamic_cast<forms::TEditor*>(&view.Control());
   if (event.type() == QEvent::MouseButtonPress) {
-    // Buttons send their click themselves, when they are released.
+    // Buttons send their click themselves, on release.
     const bool isCombo = view.Control().Kind() == forms::TControlKind::Combo;
     if (editor != nullptr || isCombo) FInput.Click(view.Control());
   } else if (event.type() == QEvent::MouseButtonRelease && editor != nullptr) {
-    // The press put the caret where the mouse is; what the click selected comes back.
+    // The press put the caret where the mouse is; restore what the click selected.
     if (!editor->SelectedText().empty()) view.Refresh();
   }
 }

@@ -1,7 +1,8 @@
 #pragma once
 
-// A frame of the form model as a widget: drawn generically from the model, with no code for any field, and
-// sending back what the trader does. Focus follows the model, and the model follows the desktop's focus.
+// A frame of the form model as a widget: built generically from the model, without code for any particular
+// field, and passing on what the trader does. The focus follows the model, and the model follows the
+// desktop's focus.
 
 #include <QWidget>
 #include <memory>
@@ -9,7 +10,7 @@
 
 #include "forms/frame.h"
 #include "terminal/render/control_view.h"
-#include "terminal/render/editor_aids.h"
+#include "terminal/render/editor_assist.h"
 #include "terminal/render/layout_view.h"
 
 namespace algo::terminal::render {
@@ -17,18 +18,19 @@ namespace algo::terminal::render {
 class TFrameView final : public QWidget, private forms::TFrameObserver {
   Q_OBJECT
  public:
-  /// Shows the frame as long as both live. The view does not keep the frame; without it, it is an empty
-  /// widget. `aids` outlives the view.
-  TFrameView(const std::shared_ptr<forms::TFrame>& frame, const TEditorAids& aids, QWidget* parent = nullptr);
+  /// Shows the frame as long as both live. The view does not own the frame; without it, it is an empty
+  /// widget. `assist` outlives the view.
+  TFrameView(const std::shared_ptr<forms::TFrame>& frame, const TEditorAssist& assist,
+             QWidget* parent = nullptr);
   ~TFrameView() override;
 
-  /// The frame, or nullptr when it has gone.
+  /// The frame, or nullptr if it is gone.
   std::shared_ptr<forms::TFrame> Frame() const { return FInput.Frame(); }
 
-  /// The view of the control; nullptr for one that was never shown, and for one of another frame.
+  /// The view of the control; nullptr for a control that was never shown, and for one of another frame.
   TControlView* Find(const forms::TControl& control) const;
 
-  /// Gives the focus to the first control that takes input; with no effect when there is none.
+  /// Gives the focus to the first control that takes input; without effect if there is none.
   void FocusFirst();
 
  protected:
@@ -45,18 +47,18 @@ class TFrameView final : public QWidget, private forms::TFrameObserver {
   void ShowAll(const forms::TFrame& frame);
   void ShowNames(const forms::TFrame& frame);
   void DesktopFocusChanged(QWidget* before, QWidget* now);
-  /// The view whose widget takes keys and mouse at `watched`; nullptr for none.
+  /// The view that receives keys and mouse through `watched`; nullptr if there is none.
   TControlView* ViewOf(const QObject* watched) const;
   bool FilterKey(TControlView& view, const QEvent& event);
   void FilterMouse(TControlView& view, const QEvent& event);
 
   TFrameInput FInput;
-  const TEditorAids& FAids;
+  const TEditorAssist& FAssist;
   QWidget* FContent;
   std::unique_ptr<TLayoutView> FLayout;
   std::unordered_map<const forms::TControl*, std::unique_ptr<TControlView>> FViews;
   std::unordered_map<const QObject*, TControlView*> FByInput;
-  std::size_t FChained = 0;  ///< how many views were there when the tab order was last made
+  std::size_t FChained = 0;  ///< the number of views when the tab order was last set
 };
 
 }  // namespace algo::terminal::render

@@ -20,13 +20,13 @@ const forms::TLayoutGroup* AsGroup(const forms::TLayoutElement* element) {
   return dynamic_cast<const forms::TLayoutGroup*>(element);
 }
 
-/// Visible itself, and of an item its control too.
+/// Whether the element itself is visible, and if it is an item, its control too.
 bool IsOwnVisible(const forms::TLayoutElement& element) {
   const auto* item = dynamic_cast<const forms::TLayoutItem*>(&element);
   return element.Visible() && (item == nullptr || item->Control().Visible());
 }
 
-/// Whether anything below the element is to be seen, so that an empty group takes no room.
+/// Whether anything below the element is visible; an empty group takes no room.
 bool HasContent(const forms::TLayoutElement& element) {
   if (!IsOwnVisible(element)) return false;
   const auto* group = AsGroup(&element);
@@ -35,8 +35,7 @@ bool HasContent(const forms::TLayoutElement& element) {
                      [](const forms::TLayoutElement* child) { return HasContent(*child); });
 }
 
-/// How much of the room that is left over the child takes: beside others all but the boxes widen, below
-/// others none grows.
+/// The stretch factor of the child: in a row all but check boxes grow, in a column none does.
 int StretchOf(const forms::TLayoutElement& child, const forms::TLayoutGroup& group) {
   const auto* item = dynamic_cast<const forms::TLayoutItem*>(&child);
   const bool isBox = item != nullptr && item->Control().Kind() == forms::TControlKind::Check;
@@ -74,7 +73,7 @@ void TLayoutView::Sync() {
     SyncElement(*top, FParent);
     const auto view = FViews.find(top);
     if (view == FViews.end()) continue;
-    // The room below a short column is left free.
+    // The room below a short column stays empty.
     if (FColumns.indexOf(view->second.whole) < 0)
       FColumns.insertWidget(place, view->second.whole, 1, Qt::AlignTop);
     AlignCaptions(*top);
@@ -87,7 +86,7 @@ void TLayoutView::SyncElement(const forms::TLayoutElement& element, QWidget& par
   const auto found = FViews.find(&element);
   if (found == FViews.end() && !hasContent) return;
   const auto* group = AsGroup(&element);
-  // By value: what is made below may move the table.
+  // A copy, because creating the children may rehash the table.
   const TElementView view = found == FViews.end() ? Build(element, parent) : found->second;
   if (group != nullptr) SyncChildren(*group);
   ShowCaption(*view.caption, element, group != nullptr);
@@ -104,7 +103,7 @@ void TLayoutView::SyncChildren(const forms::TLayoutGroup& group) {
     QWidget* widget = found->second.whole;
     const QLayoutItem* there = view.body->itemAt(place);
     if (there == nullptr || there->widget() != widget) {
-      // Taken out of wherever it stood; Qt hides a widget that changes its parent.
+      // Moved from wherever it was; Qt hides a widget that changes its parent.
       const bool hidden = widget->isHidden();
       widget->setParent(view.whole);
       view.body->insertWidget(place, widget, StretchOf(*child, group));
@@ -163,7 +162,7 @@ void TLayoutView::CollectCaptions(const forms::TLayoutGroup& group, std::vector<
     if (const auto* inner = AsGroup(child)) {
       CollectCaptions(*inner, captions);
     } else if ((first || !IsHorizontal(group)) && !child->Caption().empty() && !RepeatsItsButton(*child)) {
-      // Only what stands at the left edge of the column lines up with the others.
+      // Only captions at the left edge of the column line up.
       captions.push_back(FViews.at(child).caption);
     }
     first = false;

@@ -1,7 +1,7 @@
 #pragma once
 
-// The layout tree as widgets: a frame with a heading for each group, a row of caption and control for each
-// item. The widgets are made once; what is shown, and where, follows the tree.
+// The layout tree as widgets: a box with a heading for each group, a row of caption and control for each
+// item. The widgets are created once; what is shown, and where, follows the tree.
 
 #include <QBoxLayout>
 #include <QLabel>
@@ -16,10 +16,10 @@ namespace algo::terminal::render {
 
 class TLayoutView {
  public:
-  /// Makes the widget of a control as a child of `parent`.
+  /// Creates the widget of a control as a child of `parent`.
   using TMakeControl = std::function<QWidget&(forms::TControl& control, QWidget& parent)>;
 
-  /// Stands in `parent`, which gets a layout of its own and shows nothing yet.
+  /// Fills `parent`, which gets a layout of its own and shows nothing yet.
   TLayoutView(const forms::TLayoutControl& layout, QWidget& parent, TMakeControl make);
 
   /// Shows the tree as it is now.
@@ -29,10 +29,10 @@ class TLayoutView {
   struct TElementView {
     QWidget* whole = nullptr;
     QLabel* caption = nullptr;
-    QBoxLayout* body = nullptr;  ///< of groups: where the children stand
+    QBoxLayout* body = nullptr;  ///< of groups: the children's layout
   };
 
-  /// Brings what stands below the element up to date, and makes it if it is to be seen for the first time.
+  /// Updates the element and what is below it, and creates its widgets if it is visible for the first time.
   void SyncElement(const forms::TLayoutElement& element, QWidget& parent);
   void SyncChildren(const forms::TLayoutGroup& group);
   TElementView& Build(const forms::TLayoutElement& element, QWidget& parent);

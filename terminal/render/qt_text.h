@@ -1,6 +1,6 @@
 #pragma once
 
-// Texts of the form model are UTF-8; Qt has its own.
+// Conversion between the form model's UTF-8 texts and Qt's strings.
 
 #include <QString>
 #include <string>

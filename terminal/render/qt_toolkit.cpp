@@ -9,18 +9,18 @@ namespace algo::terminal::render {
 
 QFont DesktopFont(const forms::TFont& font) {
   QFont chosen = QApplication::font();
-  // The model's figures are those of a dense form; what counts on a desktop is the proportion.
+  // The model's sizes are those of a dense form; on a desktop only the proportions count.
   chosen.setPointSizeF(chosen.pointSizeF() * font.size / forms::TFont{}.size);
   chosen.setBold(font.bold);
   return chosen;
 }
 
 forms::TSize TQtToolkit::MeasureText(std::string_view text, const forms::TFont& font) const {
-  // A form that looks for the size that fits asks for many; each would have a font loaded that nobody draws
-  // with.
-  constexpr std::int32_t Unchosen = forms::TFont{}.size;
-  const QFontMetricsF metrics(DesktopFont({.size = Unchosen, .bold = font.bold}));
-  const double scale = static_cast<double>(font.size) / Unchosen;
+  // Scaled, because a form that searches for a size that fits measures many, and each would load a font that
+  // is never drawn.
+  constexpr std::int32_t DefaultSize = forms::TFont{}.size;
+  const QFontMetricsF metrics(DesktopFont({.size = DefaultSize, .bold = font.bold}));
+  const double scale = static_cast<double>(font.size) / DefaultSize;
   return {metrics.horizontalAdvance(ToQt(text)) * scale, metrics.height() * scale};
 }
 

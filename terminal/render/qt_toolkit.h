@@ -1,6 +1,6 @@
 #pragma once
 
-// Fonts as the desktop has them, and the form model's text sizes measured in them.
+// The desktop's fonts, and text measured in them for the form model.
 
 #include <QFont>
 #include <string_view>
@@ -9,11 +9,11 @@
 
 namespace algo::terminal::render {
 
-/// The desktop's font for a font of the form model. The model's unchosen font, size 8, is the application's
-/// own; others keep their proportion to it.
+/// The desktop's font for a font of the form model. The model's default font, size 8, is the application's
+/// own; others are scaled in proportion.
 QFont DesktopFont(const forms::TFont& font);
 
-/// Install it with forms::TToolkit::Install once there is an application object.
+/// To be installed with forms::TToolkit::Install once there is an application object.
 class TQtToolkit final : public forms::TToolkit {
  public:
   forms::TSize MeasureText(std::string_view text, const forms::TFont& font) const override;

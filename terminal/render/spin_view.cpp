@@ -12,7 +12,7 @@ namespace algo::terminal::render {
 
 namespace {
 
-/// The number that stands in the editor, typed or taken up; 0 when there is none.
+/// The number in the editor, typed or committed; 0 if there is none.
 double NumberIn(const forms::TSpinEdit& editor) {
   std::string digits = editor.Text();
   std::erase(digits, ',');
@@ -23,8 +23,8 @@ double NumberIn(const forms::TSpinEdit& editor) {
 
 class TSpinView::TBox final : public QAbstractSpinBox {
  public:
-  TBox(forms::TSpinEdit& editor, const TFrameInput& input, const TEditorAids& aids, QWidget& parent)
-      : QAbstractSpinBox(&parent), FEditor(editor), FInput(input), FAids(aids) {
+  TBox(forms::TSpinEdit& editor, const TFrameInput& input, const TEditorAssist& assist, QWidget& parent)
+      : QAbstractSpinBox(&parent), FEditor(editor), FInput(input), FAssist(assist) {
     BindLine(Line(), editor, input);
     setAlignment(Qt::AlignRight);
   }
@@ -39,11 +39,11 @@ class TSpinView::TBox final : public QAbstractSpinBox {
 
   void stepBy(int steps) override {
     if (!FInput.Frame() || FEditor.ReadOnly()) return;
-    double value = FAids.Stepped(FEditor, NumberIn(FEditor), steps);
+    double value = FAssist.Stepped(FEditor, NumberIn(FEditor), steps);
     if (const auto max = FEditor.Max()) value = std::min(value, *max);
     if (const auto min = FEditor.Min()) value = std::max(value, *min);
     const forms::TNumberFormat& format = FEditor.Format();
-    // Steps of a hundredth add up to figures that a double shows with a tail of its own.
+    // Steps of a hundredth add up to doubles with rounding errors in the last digits.
     constexpr std::int32_t StepDecimals = 7;
     std::string text = text::GroupedNumber(value, StepDecimals);
     if (!format.grouped) std::erase(text, ',');
@@ -57,7 +57,7 @@ class TSpinView::TBox final : public QAbstractSpinBox {
   }
 
   void wheelEvent(QWheelEvent* event) override {
-    // Whoever scrolls past a field does not mean to change it.
+    // Scrolling past a field must not change it.
     if (hasFocus()) {
       QAbstractSpinBox::wheelEvent(event);
     } else {
@@ -68,12 +68,12 @@ class TSpinView::TBox final : public QAbstractSpinBox {
  private:
   forms::TSpinEdit& FEditor;
   const TFrameInput& FInput;
-  const TEditorAids& FAids;
+  const TEditorAssist& FAssist;
 };
 
-TSpinView::TSpinView(forms::TSpinEdit& control, const TFrameInput& input, const TEditorAids& aids,
+TSpinView::TSpinView(forms::TSpinEdit& control, const TFrameInput& input, const TEditorAssist& assist,
                      QWidget& parent)
-    : TControlView(control), FBox(*new TBox(control, input, aids, parent)) {}
+    : TControlView(control), FBox(*new TBox(control, input, assist, parent)) {}
 
 QWidget& TSpinView::Widget() const { return FBox; }
 

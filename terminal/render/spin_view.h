@@ -1,7 +1,7 @@
 #pragma once
 
-// A number with buttons, keys and a wheel to step it. It may be empty, and what is typed stays as typed until
-// the editor is left.
+// A number that buttons, keys and the mouse wheel step. It may be empty, and typed text stays as typed until
+// the focus leaves.
 
 #include <QAbstractSpinBox>
 
@@ -11,7 +11,8 @@ namespace algo::terminal::render {
 
 class TSpinView final : public TControlView {
  public:
-  TSpinView(forms::TSpinEdit& control, const TFrameInput& input, const TEditorAids& aids, QWidget& parent);
+  TSpinView(forms::TSpinEdit& control, const TFrameInput& input, const TEditorAssist& assist,
+            QWidget& parent);
 
   QWidget& Widget() const override;
   QString ShownText() const override;

@@ -9,8 +9,8 @@ namespace algo::terminal::render {
 
 namespace {
 
-/// While the list of matches is open, keys come from there, past every filter; Enter means the same all the
-/// same.
+/// While the completion list is open, it forwards keys past every event filter; Enter has to work
+/// nevertheless.
 class TLine final : public QLineEdit {
  public:
   TLine(forms::TTextEdit& editor, const TFrameInput& input, QWidget& parent)
@@ -33,11 +33,11 @@ class TLine final : public QLineEdit {
 
 }  // namespace
 
-TTextView::TTextView(forms::TTextEdit& control, const TFrameInput& input, const TEditorAids& aids,
+TTextView::TTextView(forms::TTextEdit& control, const TFrameInput& input, const TEditorAssist& assist,
                      QWidget& parent)
     : TControlView(control), FLine(*new TLine(control, input, parent)) {
   BindLine(FLine, control, input);
-  OfferCompletions(FLine, control, input, aids);
+  OfferCompletions(FLine, control, input, assist);
 }
 
 void TTextView::Show() { ShowInLine(FLine, static_cast<const forms::TEditor&>(Control())); }

@@ -1,6 +1,6 @@
 #pragma once
 
-// A line of text; an account or a symbol offers what may be meant in a list below it.
+// A line of text; accounts and symbols offer completions in a list below it.
 
 #include <QLineEdit>
 
@@ -10,7 +10,8 @@ namespace algo::terminal::render {
 
 class TTextView final : public TControlView {
  public:
-  TTextView(forms::TTextEdit& control, const TFrameInput& input, const TEditorAids& aids, QWidget& parent);
+  TTextView(forms::TTextEdit& control, const TFrameInput& input, const TEditorAssist& assist,
+            QWidget& parent);
 
   QWidget& Widget() const override { return FLine; }
   QString ShownText() const override { return FLine.text(); }

@@ -18,7 +18,7 @@ const nlohmann::json* Find(const nlohmann::json& object, std::string_view name) 
   return found == object.end() ? nullptr : &*found;
 }
 
-/// A word of flags as hexadecimal digits; a number that is no word of flags is written as it is.
+/// Flags as a hexadecimal number; a number that cannot be 32 bits of flags is written as it is.
 std::string FlagsText(double number) {
   if (number < 0 || number > static_cast<double>(UINT32_MAX) || std::trunc(number) != number) {
     return text::PlainNumber(number);
@@ -40,7 +40,7 @@ std::string NumberText(double number, TWriting writing) {
   return writing == TWriting::Quantity ? text::GroupedNumber(number, -1) : text::PlainNumber(number);
 }
 
-/// The text on one line: what would break the line or steer a screen becomes a blank.
+/// The text on one line: line breaks and other control characters become blanks.
 std::string OneLine(std::string text) {
   const auto isControl = [](char character) {
     return static_cast<unsigned char>(character) < 0x20 || character == 0x7F;

@@ -1,4 +1,4 @@
-// algo-report: reads the answers of algo-drive and tells people what became of it.
+// algo-report: reads the answers of algo-drive and writes a report for people.
 
 #include <CLI/CLI.hpp>
 #include <iostream>
@@ -24,9 +24,9 @@ int main(int argc, char** argv) {
   }
 
   std::ios::sync_with_stdio(false);
-  algo::terminal::report::TRunReport account(std::cout);
+  algo::terminal::report::TRunReport report(std::cout);
   std::string line;
-  while (std::getline(std::cin, line)) account.AddLine(line);
-  account.Finish();
-  return account.AllOk() ? 0 : 1;
+  while (std::getline(std::cin, line)) report.AddLine(line);
+  report.Finish();
+  return report.AllOk() ? 0 : 1;
 }

@@ -56,7 +56,7 @@ void WriteLine(std::ostream& out, std::string_view indent, std::string_view titl
       << value << '\n';
 }
 
-/// The parameters one by one: what follows the prefix, up to the semicolon, in pieces of key and value.
+/// Writes the parameters one by one: the pairs of key and value between the prefix and the semicolon.
 void WriteParameters(std::ostream& out, std::string_view text) {
   text = text.substr(0, text.find(';'));
   if (const auto prefix = text.find(':'); prefix < text.find('=')) text.remove_prefix(prefix + 1);
@@ -66,7 +66,7 @@ void WriteParameters(std::ostream& out, std::string_view text) {
   });
 }
 
-/// What is told of events in one line, besides orders.
+/// Events that are reported in one line; orders are reported field by field.
 struct TEventLine {
   std::string_view event;
   void (*write)(std::ostream& out, const json& event);
@@ -104,15 +104,15 @@ void TRunReport::AddLine(std::string_view line) {
     AddAnswer(answer);
   } else {
     ++FRefused;
-    FOut << "Line " << FLines << " is no answer\n";
+    FOut << "Line " << FLines << " is not an answer\n";
   }
 }
 
 void TRunReport::AddAnswer(const json& answer) {
-  // A script gives a command a text for an id to say what it is about.
+  // A script may use a text as the id of a command, as a heading.
   const auto id = answer.find("id");
   if (id != answer.end() && id->is_string()) FOut << '\n' << id->get_ref<const std::string&>() << '\n';
-  // A dialog closes before the command that led to it goes on and finishes the order.
+  // A dialog closes before the command that opened it goes on and finishes the order.
   for (const auto& dialog : MemberList(answer, "modal")) {
     for (const auto& inner : MemberList(dialog, "answers")) AddAnswer(inner);
     const std::string result = MemberText(dialog, "result");

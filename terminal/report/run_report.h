@@ -1,7 +1,7 @@
 #pragma once
 
-// The account of a run of the scripted host, for people: the orders that were handed to the terminal, field
-// by field with their parameters, what the trader was told on the way, and which commands were refused.
+// A report on a run of the scripted host, for people: the orders that were sent to the terminal, field by
+// field with their parameters, the messages that the trader saw, and the commands that were refused.
 
 #include <cstdint>
 #include <iosfwd>
@@ -12,11 +12,10 @@ namespace algo::terminal::report {
 
 class TRunReport {
  public:
-  /// `out` outlives the account.
+  /// `out` outlives the report.
   explicit TRunReport(std::ostream& out) : FOut(out) {}
 
-  /// Writes what there is to tell of one line of answers. A line that is no answer is told as such and counts
-  /// as one that was not ok.
+  /// Reports on one line of answers. A line that is not an answer is reported as such and counts as refused.
   void AddLine(std::string_view line);
 
   /// Writes the closing line.

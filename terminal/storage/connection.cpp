@@ -8,7 +8,7 @@ namespace algo::terminal::storage {
 
 namespace {
 
-// Long enough for a terminal that is just closing, or for the program that makes copies of the file.
+// Long enough for a terminal that is just closing, or for a backup program that copies the file.
 constexpr int BusyMilliseconds = 1000;
 
 }  // namespace
@@ -21,7 +21,7 @@ TConnection::TConnection(const std::string& file) : FFile(file) {
   const int code = sqlite3_open_v2(file.c_str(), &handle, Flags, nullptr);
   FHandle.reset(handle);
   if (code != SQLITE_OK) throw StorageErrorOf(FFile, code, sqlite3_errstr(code));
-  // SQLite is content with reading where it cannot write.
+  // SQLite opens a file for reading if it cannot be written.
   if (sqlite3_db_readonly(handle, "main") != 0) throw StorageErrorOf(FFile, SQLITE_READONLY, {});
   sqlite3_busy_timeout(handle, BusyMilliseconds);
   Execute("PRAGMA locking_mode=EXCLUSIVE; PRAGMA synchronous=FULL; PRAGMA foreign_keys=ON;");
@@ -40,7 +40,7 @@ TTransaction::TTransaction(TConnection& connection) : FConnection(connection) {
 }
 
 TTransaction::~TTransaction() {
-  // Some failures end the transaction by themselves; then there is nothing left to undo.
+  // Some failures end the transaction by themselves; then there is nothing to roll back.
   if (sqlite3_get_autocommit(FConnection.Handle()) == 0) {
     sqlite3_exec(FConnection.Handle(), "ROLLBACK", nullptr, nullptr, nullptr);
   }

@@ -1,7 +1,7 @@
 #pragma once
 
-// An open database file, alone in its use: a second terminal on the same file would number its orders with
-// the keys of the first and write over them.
+// An open database file, for exclusive use: a second terminal on the same file would number its orders with
+// the keys of the first and overwrite them.
 
 #include <memory>
 #include <string>
@@ -12,14 +12,14 @@ namespace algo::terminal::storage {
 
 class TConnection {
  public:
-  /// Opens the file, which is made when it is not there, and takes it for this connection alone from the
-  /// first access on. Throws EStorageError when it cannot be opened for writing.
+  /// Opens the file, which is created if it does not exist, and locks it for this connection from the first
+  /// access on. Throws EStorageError if it cannot be opened for writing.
   explicit TConnection(const std::string& file);
 
-  /// Carries out statements that answer nothing. Throws EStorageError at the first one that fails.
+  /// Executes statements that return no rows. Throws EStorageError at the first one that fails.
   void Execute(const char* sql);
 
-  /// Throws EStorageError for what failed last.
+  /// Throws EStorageError for the last failure of SQLite.
   [[noreturn]] void Fail() const;
 
   const std::string& File() const { return FFile; }
@@ -34,16 +34,16 @@ class TConnection {
   std::unique_ptr<sqlite3, TClose> FHandle;
 };
 
-/// All or nothing of what is written while it lives: undone when it goes without Commit.
+/// A transaction of everything that is written during its lifetime: rolled back if it ends without Commit.
 class TTransaction {
  public:
-  /// Begins to write, and throws EStorageError when that is not possible now.
+  /// Begins the transaction; throws EStorageError if that is not possible now.
   explicit TTransaction(TConnection& connection);
   ~TTransaction();
   TTransaction(const TTransaction&) = delete;
   TTransaction& operator=(const TTransaction&) = delete;
 
-  /// Returns when everything is on the disk. Throws EStorageError, with nothing written, when it cannot be.
+  /// Returns when everything is on the disk. Throws EStorageError, with nothing written, if that fails.
   void Commit();
 
  private:

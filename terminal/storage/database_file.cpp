@@ -15,15 +15,16 @@ namespace {
 
 namespace fs = std::filesystem;
 
-// The beginning of every SQLite file, and where in it the mark of the program that made it stands.
+// How every SQLite file begins, and where in its header the application id is.
 constexpr std::string_view FormatName("SQLite format 3\0", 16);
-constexpr std::size_t MarkPlace = 68;
+constexpr std::size_t ApplicationIdOffset = 68;
 constexpr std::size_t HeaderSize = 100;
 
-std::uint32_t MarkOf(const std::array<char, HeaderSize>& header) {
-  std::uint32_t mark = 0;
-  for (std::size_t i = 0; i < 4; ++i) mark = mark << 8U | static_cast<unsigned char>(header[MarkPlace + i]);
-  return mark;
+std::uint32_t ApplicationIdOf(const std::array<char, HeaderSize>& header) {
+  std::uint32_t id = 0;
+  for (std::size_t i = 0; i < 4; ++i)
+    id = id << 8U | static_cast<unsigned char>(header[ApplicationIdOffset + i]);
+  return id;
 }
 
 void RefuseForeign(const std::string& file) {
@@ -36,9 +37,10 @@ void RefuseForeign(const std::string& file) {
   }
   if (in.gcount() == 0) return;
   if (!std::string_view(header.data(), header.size()).starts_with(FormatName)) {
-    throw EStorageError(file, "is no database.", "Choose another file, or put a copy of the database back.");
+    throw EStorageError(file, "is not a database.",
+                        "Choose another file, or put a copy of the database back.");
   }
-  if (MarkOf(header) != DatabaseMark) {
+  if (ApplicationIdOf(header) != ApplicationId) {
     throw EStorageError(file, "belongs to another program.", "Choose another file.");
   }
 }
@@ -57,7 +59,7 @@ std::string UsableDatabaseFile(const std::string& file) {
   }
   if (fs::exists(path, failure)) {
     if (!fs::is_regular_file(path, failure)) {
-      throw EStorageError(path.string(), "is no file.", "Choose another file.");
+      throw EStorageError(path.string(), "is not a file.", "Choose another file.");
     }
     RefuseForeign(path.string());
   }

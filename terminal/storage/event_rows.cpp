@@ -11,20 +11,20 @@ std::string SelectSql(const char* which) {
          which + " ORDER BY sequence";
 }
 
-std::vector<TStoredEvent> EventsOf(TRun& run) {
+std::vector<TStoredEvent> EventsOf(TQuery& query) {
   std::vector<TStoredEvent> events;
-  while (run.Next()) {
-    TStoredEvent& kept = events.emplace_back();
-    run.Take(kept.sequence);
-    run.Take(kept.time);
-    run.Take(kept.event.who);
-    run.Take(kept.event.what);
-    run.Take(kept.event.answer);
-    run.Take(kept.orderKey);
-    run.Take(kept.quantity);
-    run.Take(kept.filled);
-    run.Take(kept.price);
-    run.Take(kept.status);
+  while (query.Next()) {
+    TStoredEvent& stored = events.emplace_back();
+    query.Read(stored.sequence);
+    query.Read(stored.time);
+    query.Read(stored.event.who);
+    query.Read(stored.event.what);
+    query.Read(stored.event.answer);
+    query.Read(stored.orderKey);
+    query.Read(stored.quantity);
+    query.Read(stored.filled);
+    query.Read(stored.price);
+    query.Read(stored.status);
   }
   return events;
 }
@@ -32,26 +32,26 @@ std::vector<TStoredEvent> EventsOf(TRun& run) {
 }  // namespace
 
 TEventRows::TEventRows(TConnection& connection)
-    : FKeep(connection,
-            "INSERT INTO events (time, who, what, answer, order_key, quantity, filled, price, status)"
-            " VALUES (?, ?, ?, ?, ?, ?, ?, ?, ?)"),
+    : FAdd(connection,
+           "INSERT INTO events (time, who, what, answer, order_key, quantity, filled, price, status)"
+           " VALUES (?, ?, ?, ?, ?, ?, ?, ?, ?)"),
       FAll(connection, SelectSql("")),
       FOf(connection, SelectSql(" WHERE order_key = ?")) {}
 
-void TEventRows::Keep(const std::string& time, const TOrderEvent& event,
-                      const host::TCustomClientOrder& order) {
-  Run(FKeep, time, event.who, event.what, event.answer, order.key, order.quantity, order.filled, order.price,
-      order.status);
+void TEventRows::Add(const std::string& time, const TOrderEvent& event,
+                     const host::TCustomClientOrder& order) {
+  Execute(FAdd, time, event.who, event.what, event.answer, order.key, order.quantity, order.filled,
+          order.price, order.status);
 }
 
 std::vector<TStoredEvent> TEventRows::All() {
-  TRun run(FAll);
-  return EventsOf(run);
+  TQuery query(FAll);
+  return EventsOf(query);
 }
 
 std::vector<TStoredEvent> TEventRows::Of(std::string_view orderKey) {
-  TRun run(FOf, orderKey);
-  return EventsOf(run);
+  TQuery query(FOf, orderKey);
+  return EventsOf(query);
 }
 
 }  // namespace algo::terminal::storage

@@ -1,7 +1,7 @@
 #pragma once
 
-// The audit trail: what was done to orders, one row an event, in the order in which it happened. Rows are
-// only ever added.
+// The audit trail: what was done to orders, one row per event, in chronological order. Rows are only ever
+// added.
 
 #include <string>
 #include <string_view>
@@ -15,11 +15,11 @@ namespace algo::terminal::storage {
 
 class TEventRows {
  public:
-  /// The connection outlives it, and has the tables of the schema.
+  /// The connection outlives the object, and its database has the tables of the schema.
   explicit TEventRows(TConnection& connection);
 
-  /// Adds the event with what the order is now. Throws EStorageError.
-  void Keep(const std::string& time, const TOrderEvent& event, const host::TCustomClientOrder& order);
+  /// Adds the event with the current figures of the order. Throws EStorageError.
+  void Add(const std::string& time, const TOrderEvent& event, const host::TCustomClientOrder& order);
 
   /// All events, oldest first. Throws EStorageError.
   std::vector<TStoredEvent> All();
@@ -28,7 +28,7 @@ class TEventRows {
   std::vector<TStoredEvent> Of(std::string_view orderKey);
 
  private:
-  TStatement FKeep;
+  TStatement FAdd;
   TStatement FAll;
   TStatement FOf;
 };

@@ -45,7 +45,7 @@ std::string ColumnNames() {
   return names;
 }
 
-std::string KeepSql() {
+std::string StoreSql() {
   std::string marks;
   std::string changes;
   for (const TColumn& column : Columns) {
@@ -62,50 +62,50 @@ std::string KeepSql() {
 }  // namespace
 
 TOrderRows::TOrderRows(TConnection& connection)
-    : FKeep(connection, KeepSql()),
-      FForgetNumbered(connection, "DELETE FROM numbered_texts WHERE place = ?"),
-      FForgetNamed(connection, "DELETE FROM named_texts WHERE place = ?"),
-      FKeepNumbered(connection, "INSERT INTO numbered_texts (place, number, text) VALUES (?, ?, ?)"),
-      FKeepNamed(connection, "INSERT INTO named_texts (place, name, text) VALUES (?, ?, ?)"),
+    : FStore(connection, StoreSql()),
+      FDeleteNumbered(connection, "DELETE FROM numbered_texts WHERE place = ?"),
+      FDeleteNamed(connection, "DELETE FROM named_texts WHERE place = ?"),
+      FStoreNumbered(connection, "INSERT INTO numbered_texts (place, number, text) VALUES (?, ?, ?)"),
+      FStoreNamed(connection, "INSERT INTO named_texts (place, name, text) VALUES (?, ?, ?)"),
       FAll(connection, "SELECT place, " + ColumnNames() + " FROM orders ORDER BY place"),
       FNumbered(connection, "SELECT number, text FROM numbered_texts WHERE place = ?"),
       FNamed(connection, "SELECT name, text FROM named_texts WHERE place = ?") {}
 
-void TOrderRows::Keep(const TOrder& order) {
+void TOrderRows::Store(const TOrder& order) {
   std::int64_t place = 0;
   {
-    TRun run(FKeep);
+    TQuery query(FStore);
     for (const TColumn& column : Columns) {
-      std::visit([&](auto property) { run.Put(order.*property); }, column.property);
+      std::visit([&](auto property) { query.Bind(order.*property); }, column.property);
     }
-    while (run.Next()) run.Take(place);
+    while (query.Next()) query.Read(place);
   }
-  Run(FForgetNumbered, place);
-  Run(FForgetNamed, place);
-  for (const auto& [number, text] : order.NumberedTexts()) Run(FKeepNumbered, place, number, text);
-  for (const auto& [name, text] : order.NamedTexts()) Run(FKeepNamed, place, name, text);
+  Execute(FDeleteNumbered, place);
+  Execute(FDeleteNamed, place);
+  for (const auto& [number, text] : order.NumberedTexts()) Execute(FStoreNumbered, place, number, text);
+  for (const auto& [name, text] : order.NamedTexts()) Execute(FStoreNamed, place, name, text);
 }
 
 std::vector<std::unique_ptr<TOrder>> TOrderRows::All() {
   std::vector<std::unique_ptr<TOrder>> orders;
   std::string text;
-  for (TRun run(FAll); run.Next();) {
+  for (TQuery query(FAll); query.Next();) {
     TOrder& order = *orders.emplace_back(std::make_unique<TOrder>());
     std::int64_t place = 0;
-    run.Take(place);
+    query.Read(place);
     for (const TColumn& column : Columns) {
-      std::visit([&](auto property) { run.Take(order.*property); }, column.property);
+      std::visit([&](auto property) { query.Read(order.*property); }, column.property);
     }
     std::int32_t number = 0;
-    for (TRun numbered(FNumbered, place); numbered.Next();) {
-      numbered.Take(number);
-      numbered.Take(text);
+    for (TQuery numbered(FNumbered, place); numbered.Next();) {
+      numbered.Read(number);
+      numbered.Read(text);
       order.SetTextProperty(number, text);
     }
     std::string name;
-    for (TRun named(FNamed, place); named.Next();) {
-      named.Take(name);
-      named.Take(text);
+    for (TQuery named(FNamed, place); named.Next();) {
+      named.Read(name);
+      named.Read(text);
       order.SetNamedText(name, text);
     }
   }

@@ -1,6 +1,6 @@
 #pragma once
 
-// Orders as rows: each property of an order a column, its text properties in tables beside it.
+// Orders as rows: a column for each property of an order, its text properties in tables of their own.
 
 #include <memory>
 #include <vector>
@@ -12,22 +12,22 @@ namespace algo::terminal::storage {
 
 class TOrderRows {
  public:
-  /// The connection outlives it, and has the tables of the schema.
+  /// The connection outlives the object, and its database has the tables of the schema.
   explicit TOrderRows(TConnection& connection);
 
-  /// Writes the order under its key, in place of what was there. Several statements, so that the caller has a
-  /// transaction open. Throws EStorageError.
-  void Keep(const host::TCustomClientOrder& order);
+  /// Writes the order under its key, replacing what was there. Executes several statements, so the caller has
+  /// to open a transaction. Throws EStorageError.
+  void Store(const host::TCustomClientOrder& order);
 
-  /// All orders, in the order in which their keys first came. Throws EStorageError.
+  /// All orders, in the order in which their keys were first stored. Throws EStorageError.
   std::vector<std::unique_ptr<host::TCustomClientOrder>> All();
 
  private:
-  TStatement FKeep;
-  TStatement FForgetNumbered;
-  TStatement FForgetNamed;
-  TStatement FKeepNumbered;
-  TStatement FKeepNamed;
+  TStatement FStore;
+  TStatement FDeleteNumbered;
+  TStatement FDeleteNamed;
+  TStatement FStoreNumbered;
+  TStatement FStoreNamed;
   TStatement FAll;
   TStatement FNumbered;
   TStatement FNamed;

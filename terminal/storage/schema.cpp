@@ -14,8 +14,8 @@ namespace algo::terminal::storage {
 
 namespace {
 
-// Figures may be NULL, by which SQLite keeps a number that is none. An event has no reference to orders,
-// since what was refused is on record too and never became an order.
+// Figures may be NULL, which is how SQLite stores NaN. An event has no foreign key to orders, since refused
+// orders are on record too and never became an order.
 constexpr std::array Steps{
     R"(
 PRAGMA application_id = 1095714097;
@@ -92,9 +92,9 @@ CREATE TABLE workspaces (
 
 std::span<const char* const> Migrations() { return Steps; }
 
-void BringUpToDate(TConnection& connection, std::span<const char* const> migrations) {
-  // Begun before anything is read, so that of two terminals that start at once one does it and the other is
-  // told that it is late.
+void Migrate(TConnection& connection, std::span<const char* const> migrations) {
+  // Begun before anything is read, so that of two terminals that start at once only one migrates and the
+  // other finds the file in use.
   TTransaction transaction(connection);
   const auto finding = First<std::string>(connection, "PRAGMA quick_check(1)");
   if (finding != "ok") throw StorageErrorOf(connection.File(), SQLITE_CORRUPT, finding);
@@ -106,7 +106,7 @@ void BringUpToDate(TConnection& connection, std::span<const char* const> migrati
   }
   while (version < migrations.size()) {
     connection.Execute(migrations[version]);
-    // No value of anybody's: the number of the step, for which SQLite has no mark here.
+    // Not a value from outside but the number of the step; SQLite takes no placeholder here.
     connection.Execute(("PRAGMA user_version=" + std::to_string(++version)).c_str());
   }
   transaction.Commit();

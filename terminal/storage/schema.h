@@ -1,6 +1,6 @@
 #pragma once
 
-// The tables of the database, and how an older database comes to have them.
+// The tables of the database, and the migration of older databases.
 
 #include <span>
 
@@ -8,13 +8,13 @@
 
 namespace algo::terminal::storage {
 
-/// Step n, counted from 0, leads from version n to version n + 1; version 0 is the empty file. A step that
-/// was once delivered is never changed again.
+/// The step with index n leads from version n to version n + 1; version 0 is the empty file. A step that was
+/// ever released is not changed any more.
 std::span<const char* const> Migrations();
 
-/// Checks that the database is whole, and carries out the steps that it lacks, all of them or none. Throws
-/// EStorageError, with no effect on the database, when it is damaged, has had more steps than are given here,
-/// or a step fails.
-void BringUpToDate(TConnection& connection, std::span<const char* const> migrations);
+/// Checks the integrity of the database, and executes the steps that it lacks, all of them or none. Throws
+/// EStorageError, with no effect on the database, if it is damaged, has a later version than these steps lead
+/// to, or a step fails.
+void Migrate(TConnection& connection, std::span<const char* const> migrations);
 
 }  // namespace algo::terminal::storage

@@ -18,11 +18,11 @@ namespace {
 
 TConnection OpenDatabase(const std::string& file) {
   TConnection connection(UsableDatabaseFile(file));
-  BringUpToDate(connection, Migrations());
-  // Not before the tables are there: what a log holds back is not in the file's header yet, and by its header
-  // the file is known as ours.
+  Migrate(connection, Migrations());
+  // Only after the migration: while the header is still in the log and not in the file, the file could not be
+  // recognised as ours.
   if (First<std::string>(connection, "PRAGMA journal_mode=WAL") != "wal") {
-    throw EStorageError(connection.File(), "is on a disk that cannot keep it safely.",
+    throw EStorageError(connection.File(), "is on a disk that cannot store it safely.",
                         "Choose a file on another disk.");
   }
   return connection;
@@ -36,13 +36,13 @@ struct TSqliteStorage::TDatabase {
   TConnection connection;
   TOrderRows orders{connection};
   TEventRows events{connection};
-  TStatement keepSetting{connection,
-                         "INSERT INTO settings (section, key, value) VALUES (?, ?, ?)"
-                         " ON CONFLICT (section, key) DO UPDATE SET value = excluded.value"};
+  TStatement storeSetting{connection,
+                          "INSERT INTO settings (section, key, value) VALUES (?, ?, ?)"
+                          " ON CONFLICT (section, key) DO UPDATE SET value = excluded.value"};
   TStatement settings{connection, "SELECT section, key, value FROM settings"};
-  TStatement keepWorkspace{connection,
-                           "INSERT INTO workspaces (name, text) VALUES (?, ?)"
-                           " ON CONFLICT (name) DO UPDATE SET text = excluded.text"};
+  TStatement storeWorkspace{connection,
+                            "INSERT INTO workspaces (name, text) VALUES (?, ?)"
+                            " ON CONFLICT (name) DO UPDATE SET text = excluded.text"};
   TStatement workspace{connection, "SELECT text FROM workspaces WHERE name = ?"};
   TStatement workspaceNames{connection, "SELECT name FROM workspaces ORDER BY name"};
 };
@@ -60,34 +60,34 @@ TSqliteStorage::TSqliteStorage(const std::string& file, TClock clock)
 
 TSqliteStorage::~TSqliteStorage() = default;
 
-void TSqliteStorage::KeepOrder(const TOrderEvent& event, const host::TCustomClientOrder& order) {
+void TSqliteStorage::StoreOrder(const TOrderEvent& event, const host::TCustomClientOrder& order) {
   TTransaction transaction(FDatabase->connection);
-  FDatabase->orders.Keep(order);
-  FDatabase->events.Keep(FClock(), event, order);
+  FDatabase->orders.Store(order);
+  FDatabase->events.Add(FClock(), event, order);
   transaction.Commit();
 }
 
-void TSqliteStorage::KeepEvent(const TOrderEvent& event, const host::TCustomClientOrder& order) {
-  FDatabase->events.Keep(FClock(), event, order);
+void TSqliteStorage::StoreEvent(const TOrderEvent& event, const host::TCustomClientOrder& order) {
+  FDatabase->events.Add(FClock(), event, order);
 }
 
-void TSqliteStorage::KeepSetting(std::string_view section, std::string_view key, std::string_view value) {
-  Run(FDatabase->keepSetting, section, key, value);
+void TSqliteStorage::StoreSetting(std::string_view section, std::string_view key, std::string_view value) {
+  Execute(FDatabase->storeSetting, section, key, value);
 }
 
 void TSqliteStorage::LoadInto(THostData& data, TOrderStore& orders) {
-  // Everything is read before anything is put in, so that a failure leaves both as they were.
-  auto keptOrders = FDatabase->orders.All();
+  // Everything is read before anything is changed, so that a failure leaves both as they were.
+  auto storedOrders = FDatabase->orders.All();
   TTextTables config = data.config;
-  for (TRun run(FDatabase->settings); run.Next();) {
+  for (TQuery query(FDatabase->settings); query.Next();) {
     std::string section;
     std::string key;
-    run.Take(section);
-    run.Take(key);
-    run.Take(config[section][key]);
+    query.Read(section);
+    query.Read(key);
+    query.Read(config[section][key]);
   }
   data.config = std::move(config);
-  for (auto& order : keptOrders) orders.Add(std::move(order));
+  for (auto& order : storedOrders) orders.Add(std::move(order));
 }
 
 std::vector<TStoredEvent> TSqliteStorage::EventsOf(std::string_view orderKey) {
@@ -97,20 +97,20 @@ std::vector<TStoredEvent> TSqliteStorage::EventsOf(std::string_view orderKey) {
 std::vector<TStoredEvent> TSqliteStorage::AllEvents() { return FDatabase->events.All(); }
 
 std::optional<std::string> TSqliteStorage::Workspace(std::string_view name) {
-  TRun run(FDatabase->workspace, name);
-  if (!run.Next()) return std::nullopt;
+  TQuery query(FDatabase->workspace, name);
+  if (!query.Next()) return std::nullopt;
   std::string text;
-  run.Take(text);
+  query.Read(text);
   return text;
 }
 
-void TSqliteStorage::KeepWorkspace(std::string_view name, std::string_view text) {
-  Run(FDatabase->keepWorkspace, name, text);
+void TSqliteStorage::StoreWorkspace(std::string_view name, std::string_view text) {
+  Execute(FDatabase->storeWorkspace, name, text);
 }
 
 std::vector<std::string> TSqliteStorage::WorkspaceNames() {
   std::vector<std::string> names;
-  for (TRun run(FDatabase->workspaceNames); run.Next();) run.Take(names.emplace_back());
+  for (TQuery query(FDatabase->workspaceNames); query.Next();) query.Read(names.emplace_back());
   return names;
 }
 

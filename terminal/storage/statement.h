@@ -1,7 +1,7 @@
 #pragma once
 
-// Prepared statements. Values go in by marks and never become part of the SQL; a run puts them in, and takes
-// columns out, in the order in which the SQL names them.
+// Prepared statements. Values are bound to placeholders and never become part of the SQL; a query binds them,
+// and reads columns, in the order in which the SQL names them.
 
 #include <cstdint>
 #include <memory>
@@ -16,11 +16,11 @@ namespace algo::terminal::storage {
 
 class TStatement {
  public:
-  /// Throws EStorageError when the database has not what the statement names. The connection outlives it.
+  /// Throws EStorageError if the database lacks what the statement names. The connection outlives it.
   TStatement(TConnection& connection, std::string_view sql);
 
  private:
-  friend class TRun;
+  friend class TQuery;
   struct TFinalize {
     void operator()(sqlite3_stmt* handle) const;
   };
@@ -29,58 +29,58 @@ class TStatement {
   std::unique_ptr<sqlite3_stmt, TFinalize> FHandle;
 };
 
-/// One run of a statement, which has no other at that time. What it holds of the database is let go with it.
-class TRun {
+/// One execution of a statement, which must have no other at that time. It releases its locks when destroyed.
+class TQuery {
  public:
   template <class... TValues>
-  explicit TRun(TStatement& statement, const TValues&... values) : FStatement(statement) {
-    (Put(values), ...);
+  explicit TQuery(TStatement& statement, const TValues&... values) : FStatement(statement) {
+    (Bind(values), ...);
   }
-  ~TRun();
-  TRun(const TRun&) = delete;
-  TRun& operator=(const TRun&) = delete;
+  ~TQuery();
+  TQuery(const TQuery&) = delete;
+  TQuery& operator=(const TQuery&) = delete;
 
-  /// Puts a value in for the next mark. Texts keep every byte, NUL included; a number that is none is NULL.
-  void Put(std::string_view value);
-  void Put(double value);
-  void Put(std::int32_t value) { Put(std::int64_t{value}); }
-  void Put(std::uint32_t value) { Put(std::int64_t{value}); }
-  void Put(std::int64_t value);
+  /// Binds a value to the next placeholder. Texts keep every byte, NUL included; NaN becomes NULL.
+  void Bind(std::string_view value);
+  void Bind(double value);
+  void Bind(std::int32_t value) { Bind(std::int64_t{value}); }
+  void Bind(std::uint32_t value) { Bind(std::int64_t{value}); }
+  void Bind(std::int64_t value);
 
-  /// Goes to the next row; false when there is none, and the statement is carried out. Throws EStorageError.
+  /// Goes to the next row; false if there is none and the statement is finished. Throws EStorageError.
   bool Next();
 
-  /// Takes the next column of the row, as Put wrote it.
-  void Take(std::string& value);
-  void Take(double& value);
-  void Take(std::int32_t& value);
-  void Take(std::uint32_t& value);
-  void Take(std::int64_t& value);
+  /// Reads the next column of the row, as Bind wrote it.
+  void Read(std::string& value);
+  void Read(double& value);
+  void Read(std::int32_t& value);
+  void Read(std::uint32_t& value);
+  void Read(std::int64_t& value);
 
  private:
   void Check(int code) const;
   sqlite3_stmt* Handle() const { return FStatement.FHandle.get(); }
 
   TStatement& FStatement;
-  int FMarks = 0;
+  int FBound = 0;
   int FColumns = 0;
 };
 
-/// Carries out a statement that answers nothing. Throws EStorageError when it fails.
+/// Executes a statement that returns no rows. Throws EStorageError if it fails.
 template <class... TValues>
-void Run(TStatement& statement, const TValues&... values) {
-  TRun run(statement, values...);
-  while (run.Next()) {
+void Execute(TStatement& statement, const TValues&... values) {
+  TQuery query(statement, values...);
+  while (query.Next()) {
   }
 }
 
-/// The first column of the first row; zero or empty when there is no row. Throws EStorageError.
+/// The first column of the first row; zero or empty if there is no row. Throws EStorageError.
 template <class TValue>
 TValue First(TConnection& connection, std::string_view sql) {
   TStatement statement(connection, sql);
-  TRun run(statement);
+  TQuery query(statement);
   TValue value{};
-  if (run.Next()) run.Take(value);
+  if (query.Next()) query.Read(value);
   return value;
 }
 

@@ -9,9 +9,9 @@ namespace algo::terminal::storage {
 
 namespace {
 
-struct TTrouble {
+struct TProblem {
   int code;
-  std::string_view trouble;
+  std::string_view problem;
   std::string_view advice;
 };
 
@@ -24,35 +24,35 @@ constexpr std::string_view NotWritable = "cannot be written.";
 constexpr std::string_view NotWritableAdvice =
     "Make the file and its folder writable for you, then try again.";
 
-constexpr std::array Troubles{
-    TTrouble{SQLITE_BUSY, Busy, BusyAdvice},
-    TTrouble{SQLITE_LOCKED, Busy, BusyAdvice},
-    TTrouble{SQLITE_CORRUPT, Damaged, DamagedAdvice},
-    TTrouble{SQLITE_NOTADB, Damaged, DamagedAdvice},
-    TTrouble{SQLITE_READONLY, NotWritable, NotWritableAdvice},
-    TTrouble{SQLITE_CANTOPEN, NotWritable, NotWritableAdvice},
-    TTrouble{SQLITE_PERM, NotWritable, NotWritableAdvice},
-    TTrouble{SQLITE_FULL, "has no room left on its disk.", "Make room on that disk, then try again."},
-    TTrouble{SQLITE_IOERR, "could not be read or written.", "Check the disk that it is on, then try again."},
-    TTrouble{SQLITE_TOOBIG, "does not take texts as long as that.", "Shorten the text, then try again."},
+constexpr std::array Problems{
+    TProblem{SQLITE_BUSY, Busy, BusyAdvice},
+    TProblem{SQLITE_LOCKED, Busy, BusyAdvice},
+    TProblem{SQLITE_CORRUPT, Damaged, DamagedAdvice},
+    TProblem{SQLITE_NOTADB, Damaged, DamagedAdvice},
+    TProblem{SQLITE_READONLY, NotWritable, NotWritableAdvice},
+    TProblem{SQLITE_CANTOPEN, NotWritable, NotWritableAdvice},
+    TProblem{SQLITE_PERM, NotWritable, NotWritableAdvice},
+    TProblem{SQLITE_FULL, "has no room left on its disk.", "Make room on that disk, then try again."},
+    TProblem{SQLITE_IOERR, "could not be read or written.", "Check the disk that it is on, then try again."},
+    TProblem{SQLITE_TOOBIG, "does not take texts as long as that.", "Shorten the text, then try again."},
 };
 
-constexpr TTrouble AnyOther{SQLITE_ERROR, "did not do what the terminal asked it for.",
+constexpr TProblem AnyOther{SQLITE_ERROR, "did not do what the terminal asked it for.",
                             "Start the terminal again; if that does not help, put a copy of the file back."};
 
 }  // namespace
 
-EStorageError::EStorageError(const std::string& file, std::string_view trouble, std::string_view advice)
-    : EError("The database '" + file + "' " + std::string(trouble) + " " + std::string(advice)) {}
+EStorageError::EStorageError(const std::string& file, std::string_view problem, std::string_view advice)
+    : EError("The database '" + file + "' " + std::string(problem) + " " + std::string(advice)) {}
 
 EStorageError StorageErrorOf(const std::string& file, int code, std::string_view detail) {
-  // The low byte is the kind of trouble, what is above it tells kinds of that kind apart.
-  const auto* const found = std::find_if(Troubles.begin(), Troubles.end(),
-                                         [code](const TTrouble& row) { return row.code == (code & 0xff); });
-  const TTrouble& row = found == Troubles.end() ? AnyOther : *found;
+  // The low byte is the kind of problem; the higher bytes tell variants of it apart.
+  const auto* const found = std::find_if(Problems.begin(), Problems.end(),
+                                         [code](const TProblem& row) { return row.code == (code & 0xff); });
+  const TProblem& row = found == Problems.end() ? AnyOther : *found;
   std::string advice(row.advice);
   if (!detail.empty()) advice.append(" (").append(detail).append(")");
-  return {file, row.trouble, advice};
+  return {file, row.problem, advice};
 }
 
 }  // namespace algo::terminal::storage

@@ -1,6 +1,6 @@
 #pragma once
 
-// An event of the audit trail as it is on record.
+// An event of the audit trail as it is stored.
 
 #include <cstdint>
 #include <string>
@@ -10,7 +10,7 @@
 namespace algo::terminal::storage {
 
 struct TStoredEvent {
-  std::int64_t sequence = 0;  ///< grows with every event, and none is used twice
+  std::int64_t sequence = 0;  ///< increases with every event, and is never reused
   std::string time;           ///< UTC, "YYYY-MM-DD HH:MM:SS.mmm"
   TOrderEvent event;
   std::string orderKey;  ///< empty for an order that had no key

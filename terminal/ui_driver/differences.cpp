@@ -15,7 +15,7 @@ QString TextOf(const forms::TControl& control) {
   const bool hasCaption =
       control.Kind() == forms::TControlKind::Button || control.Kind() == forms::TControlKind::Check;
   if (hasCaption) return render::ToQt(control.Caption()).replace(QLatin1Char('&'), QStringLiteral("&&"));
-  // A line of a widget has no line breaks and no NULs.
+  // A line edit has no line breaks and no NULs.
   return render::ToQt(control.Text());
 }
 
@@ -77,7 +77,7 @@ QStringList DifferencesOf(const render::TFrameView& view) {
   const forms::TControl* focused = frame->Focused();
   if (focused != nullptr && view.isActiveWindow() && focused->CanFocus() &&
       !view.Find(*focused)->Input().hasFocus()) {
-    differences << QStringLiteral("%1 has not the focus").arg(render::ToQt(focused->Name()));
+    differences << QStringLiteral("%1 does not have the focus").arg(render::ToQt(focused->Name()));
   }
   return differences;
 }

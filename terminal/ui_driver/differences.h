@@ -8,8 +8,8 @@
 
 namespace algo::terminal::ui_driver {
 
-/// One line for each widget that shows something else than its control holds, or is to be seen or takes input
-/// where the control says otherwise; empty when the view is right, or its frame has gone.
+/// One line for each widget that shows something other than its control holds, or that is visible or takes
+/// input although the control says otherwise; empty if the view is right, or its frame is gone.
 QStringList DifferencesOf(const render::TFrameView& view);
 
 }  // namespace algo::terminal::ui_driver

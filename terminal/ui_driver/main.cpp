@@ -1,5 +1,5 @@
-// algo-widget-drive: algo-drive's commands, carried out at the widgets of the desktop with key and mouse
-// events. Made for tests: the answers have to be those of algo-drive, line by line.
+// algo-widget-drive: algo-drive's commands, executed at the desktop's widgets with key and mouse events. Made
+// for tests: the answers have to equal those of algo-drive, line by line.
 
 #include <CLI/CLI.hpp>
 #include <QApplication>
@@ -10,8 +10,8 @@
 #include "terminal/drive/driver.h"
 #include "terminal/drive/module_library.h"
 #include "terminal/drive/session.h"
-#include "terminal/ui_driver/widget_trader.h"
-#include "terminal/ui_driver/window_stage.h"
+#include "terminal/ui_driver/separate_windows.h"
+#include "terminal/ui_driver/widget_input_player.h"
 
 int main(int argc, char** argv) {
   constexpr int UnusableArguments = 2;
@@ -34,9 +34,9 @@ int main(int argc, char** argv) {
   QApplication application(argc, argv);
   QApplication::setQuitOnLastWindowClosed(false);
   try {
-    algo::terminal::ui_driver::TWindowStage stage;
-    algo::terminal::ui_driver::TWidgetTrader trader(stage);
-    algo::terminal::drive::TSession session(module, trader);
+    algo::terminal::ui_driver::TSeparateWindows windows;
+    algo::terminal::ui_driver::TWidgetInputPlayer input(windows);
+    algo::terminal::drive::TSession session(module, input);
     algo::terminal::drive::Drive(session, std::cin, std::cout);
   } catch (const std::exception& error) {
     std::cerr << "algo-widget-drive: " << error.what() << '\n';

@@ -139,9 +139,9 @@ TEST_F(BusyHost, AFormThatGoesHearsNoMoreNews) {
   int removed = 0;
   FOnEditorRemoved = [&] {
     ++removed;
-    Host().TellConfigChanged();
-    Host().TellSkinChanged("dark");
-    Host().SetMarket("0005", 1, {{3, "61"}}, true, false);
+    Host().NotifyConfigChanged();
+    Host().NotifySkinChanged("dark");
+    Host().SetMarket("0005", 1, {{3, "61"}}, terminal::TMarketNotice::Item);
     TCustomClientOrder picked = OrderWith("TMLO:AlgoId=STOP;", "X");
     picked.symbol = "";
     host::TOrderCopyRecord copy;

@@ -33,7 +33,7 @@ TEST_F(ClosingTest, AViewMayBeClosedWhileItTellsTheHostOfItsSkin) {
   const auto second = provider.OpenNewInstance();
   OnNotice = [&] { provider.CloseInstance(first); };
   Notices = 0;
-  Host().TellSkinChanged("Dark");
+  Host().NotifySkinChanged("Dark");
   EXPECT_EQ(Notices, 2);
   EXPECT_FALSE(provider.ContainView(first));
   EXPECT_TRUE(provider.ContainView(second));
@@ -45,7 +45,7 @@ TEST_F(ClosingTest, AViewThatAnotherOneHasClosedMeanwhileIsToldNothing) {
   const auto second = provider.OpenNewInstance();
   OnNotice = [&] { provider.CloseInstance(second); };
   Notices = 0;
-  Host().TellSkinChanged("Dark");
+  Host().NotifySkinChanged("Dark");
   EXPECT_EQ(Notices, 1);
   EXPECT_FALSE(provider.ContainView(second));
 }
@@ -66,9 +66,9 @@ TEST_F(ClosingTest, AViewThatWasClosedHearsNothingAnyMore) {
   quantity.SetValue(1);
   Data().config["USER"]["ClearOrd"] = "Y";
   Notices = 0;
-  Host().TellConfigChanged();
-  Host().TellSkinChanged("Dark");
-  Host().SetMarket("0005", 1, {{24, "100"}}, true, false);
+  Host().NotifyConfigChanged();
+  Host().NotifySkinChanged("Dark");
+  Host().SetMarket("0005", 1, {{24, "100"}}, terminal::TMarketNotice::Item);
   frame->InputPick(Named(*frame, "cmbExch"), 1);
   EXPECT_FALSE(dynamic_cast<forms::TCheckBox&>(Named(*frame, "cbClear")).Checked());
   EXPECT_EQ(Combo(*frame, "cmbExch").Text(), "HK");
@@ -86,7 +86,7 @@ TEST_F(ClosingTest, AFailureToLeaveOneServiceIsToldOnceAndSparesNoOther) {
   // The host still has the listener of a frame that is gone.
   Data().faults.Set({});
   Forget();
-  Host().SetMarket("0005", 1, {{24, "100"}}, true, false);
+  Host().SetMarket("0005", 1, {{24, "100"}}, terminal::TMarketNotice::Item);
   EXPECT_EQ(Told(), TTexts());
 }
 

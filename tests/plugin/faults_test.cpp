@@ -140,7 +140,7 @@ TEST_F(HostFaults, LetAViewGoAllTheSame) {
     expected.subscriptions = refused ? 1 : 0;
     EXPECT_TRUE(LeftBehind() == expected);
     // News for the view that is gone, where the host still has its listener.
-    Host().SetMarket("0005", 1, {{3, "61"}}, true, false);
+    Host().SetMarket("0005", 1, {{3, "61"}}, terminal::TMarketNotice::Item);
     Data().faults.Set({});
     ExpectNothingLeft(refused);
   }

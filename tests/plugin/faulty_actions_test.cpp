@@ -25,7 +25,7 @@ TEST_F(FaultyActions, AreToldOnceWhenTheLanguageChanges) {
 TEST_F(FaultyActions, AreToldOnceWhenTheSkinChanges) {
   AtEachFault({"skin.color", "view.notify"},
               [this](auto& frame) { Provider().SetSkin(host::HandleOf(frame), "dark"); });
-  AtEachFault({"skin.color", "view.notify"}, [this](auto&) { Host().TellSkinChanged("dark"); });
+  AtEachFault({"skin.color", "view.notify"}, [this](auto&) { Host().NotifySkinChanged("dark"); });
 }
 
 TEST_F(FaultyActions, AreToldOnceWhenTheGroupChanges) {
@@ -35,13 +35,13 @@ TEST_F(FaultyActions, AreToldOnceWhenTheGroupChanges) {
 
 TEST_F(FaultyActions, AreToldOnceWhenTheMarketMoves) {
   AtEachFault({}, [this](auto&) {
-    Host().SetMarket("0005", 1, {{3, "61"}}, true, false);
-    Host().TellSpread(std::array<std::string, 1>{"01"});
+    Host().SetMarket("0005", 1, {{3, "61"}}, terminal::TMarketNotice::Item);
+    Host().NotifySpreadChanged(std::array<std::string, 1>{"01"});
   });
 }
 
 TEST_F(FaultyActions, AreToldOnceWhenTheSettingsChange) {
-  AtEachFault({"config.read"}, [this](auto&) { Host().TellConfigChanged(); });
+  AtEachFault({"config.read"}, [this](auto&) { Host().NotifyConfigChanged(); });
 }
 
 TEST_F(FaultyActions, AreToldOnceWhenABoxIsClicked) {
@@ -78,7 +78,7 @@ TEST_F(FaultyActions, AreToldOnceWhenAChoiceChanges) {
 
 TEST_F(FaultyActions, LetNoOldInstrumentServeTheSymbolThatFollows) {
   Prepare();
-  Host().SetMarket("0005", 1, {{1504, "100"}}, false, false);
+  Host().SetMarket("0005", 1, {{1504, "100"}}, terminal::TMarketNotice::None);
   for (const char* fault : {"subscribe.add", "subscribe.remove"}) {
     SCOPED_TRACE(fault);
     auto& frame = OpenFilled();

@@ -12,11 +12,11 @@ class Lifetimes : public TOrderDialogTest {
  protected:
   /// Sends everything that a host sends on its own.
   void NotifyAll() {
-    Host().TellConfigChanged();
-    Host().TellSkinChanged("dark");
+    Host().NotifyConfigChanged();
+    Host().NotifySkinChanged("dark");
     const std::string codes[] = {"", "01"};
-    Host().TellSpread(codes);
-    Host().SetMarket("0005", 1, {{3, "61"}}, true, false);
+    Host().NotifySpreadChanged(codes);
+    Host().SetMarket("0005", 1, {{3, "61"}}, terminal::TMarketNotice::Item);
     for (const char* symbol : {"", "0700"}) {
       TCustomClientOrder picked = OrderWith("TMLO:AlgoId=STOP,StopQty=9;", "X");
       picked.symbol = symbol;

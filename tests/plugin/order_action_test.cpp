@@ -245,7 +245,7 @@ TEST_F(OrderActionTest, TheSettingIsReadInTheUsersSectionWhenTheProviderIsMade) 
   Data().config["USER"]["ChangeOrderShowModel"] = "N";
   Provider();
   Data().config["DESK"]["ChangeOrderShowModel"] = "N";
-  Host().TellConfigChanged();
+  Host().NotifyConfigChanged();
   PostWith(&Made("K1"), 2, false);
   EXPECT_EQ(Seen("show_modal").size(), 1U);
 }

@@ -66,7 +66,7 @@ TEST_F(OrderFailures, AHostThatFailsWhileADialogIsMadeIsToldOnce) {
             "profile.data", "config.read", "skin.color", "view.notify"}) {
         DropProvider();
         Data().config["USER"]["ChangeOrderShowModel"] = beside ? "N" : "Y";
-        Host().SetMarket("0005", 0, {}, false, false);
+        Host().SetMarket("0005", 0, {}, terminal::TMarketNotice::None);
         Provider();
         const host::TLeftBehind before = LeftBehind();
         TCustomClientOrder order = AnyOrder();
@@ -93,7 +93,7 @@ TEST_F(OrderFailures, AFormWhoseOrderCannotBeCopiedLeavesNothingBehind) {
        {"orders.new", "form.make", "editor.symbol", "language.text", "market.instrument"}) {
     DropProvider();
     Data().config["USER"]["ChangeOrderShowModel"] = "N";
-    Host().SetMarket("0005", 0, {}, false, false);
+    Host().SetMarket("0005", 0, {}, terminal::TMarketNotice::None);
     Provider();
     const host::TLeftBehind before = LeftBehind();
     TCustomClientOrder order = AnyOrder();

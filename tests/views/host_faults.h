@@ -50,8 +50,8 @@ class HostFaults : public TTerminalTest {
 
   void Prepare() {
     Data().config["USER"] = {{"ConfirmationPlaceOrd", "N"}};
-    Host().SetMarket("0005", 1, {{3, "60.5"}, {24, "400"}}, false, false);
-    Host().SetMarket("0700", 1, {{3, "300"}, {24, "100"}}, false, false);
+    Host().SetMarket("0005", 1, {{3, "60.5"}, {24, "400"}}, terminal::TMarketNotice::None);
+    Host().SetMarket("0700", 1, {{3, "300"}, {24, "100"}}, terminal::TMarketNotice::None);
   }
 
   /// A trader can still enter an order of 0700 from scratch and send it.

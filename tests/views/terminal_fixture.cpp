@@ -46,8 +46,8 @@ TTerminalTest::TTerminalTest()
   data.lists["ALGO/OrderType/US"] = {"LO", "MO"};
   data.instruments["0005"] = {"0005", "400"};
   data.instruments["0700"] = {"0700", "100"};
-  FHost->SetMarket("0005", host::ItemLive, {{host::PriceField, "60.5"}, {host::LotSizeField, "400"}}, false,
-                   false);
+  FHost->SetMarket("0005", host::ItemLive, {{host::PriceField, "60.5"}, {host::LotSizeField, "400"}},
+                   terminal::TMarketNotice::None);
 }
 
 TTerminalTest::~TTerminalTest() {

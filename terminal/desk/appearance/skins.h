@@ -88,7 +88,7 @@ const TSkin* SkinNamed(std::string_view name);
 QPalette PaletteOf(const TSkin& skin);
 
 /// Shows the whole application, which is there by then, in the skin: open windows as well. The module is told
-/// by whoever runs the host (TMemoryHost::TellSkinChanged).
+/// by whoever runs the host (TMemoryHost::NotifySkinChanged).
 void ApplySkin(const TSkin& skin);
 
 }  // namespace algo::terminal::desk::appearance

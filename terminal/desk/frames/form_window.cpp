@@ -10,7 +10,7 @@
 
 namespace algo::terminal::desk::frames {
 
-TFormWindow::TFormWindow(forms::TDialogForm& form, TDeskEvents& events, const render::TEditorAids& assist,
+TFormWindow::TFormWindow(forms::TDialogForm& form, TDeskEvents& events, const render::TEditorAssist& assist,
                          QWidget* parent)
     : QDialog(parent),
       FEvents(events),

@@ -15,7 +15,7 @@ class TFormWindow final : public QDialog {
   Q_OBJECT
  public:
   /// Shows the form's frame in a client area of the form's size. The window does not own the form.
-  TFormWindow(forms::TDialogForm& form, TDeskEvents& events, const render::TEditorAids& assist,
+  TFormWindow(forms::TDialogForm& form, TDeskEvents& events, const render::TEditorAssist& assist,
               QWidget* parent);
 
   /// Whether it is the window of that form.

@@ -6,7 +6,7 @@
 
 namespace algo::terminal::desk::frames {
 
-TFormWindows::TFormWindows(TDeskEvents& events, const render::TEditorAids& assist, QWidget& parent)
+TFormWindows::TFormWindows(TDeskEvents& events, const render::TEditorAssist& assist, QWidget& parent)
     : FEvents(events), FAssist(assist), FParent(parent) {
   connect(&events, &TDeskEvents::ModalFormShown, this,
           [this](forms::TDialogForm& form) { FEvents.Guard([&] { RunModal(form); }); });

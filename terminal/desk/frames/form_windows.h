@@ -17,7 +17,7 @@ class TFormWindows final : public QObject {
   Q_OBJECT
  public:
   /// All of them outlive the object. Modal windows block `parent`, others stay in front of it.
-  TFormWindows(TDeskEvents& events, const render::TEditorAids& assist, QWidget& parent);
+  TFormWindows(TDeskEvents& events, const render::TEditorAssist& assist, QWidget& parent);
   ~TFormWindows() override;
 
   /// Whether a modal form shows.
@@ -40,7 +40,7 @@ class TFormWindows final : public QObject {
   TFormWindow* Find(const forms::TDialogForm& form) const;
 
   TDeskEvents& FEvents;
-  const render::TEditorAids& FAssist;
+  const render::TEditorAssist& FAssist;
   QWidget& FParent;
   std::vector<std::pair<forms::TDialogForm*, TFormWindow*>> FModal;
   std::vector<QPointer<TFormWindow>> FOthers;

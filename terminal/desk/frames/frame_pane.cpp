@@ -5,7 +5,7 @@
 
 namespace algo::terminal::desk::frames {
 
-TFramePane::TFramePane(const std::shared_ptr<forms::TFrame>& frame, const render::TEditorAids& assist)
+TFramePane::TFramePane(const std::shared_ptr<forms::TFrame>& frame, const render::TEditorAssist& assist)
     : FView(*new render::TFrameView(frame, assist)) {
   setObjectName("pane");
   FView.setObjectName("frame");

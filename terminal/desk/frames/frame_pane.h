@@ -14,7 +14,7 @@ class TFramePane final : public QScrollArea {
   Q_OBJECT
  public:
   /// As for TFrameView.
-  TFramePane(const std::shared_ptr<forms::TFrame>& frame, const render::TEditorAids& assist);
+  TFramePane(const std::shared_ptr<forms::TFrame>& frame, const render::TEditorAssist& assist);
 
   render::TFrameView& View() { return FView; }
 

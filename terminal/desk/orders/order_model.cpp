@@ -31,11 +31,11 @@ QString ShownText(const QVariant& value, int column) {
 
 TOrderModel::TOrderModel(TMemoryHost& host, const appearance::TTexts& texts) : FHost(host), FTexts(texts) {
   for (const auto& order : FHost.Orders().All()) Insert(*order);
-  FHost.Ledger().Listeners().Add([this](const host::TCustomClientOrder& order) { OrderChanged(order); },
-                                 this);
+  FHost.Journal().Listeners().Add([this](const host::TCustomClientOrder& order) { OrderChanged(order); },
+                                  this);
 }
 
-TOrderModel::~TOrderModel() { FHost.Ledger().Listeners().Remove(this); }
+TOrderModel::~TOrderModel() { FHost.Journal().Listeners().Remove(this); }
 
 const host::TCustomClientOrder* TOrderModel::OrderAt(const QModelIndex& index) const {
   return NodeAt(index).order;

@@ -24,7 +24,7 @@ render::TFrameView& TDeskWindows::ViewOf(const std::shared_ptr<forms::TFrame>& f
   throw EError("the frame stands in no window");
 }
 
-QWidget& TDeskWindows::RestOf(const render::TFrameView& /*view*/) const {
+QWidget& TDeskWindows::FocusSinkOf(const render::TFrameView& /*view*/) const {
   return *FWindow.findChild<QWidget*>("marketTable");
 }
 

@@ -128,8 +128,8 @@ void TScriptPlayer::MoveMarket(const drive::TArguments& arguments) {
       if (!value.is_null()) change = drive::AsText(field, value);
     }
   }
-  Open().desk.Host().SetMarket(arguments.Text("symbol"), arguments.IntegerOr("state", 1), changes, true,
-                               false);
+  Open().desk.Host().SetMarket(arguments.Text("symbol"), arguments.IntegerOr("state", 1), changes,
+                               TMarketNotice::Item);
 }
 
 void TScriptPlayer::ChooseInOrderMenu(const std::string& key, const char* entry) {

@@ -18,7 +18,7 @@
 #include "terminal/desk/session/desk.h"
 #include "terminal/desk/window/main_window.h"
 #include "terminal/drive/arguments.h"
-#include "terminal/ui_driver/widget_trader.h"
+#include "terminal/ui_driver/widget_input_player.h"
 
 namespace algo::terminal::desk::script {
 
@@ -42,7 +42,7 @@ class TScriptPlayer {
     QMetaObject::Connection dialogs;
     window::TMainWindow window;
     TDeskWindows windows{window};
-    ui_driver::TWidgetTrader trader{windows};
+    ui_driver::TWidgetInputPlayer trader{windows};
   };
   using THandler = void (TScriptPlayer::*)(const drive::TArguments& arguments);
   struct TCommand;

@@ -80,7 +80,7 @@ TDesk::TDesk(const TDeskOptions& options)
 
 TDesk::~TDesk() {
   FTimer.stop();
-  FModule->DropProvider();
+  FModule->DestroyProvider();
 }
 
 host::TInstanceHandle TDesk::OpenView() {
@@ -108,7 +108,7 @@ void TDesk::SetSkin(const appearance::TSkin& skin) {
   FSkin = &skin;
   appearance::ApplySkin(skin);
   skin.FillInto(FHost.Data());
-  FHost.TellSkinChanged(skin.name);
+  FHost.NotifySkinChanged(skin.name);
   emit SkinChanged();
 }
 

@@ -41,7 +41,7 @@ class TDesk final : public QObject {
   storage::TSqliteStorage& Storage() { return FStorage; }
   host::TIBaseView& Provider() { return FModule->Provider(); }
   const paper::TMarketTables& Tables() const { return FTables; }
-  const render::TEditorAids& EditorAssist() const { return FEditorAssist; }
+  const render::TEditorAssist& EditorAssist() const { return FEditorAssist; }
   const appearance::TTexts& Texts() const { return FTexts; }
   const appearance::TSkin& Skin() const { return *FSkin; }
 

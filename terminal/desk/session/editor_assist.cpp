@@ -70,7 +70,7 @@ std::vector<render::TCompletion> TDeskEditorAssist::Completions(const forms::TTe
 double TDeskEditorAssist::Stepped(const forms::TSpinEdit& editor, double value, std::int32_t steps) const {
   const auto found = FEditors.find(&editor);
   const auto place = found == FEditors.end() ? std::nullopt : FTables.IndexOf(found->second.symbol);
-  if (!place) return render::TEditorAids::Stepped(editor, value, steps);
+  if (!place) return render::TEditorAssist::Stepped(editor, value, steps);
   const paper::TPaperInstrument& instrument = FTables.instruments[*place];
   if (found->second.kind == TEditorKind::Quantity) return SteppedByLot(value, instrument.lot, steps);
   // What is shown is the market's price times the multiplier; the ticks are the market's.

@@ -12,11 +12,11 @@
 #include "terminal/desk/session/desk_events.h"
 #include "terminal/host/memory_host.h"
 #include "terminal/paper/market_tables.h"
-#include "terminal/render/editor_aids.h"
+#include "terminal/render/editor_assist.h"
 
 namespace algo::terminal::desk {
 
-class TDeskEditorAssist final : public QObject, public render::TEditorAids {
+class TDeskEditorAssist final : public QObject, public render::TEditorAssist {
   Q_OBJECT
  public:
   /// All of them outlive the object.

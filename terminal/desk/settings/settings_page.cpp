@@ -103,7 +103,7 @@ bool TSettingsPage::Apply() {
       anyStored = true;
     }
   });
-  const bool notified = !anyStored || Guarded([&] { FHost.TellConfigChanged(); });
+  const bool notified = !anyStored || Guarded([&] { FHost.NotifyConfigChanged(); });
   UpdateApplyButton();
   return stored && notified;
 }

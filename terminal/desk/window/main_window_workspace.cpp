@@ -29,13 +29,13 @@ void TMainWindow::RestoreWorkspace(const TDeskOptions& options) {
   }
   ShowFirstWorkspace();
   if (!text) return;
-  FDesk.Storage().KeepWorkspace(UnreadableName, *text);
+  FDesk.Storage().StoreWorkspace(UnreadableName, *text);
   ShowMessage(FDesk.Texts().Desk("Workspace.Unreadable"));
 }
 
 bool TMainWindow::SaveWorkspace() {
   return FDesk.Events().Guard(
-      [this] { FDesk.Storage().KeepWorkspace(WorkspaceName, WorkspaceText(Current())); });
+      [this] { FDesk.Storage().StoreWorkspace(WorkspaceName, WorkspaceText(Current())); });
 }
 
 void TMainWindow::PlacePanels() {

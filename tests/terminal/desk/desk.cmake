@@ -1,6 +1,4 @@
-# The desktop as programs: started by tests, and as a real window on a virtual screen.
-
-add_dependencies(test_desk algo-desk algo-desk-script)
+# The desktop as a real window on a virtual screen.
 
 add_test(NAME "the desk takes an order by keys alone"
   COMMAND "${CMAKE_CURRENT_LIST_DIR}/by_keys.sh" $<TARGET_FILE:algo-desk> "${CMAKE_SOURCE_DIR}/examples/market")

@@ -1,9 +1,9 @@
-#include "tests/terminal/drive/play.h"
+#include "tests/terminal/drive/session_fixture.h"
 
 namespace algo::terminal::drive {
 namespace {
 
-class HostData : public TPlay {
+class HostData : public TSessionTest {
  protected:
   THostData& Data() { return session.Host().Data(); }
 };

@@ -1,11 +1,11 @@
 #include <sstream>
 
-#include "tests/terminal/drive/play.h"
+#include "tests/terminal/drive/session_fixture.h"
 
 namespace algo::terminal::drive {
 namespace {
 
-class Lines : public TPlay {};
+class Lines : public TSessionTest {};
 
 TEST_F(Lines, AreAnsweredInOrderAndBlankOnesArePassedOver) {
   const auto answers = Play("\n{\"do\":\"orders\",\"id\":1}\n   \t\r\n{\"do\":\"orders\",\"id\":2}");

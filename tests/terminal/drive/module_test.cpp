@@ -1,13 +1,13 @@
 // The driver with the module that was built with it.
 
-#include "tests/terminal/drive/play.h"
+#include "tests/terminal/drive/session_fixture.h"
 
 namespace algo::terminal::drive {
 namespace {
 
-class Module : public TPlay {
+class Module : public TSessionTest {
  protected:
-  Module() : TPlay(ModuleBesideProgram()) {
+  Module() : TSessionTest(ModuleBesideProgram()) {
     Play(
         R"({"do":"host","accounts":["A"],"instruments":{"S":{"lot":"100"}},"lists":{"ALGO/Exchange":["X"],)"
         R"("ALGO/ALGOType/X":["TVOL","TWAP"],"ALGO/OrderType/X":["LO"]},"config":{"USER":{"ConfirmationPlaceOrd":"Y"}}})"
@@ -107,7 +107,7 @@ TEST_F(Module, SubmitsThroughItsDialog) {
   // The dialog's frame stays known, for what a frame without a view of its own can be asked.
   EXPECT_EQ(Ask(R"({"do":"size","frame":"change"})")["ok"], true);
   EXPECT_EQ(Ask(R"({"do":"group","frame":"change","id":"G"})")["group"], "G");
-  EXPECT_EQ(Refusal(R"({"do":"layout","frame":"change"})"), "'change' is no view that was opened");
+  EXPECT_EQ(Refusal(R"({"do":"layout","frame":"change"})"), "'change' is not a view that was opened");
 }
 
 TEST_F(Module, ShowsChangesBesideOthersWhenSetSo) {

@@ -1,9 +1,9 @@
-#include "tests/terminal/drive/play.h"
+#include "tests/terminal/drive/session_fixture.h"
 
 namespace algo::terminal::drive {
 namespace {
 
-class Orders : public TPlay {};
+class Orders : public TSessionTest {};
 
 TEST_F(Orders, HaveEveryFieldInAnswers) {
   Ask(R"({"do":"order","key":"K1"})");

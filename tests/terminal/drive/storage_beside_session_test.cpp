@@ -2,21 +2,21 @@
 // have the same name.
 
 #include "terminal/storage/sqlite_storage.h"
-#include "tests/terminal/drive/play.h"
-#include "tests/terminal/storage/temporary_folder.h"
+#include "tests/terminal/drive/session_fixture.h"
+#include "tests/terminal/temporary_folder.h"
 
 namespace algo::terminal::drive {
 namespace {
 
-using StorageBesideSession = TPlay;
+using StorageBesideSession = TSessionTest;
 
 TEST_F(StorageBesideSession, ACommandAndAStoredOrderDoNotDisturbEachOther) {
-  const storage::tests::TTemporaryFolder folder;
+  const terminal::tests::TTemporaryFolder folder;
   storage::TSqliteStorage stored(folder.Path("terminal.db"));
   Ask(R"({"do":"order","key":"K1","quantity":5})");
   const auto* order = session.Host().Orders().Find("K1");
   ASSERT_NE(order, nullptr);
-  stored.KeepOrder({"me", "new", "accepted"}, *order);
+  stored.StoreOrder({"me", "new", "accepted"}, *order);
 
   THostData data;
   TOrderStore loaded;

@@ -27,8 +27,8 @@ struct TListenersTest : testing::Test {
 TEST_F(TListenersTest, AreToldInTheOrderInWhichTheyCame) {
   Add('b');
   Add('a');
-  listeners.Tell(1);
-  listeners.Tell(2);
+  listeners.Notify(1);
+  listeners.Notify(2);
   EXPECT_EQ(heard, "b1 a1 b2 a2 ");
 }
 
@@ -37,7 +37,7 @@ TEST_F(TListenersTest, ThoseThatWereRemovedAreNotTold) {
   Add('b');
   listeners.Remove(Owner('a'));
   listeners.Remove(Owner('c'));
-  listeners.Tell(1);
+  listeners.Notify(1);
   EXPECT_EQ(heard, "b1 ");
 }
 
@@ -49,8 +49,8 @@ TEST_F(TListenersTest, OneMayRemoveItselfAndLaterOnesWhileItIsTold) {
   });
   Add('b');
   Add('c');
-  listeners.Tell(1);
-  listeners.Tell(2);
+  listeners.Notify(1);
+  listeners.Notify(2);
   EXPECT_EQ(heard, "a1 still here c1 c2 ");
 }
 
@@ -59,8 +59,8 @@ TEST_F(TListenersTest, OneThatIsAddedMeanwhileWaitsForTheNextRound) {
   Add('a', [&] {
     if (!std::exchange(added, true)) Add('b');
   });
-  listeners.Tell(1);
-  listeners.Tell(2);
+  listeners.Notify(1);
+  listeners.Notify(2);
   EXPECT_EQ(heard, "a1 a2 b2 ");
 }
 
@@ -68,12 +68,12 @@ TEST_F(TListenersTest, ARoundMaySetOffAnother) {
   bool again = true;
   Add('a', [&] {
     if (std::exchange(again, false)) {
-      listeners.Tell(2);
+      listeners.Notify(2);
       listeners.Remove(Owner('b'));
     }
   });
   Add('b');
-  listeners.Tell(1);
+  listeners.Notify(1);
   EXPECT_EQ(heard, "a1 a2 b2 ");
   EXPECT_FALSE(listeners.Empty());
 }
@@ -86,9 +86,9 @@ TEST_F(TListenersTest, AFailureEndsTheRoundAndHarmsNoLaterOne) {
   });
   Add('b');
   Add('c');
-  EXPECT_THROW(listeners.Tell(1), std::runtime_error);
+  EXPECT_THROW(listeners.Notify(1), std::runtime_error);
   fails = false;
-  listeners.Tell(2);
+  listeners.Notify(2);
   EXPECT_EQ(heard, "a1 a2 b2 ");
 }
 
@@ -99,7 +99,7 @@ TEST_F(TListenersTest, AreEmptyWhenTheLastOneHasGone) {
     EXPECT_TRUE(listeners.Empty());
   });
   EXPECT_FALSE(listeners.Empty());
-  listeners.Tell(1);
+  listeners.Notify(1);
   EXPECT_TRUE(listeners.Empty());
 }
 

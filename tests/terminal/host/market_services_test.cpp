@@ -42,7 +42,7 @@ TEST_F(TMarketTest, ASymbolWithoutDataHasAnItemInStateZero) {
 }
 
 TEST_F(TMarketTest, FieldsAreTextsAndTheNumbersThatTheyShow) {
-  host.SetMarket("S", 1, {{3, "10.5"}, {73, "01x"}, {24, "1e400"}}, false, false);
+  host.SetMarket("S", 1, {{3, "10.5"}, {73, "01x"}, {24, "1e400"}}, TMarketNotice::None);
   const auto* item = subscriptions.Subscribe("S", "PRCDDS", true);
   EXPECT_EQ(item->State(), 1);
   EXPECT_EQ(item->FieldNumber(3), 10.5);
@@ -54,8 +54,8 @@ TEST_F(TMarketTest, FieldsAreTextsAndTheNumbersThatTheyShow) {
 
 TEST_F(TMarketTest, ChangesMergeAndTakeFieldsOut) {
   auto* item = subscriptions.Subscribe("S", "PRCDDS", true);
-  host.SetMarket("S", 1, {{3, "10"}, {24, "100"}}, false, false);
-  host.SetMarket("S", std::nullopt, {{3, "11"}, {24, std::nullopt}}, false, false);
+  host.SetMarket("S", 1, {{3, "10"}, {24, "100"}}, TMarketNotice::None);
+  host.SetMarket("S", std::nullopt, {{3, "11"}, {24, std::nullopt}}, TMarketNotice::None);
   EXPECT_EQ(item->State(), 1);
   EXPECT_EQ(item->FieldText(3), "11");
   EXPECT_FALSE(item->HasField(24));
@@ -63,16 +63,16 @@ TEST_F(TMarketTest, ChangesMergeAndTakeFieldsOut) {
 
 TEST_F(TMarketTest, ListenersAreToldOfTheirItemAlone) {
   Listen(subscriptions.Subscribe("S", "PRCDDS", true));
-  host.SetMarket("S", 1, {{3, "10"}}, true, false);
-  host.SetMarket("T", 1, {{3, "20"}}, true, false);
-  host.SetMarket("S", 1, {{3, "11"}}, false, false);
-  host.SetMarket("S", 1, {}, true, false);
+  host.SetMarket("S", 1, {{3, "10"}}, TMarketNotice::Item);
+  host.SetMarket("T", 1, {{3, "20"}}, TMarketNotice::Item);
+  host.SetMarket("S", 1, {{3, "11"}}, TMarketNotice::None);
+  host.SetMarket("S", 1, {}, TMarketNotice::Item);
   EXPECT_EQ(told, (TNotes{"10", "11"}));
 }
 
 TEST_F(TMarketTest, TheNewsMayBeOfOtherItems) {
   Listen(subscriptions.Subscribe("S", "PRCDDS", true));
-  host.SetMarket("S", 1, {}, true, true);
+  host.SetMarket("S", 1, {}, TMarketNotice::OtherItems);
   EXPECT_EQ(told, (TNotes{"others"}));
 }
 
@@ -80,7 +80,7 @@ TEST_F(TMarketTest, AnOwnerThatUnsubscribedIsToldNoMore) {
   auto* item = subscriptions.Subscribe("S", "PRCDDS", true);
   Listen(item);
   subscriptions.Unsubscribe(item, &owner);
-  host.SetMarket("S", 1, {}, true, false);
+  host.SetMarket("S", 1, {}, TMarketNotice::Item);
   EXPECT_EQ(told, TNotes{});
   EXPECT_EQ(events.lines, (TNotes{"subscribe S PRCDDS live", "unsubscribe S"}));
 }
@@ -94,8 +94,8 @@ TEST_F(TMarketTest, AListenerMayUnsubscribeWhileItIsTold) {
         subscriptions.Unsubscribe(item, &owner);
       },
       &owner);
-  host.SetMarket("S", 1, {}, true, false);
-  host.SetMarket("S", 1, {}, true, false);
+  host.SetMarket("S", 1, {}, TMarketNotice::Item);
+  host.SetMarket("S", 1, {}, TMarketNotice::Item);
   EXPECT_EQ(told, (TNotes{"told"}));
 }
 
@@ -108,7 +108,7 @@ TEST_F(TMarketTest, AFailingUnsubscribeLeavesTheListener) {
   host.Data().faults.Set({"subscribe.remove"});
   EXPECT_THROW(checked.Unsubscribe(item, &owner), EHostFault);
   EXPECT_EQ(strict.LeftBehind().subscriptions, 1U);
-  host.SetMarket("S", 1, {}, true, false);
+  host.SetMarket("S", 1, {}, TMarketNotice::Item);
   EXPECT_EQ(told, (TNotes{"told"}));
   host.Data().faults.Set({});
   checked.Unsubscribe(item, &owner);
@@ -136,10 +136,10 @@ TEST_F(TMarketTest, TellsOfSpreadTablesByCode) {
         }
       },
       &owner);
-  host.TellSpread(std::array<std::string, 2>{"02", "03"});
+  host.NotifySpreadChanged(std::array<std::string, 2>{"02", "03"});
   EXPECT_EQ(told, (TNotes{"02"}));
   market.RemoveSpreadListener(&owner);
-  host.TellSpread(std::array<std::string, 1>{"01"});
+  host.NotifySpreadChanged(std::array<std::string, 1>{"01"});
   EXPECT_EQ(told, (TNotes{"02"}));
 }
 

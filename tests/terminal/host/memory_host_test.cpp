@@ -59,9 +59,9 @@ TEST_F(TMemoryHostTest, TellsListenersForSettingsUntilTheyAreRemoved) {
   int told = 0;
   auto& config = host::TCustomConfigManager::GetInstance();
   config.AddListener([&] { ++told; }, &owner);
-  host.TellConfigChanged();
+  host.NotifyConfigChanged();
   config.RemoveListener(&owner);
-  host.TellConfigChanged();
+  host.NotifyConfigChanged();
   EXPECT_EQ(told, 1);
 }
 
@@ -102,9 +102,9 @@ TEST_F(TMemoryHostTest, SkinsHaveColoursAndListeners) {
   EXPECT_EQ(skins.ColorOf(9, 0), 0U);
   std::string worn;
   skins.AddListener([&](std::string_view skin) { worn = skin; }, &owner);
-  host.TellSkinChanged("dark");
+  host.NotifySkinChanged("dark");
   skins.RemoveListener(&owner);
-  host.TellSkinChanged("light");
+  host.NotifySkinChanged("light");
   EXPECT_EQ(worn, "dark");
 }
 

@@ -1,13 +1,13 @@
 #include "terminal/paper/market_tables.h"
 
 #include <gtest/gtest.h>
-#include <unistd.h>
 
 #include <fstream>
 
 #include "terminal/paper/paper_error.h"
 #include "terminal/paper/recorded_prices.h"
 #include "tests/terminal/paper/sample_market.h"
+#include "tests/terminal/temporary_folder.h"
 
 namespace algo::terminal::paper {
 namespace {
@@ -24,16 +24,14 @@ const std::string RecordingHead = "seconds,symbol,bid,ask,last,volume\n";
 class TTableFolder : public testing::Test {
  protected:
   TTableFolder() {
-    fs::create_directories(folder);
     Write("exchanges.csv", ExchangeHead + "HKG,Hong Kong,A,B,TVOL;TVOL Threshold,LO;MO,09:30:00,16:00:00\n");
     Write("spreads.csv", SpreadHead + "S,0,0.01\nS,10,0.02\n");
     Write("instruments.csv", InstrumentHead + "AAA,HKG,Sample,A,B,100,S,10.5,0,0,0.001\n");
   }
-  ~TTableFolder() override { fs::remove_all(folder); }
 
   void Write(const std::string& name, const std::string& text) const { std::ofstream(folder / name) << text; }
 
-  /// What loading says, without the folder's name; "none" when it has nothing to say.
+  /// The error of loading, without the folder's name; "none" if there is none.
   std::string Problem() const {
     try {
       const TMarketTables tables = LoadMarketTables(folder);
@@ -48,7 +46,8 @@ class TTableFolder : public testing::Test {
     return Problem();
   }
 
-  fs::path folder = fs::temp_directory_path() / ("algo-paper-" + std::to_string(getpid()));
+  terminal::tests::TTemporaryFolder temporary;
+  fs::path folder = temporary.Path();
 };
 
 TEST_F(TTableFolder, TablesAreReadAsTheyAreWritten) {

@@ -112,7 +112,7 @@ TEST_F(Changes, ACancelledOrderKeepsWhatItHas) {
   EXPECT_TRUE(engine.Cancel("N1", "dealer1"));
   EXPECT_EQ(order.status, 4);
   EXPECT_EQ(order.filled, 400);
-  EXPECT_EQ(keeper.lines.back(), "N1: dealer1 cancel accepted");
+  EXPECT_EQ(storage.lines.back(), "N1: dealer1 cancel accepted");
   Step("10:02:00");
   EXPECT_EQ(order.filled, 400);
 }
@@ -121,9 +121,9 @@ TEST_F(Changes, AnOrderThatIsDoneOrUnknownIsNotCancelled) {
   Send(Tvol);
   EXPECT_TRUE(engine.Cancel("N1", "dealer1"));
   EXPECT_FALSE(engine.Cancel("N1", "dealer1"));
-  EXPECT_EQ(keeper.lines.back(), "N1: dealer1 cancel refused");
+  EXPECT_EQ(storage.lines.back(), "N1: dealer1 cancel refused");
   EXPECT_FALSE(engine.Cancel("N2", "dealer1"));
-  EXPECT_EQ(keeper.lines.size(), 3u);
+  EXPECT_EQ(storage.lines.size(), 3u);
 }
 
 TEST_F(Changes, AnOrderThatWasNotYetLookedAtCanBeCancelled) {
@@ -141,7 +141,7 @@ TEST_F(Changes, AnOrderWithoutAnAlgorithmCanBeCancelledAndKeepsWhatItHas) {
   filled.filled = 500;
   filled.status = 2;
   filled.SetNamedText("AveragePrice", "9.9");
-  host.Ledger().Record({"somebody", "fill", "500"}, filled);
+  host.Journal().Record({"somebody", "fill", "500"}, filled);
   EXPECT_TRUE(engine.Cancel("N1", "dealer1"));
   EXPECT_EQ(order.status, 4);
   EXPECT_EQ(order.filled, 500);

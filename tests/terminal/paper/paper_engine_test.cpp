@@ -1,4 +1,4 @@
-// What becomes of orders beyond the filling: how they begin and end, and what the ledger is told.
+// The life of an order apart from its fills: how it begins and ends, and what the journal records.
 
 #include "terminal/paper/paper_engine.h"
 
@@ -20,13 +20,13 @@ TEST_F(Engine, EachReportIsOnRecord) {
   Quote(9.98, 10, 10, 1000);
   Step("10:02:00");
   Step("10:03:00");
-  EXPECT_EQ(keeper.lines, (std::vector<std::string>{
-                              "N1: trader new accepted",
-                              "N1: paper start working",
-                              "N1: paper fill 400 at 10.02",
-                              "N1: paper fill 200 at 10",
-                              "N1: paper expire end time reached",
-                          }));
+  EXPECT_EQ(storage.lines, (std::vector<std::string>{
+                               "N1: trader new accepted",
+                               "N1: paper start working",
+                               "N1: paper fill 400 at 10.02",
+                               "N1: paper fill 200 at 10",
+                               "N1: paper expire end time reached",
+                           }));
 }
 
 TEST_F(Engine, AnOrderBeforeItsStartTimeStaysAccepted) {
@@ -90,21 +90,21 @@ TEST_F(Engine, WhatCannotBeWorkedIsRejectedWithAReason) {
   host::TCustomClientOrder senseless = Ordered(Tvol);
   senseless.quantity = std::numeric_limits<double>::quiet_NaN();
   const auto& noNumber = Send(senseless);
-  keeper.lines.clear();
+  storage.lines.clear();
   Step("10:01:00");
   for (const auto* order : {&unreadable, &unknownAlgo, &unknownSymbol, &empty, &noNumber}) {
     EXPECT_EQ(order->status, -1) << order->key;
   }
-  EXPECT_EQ(keeper.lines, (std::vector<std::string>{
-                              "N1: paper reject the algo parameters cannot be read",
-                              "N2: paper reject the algorithm is unknown here",
-                              "N3: paper reject the symbol is unknown here",
-                              "N4: paper reject the quantity is not above 0",
-                              "N5: paper reject the quantity is not above 0",
-                          }));
-  keeper.lines.clear();
+  EXPECT_EQ(storage.lines, (std::vector<std::string>{
+                               "N1: paper reject the algo parameters cannot be read",
+                               "N2: paper reject the algorithm is unknown here",
+                               "N3: paper reject the symbol is unknown here",
+                               "N4: paper reject the quantity is not above 0",
+                               "N5: paper reject the quantity is not above 0",
+                           }));
+  storage.lines.clear();
   Step("10:02:00");
-  EXPECT_TRUE(keeper.lines.empty());
+  EXPECT_TRUE(storage.lines.empty());
 }
 
 TEST_F(Engine, OrdersWithoutAnAlgorithmAreLeftAlone) {
@@ -115,11 +115,11 @@ TEST_F(Engine, OrdersWithoutAnAlgorithmAreLeftAlone) {
   host::TCustomClientOrder filled(order);
   filled.filled = 500;
   filled.status = 2;
-  host.Ledger().Record({"somebody", "fill", "500"}, filled);
-  keeper.lines.clear();
+  host.Journal().Record({"somebody", "fill", "500"}, filled);
+  storage.lines.clear();
   Step("10:02:00");
   EXPECT_EQ(order.filled, 500);
-  EXPECT_TRUE(keeper.lines.empty());
+  EXPECT_TRUE(storage.lines.empty());
 }
 
 TEST_F(Engine, OrdersThatWereThereBeforeGoOnWithWhatTheyHave) {
@@ -136,7 +136,7 @@ TEST_F(Engine, OrdersThatWereThereBeforeGoOnWithWhatTheyHave) {
   const auto& order = *host.Orders().Find("OLD");
   EXPECT_EQ(order.filled, 600);
   EXPECT_EQ(Average(order), "9.96") << "300 at 9.9 and 300 at 10.02";
-  EXPECT_EQ(keeper.lines, (std::vector<std::string>{"OLD: paper fill 300 at 10.02"}));
+  EXPECT_EQ(storage.lines, (std::vector<std::string>{"OLD: paper fill 300 at 10.02"}));
 }
 
 TEST(EngineLife, AnEngineThatIsGoneIsToldNothing) {
@@ -145,38 +145,38 @@ TEST(EngineLife, AnEngineThatIsGoneIsToldNothing) {
   TPaperMarket market(host, SampleTables(), 1);
   {
     const TPaperEngine engine(host, market, 1);
-    EXPECT_FALSE(host.Ledger().Listeners().Empty());
+    EXPECT_FALSE(host.Journal().Listeners().Empty());
   }
-  EXPECT_TRUE(host.Ledger().Listeners().Empty());
+  EXPECT_TRUE(host.Journal().Listeners().Empty());
 }
 
-TEST_F(Engine, AFillThatCannotBeKeptHasNotHappened) {
+TEST_F(Engine, AFillThatCannotBeStoredHasNotHappened) {
   const auto& order = Send(Tvol);
   Quote(10, 10.02, 10, 1000);
   Step("10:01:00");
-  keeper.failing = true;
+  storage.failing = true;
   market.Advance(60);
   EXPECT_THROW(engine.Advance(At("10:02:00"), 60), EError);
   EXPECT_EQ(order.filled, 200);
-  keeper.failing = false;
+  storage.failing = false;
   Step("10:03:00");
   EXPECT_EQ(order.filled, 400);
   EXPECT_EQ(Average(order), "10.02");
 }
 
-TEST_F(Engine, ARejectionThatCannotBeKeptComesAgain) {
+TEST_F(Engine, ARejectionThatCannotBeStoredComesAgain) {
   const auto& order = Send("nonsense");
-  keeper.failing = true;
+  storage.failing = true;
   EXPECT_THROW(Step("10:01:00"), EError);
   EXPECT_EQ(order.status, 0);
-  keeper.failing = false;
+  storage.failing = false;
   Step("10:02:00");
   EXPECT_EQ(order.status, -1);
 }
 
 TEST_F(Engine, WhoeverIsToldOfAFillMaySendOrders) {
   int sent = 0;
-  host.Ledger().Listeners().Add(
+  host.Journal().Listeners().Add(
       [&](const host::TCustomClientOrder& order) {
         if (order.filled > 0 && sent++ < 3) Send(Tvol);
       },

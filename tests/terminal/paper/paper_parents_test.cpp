@@ -35,7 +35,7 @@ TEST_F(Parents, AParentCountsWhatOthersFilledOfAChild) {
   host::TCustomClientOrder filled(child);
   filled.filled = 500;
   filled.SetNamedText("AveragePrice", "9.9");
-  host.Ledger().Record({"somebody", "fill", "500"}, filled);
+  host.Journal().Record({"somebody", "fill", "500"}, filled);
   Step("10:02:00");
   EXPECT_EQ(parent.filled, 500);
   EXPECT_EQ(Average(parent), "9.9");
@@ -86,12 +86,12 @@ TEST_F(Parents, CancellingAParentCancelsItsChildrenThatAreNotDone) {
   const auto& other = Send(Tvol);
   Quote(10, 10.02, 10, 1000);
   Step("10:01:00");
-  keeper.lines.clear();
+  storage.lines.clear();
   EXPECT_TRUE(engine.Cancel(parent.key, "dealer1"));
-  EXPECT_EQ(keeper.lines, (std::vector<std::string>{
-                              "N3: dealer1 cancel accepted",
-                              "N1: dealer1 cancel accepted",
-                          }));
+  EXPECT_EQ(storage.lines, (std::vector<std::string>{
+                               "N3: dealer1 cancel accepted",
+                               "N1: dealer1 cancel accepted",
+                           }));
   EXPECT_EQ(done.status, 3);
   EXPECT_EQ(live.status, 4);
   EXPECT_EQ(parent.status, 4);
@@ -108,7 +108,7 @@ TEST_F(Parents, AChildThatIsCutFromACancelledParentIsRejected) {
   Quote(10, 10.02, 10, 1000);
   Step("10:01:00");
   EXPECT_EQ(child.status, -1);
-  EXPECT_EQ(keeper.lines.back(), "N2: paper reject the parent order is done");
+  EXPECT_EQ(storage.lines.back(), "N2: paper reject the parent order is done");
 }
 
 TEST_F(Parents, AParentChangedBelowWhatIsFilledIsFilled) {

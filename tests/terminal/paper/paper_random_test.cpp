@@ -1,5 +1,5 @@
-// What must hold for any order in any market: seen in a thousand random ones, judged by what the ledger was
-// told.
+// What must hold for any order in any market: checked with a thousand random ones by what the journal
+// records.
 
 #include <cmath>
 #include <map>
@@ -11,16 +11,16 @@
 namespace algo::terminal::paper::tests {
 namespace {
 
-struct TToldFill {
+struct TReportedFill {
   std::string key;
   double quantity = 0;
   double price = 0;
 };
 
-/// Notes the fills, by the words in which they are reported.
-class TFillKeeper final : public TOrderStorage {
+/// Collects the fills, parsed from the text in which they are reported.
+class TFillStorage final : public TOrderStorage {
  public:
-  void KeepOrder(const TOrderEvent& event, const host::TCustomClientOrder& order) override {
+  void StoreOrder(const TOrderEvent& event, const host::TCustomClientOrder& order) override {
     log += order.key + " " + event.who + " " + event.what + " " + event.answer + " " +
            text::PlainNumber(order.filled) + " " + order.NamedText("AveragePrice") + " " +
            std::to_string(order.status) + "\n";
@@ -31,7 +31,7 @@ class TFillKeeper final : public TOrderStorage {
   }
 
   std::string log;
-  std::vector<TToldFill> fills;  ///< since they were last taken away
+  std::vector<TReportedFill> fills;  ///< since they were last cleared
 };
 
 double Between(TRandom& random, double least, double most) {
@@ -47,10 +47,10 @@ std::string Clock(double minutesAfterTen) {
   return clock;
 }
 
-/// An order that is told all of its bounds.
+/// An order with all of its bounds.
 struct TBoundOrder {
   host::TCustomClientOrder order;
-  double percent = 0;  ///< of the volume; 0 when the algorithm goes by what is on offer
+  double percent = 0;  ///< of the volume; 0 if the algorithm takes what is on offer
   double limit = 0;
   text::TDateTime start;
   text::TDateTime end;
@@ -106,7 +106,7 @@ TBoundOrder AnyOrder(TRandom& random, const TMarketTables& tables) {
   return bound;
 }
 
-/// One random market of an hour with one random order in it, held against its bounds after each step.
+/// One random market of an hour with one random order in it, checked against its bounds after each step.
 class TRun {
  public:
   explicit TRun(std::uint64_t seed) : FRandom(seed), FMarket(FHost, SampleTables(), seed) {}
@@ -114,7 +114,7 @@ class TRun {
   void Play() {
     TBoundOrder bound = AnyOrder(FRandom, FMarket.Tables());
     bound.order.key = bound.order.orderNo = "X";
-    FHost.Ledger().Record({"trader", "new", "accepted"}, bound.order);
+    FHost.Journal().Record({"trader", "new", "accepted"}, bound.order);
     const double cancelAt = Between(FRandom, 0, 240);
     const double changeAt = Between(FRandom, 0, 240);
     for (int step = 1; step <= 122; ++step) {
@@ -136,7 +136,7 @@ class TRun {
   void ChangeQuantity() {
     host::TCustomClientOrder changed(Order());
     changed.quantity = Between(FRandom, 1, 100'000);
-    FHost.Ledger().Record({"trader", "change", "accepted"}, changed);
+    FHost.Journal().Record({"trader", "change", "accepted"}, changed);
   }
 
   void CheckStep(const TBoundOrder& bound, text::TDateTime now) {
@@ -145,8 +145,8 @@ class TRun {
     const TQuote& quote = FMarket.Quote(index);
     const bool buy = bound.order.side == host::SideBuy;
     if (now > bound.start && now <= bound.end) FVolume += quote.stepVolume;
-    ASSERT_LE(FKeeper.fills.size(), 1u);
-    for (const TToldFill& fill : FKeeper.fills) {
+    ASSERT_LE(FStorage.fills.size(), 1u);
+    for (const TReportedFill& fill : FStorage.fills) {
       FFilled += fill.quantity;
       FValue += fill.quantity * fill.price;
       ASSERT_GT(now, bound.start);
@@ -165,7 +165,7 @@ class TRun {
         ASSERT_LE(fill.quantity, bound.shown);
       }
     }
-    FKeeper.fills.clear();
+    FStorage.fills.clear();
     ASSERT_EQ(Order().filled, FFilled);
     ASSERT_LE(Order().filled, Order().quantity);
     if (FFilled > 0) {
@@ -174,8 +174,8 @@ class TRun {
   }
 
   terminal::tests::TEventNotes FNotes;
-  TFillKeeper FKeeper;
-  TMemoryHost FHost{FNotes, FKeeper};
+  TFillStorage FStorage;
+  TMemoryHost FHost{FNotes, FStorage};
   TRandom FRandom;
   TPaperMarket FMarket;
   TPaperEngine FEngine{FHost, FMarket, 1};
@@ -195,11 +195,11 @@ TEST(RandomOrders, KeepLimitVolumeLotsTimesAndQuantity) {
   EXPECT_GT(traded, 500) << "or these runs say little";
 }
 
-/// All that the ledger is told in a day of random orders, changes and cancels.
+/// Everything that the journal records in a day of random orders, changes and cancels.
 std::string DayOf(std::uint64_t seed) {
   terminal::tests::TEventNotes notes;
-  TFillKeeper keeper;
-  TMemoryHost host(notes, keeper);
+  TFillStorage storage;
+  TMemoryHost host(notes, storage);
   TPaperMarket market(host, LoadMarketTables(ExampleFolder()), seed);
   TPaperEngine engine(host, market, seed);
   TRandom random(seed);
@@ -207,13 +207,13 @@ std::string DayOf(std::uint64_t seed) {
     if (second % 300 == 0) {
       host::TCustomClientOrder order = AnyOrder(random, market.Tables()).order;
       order.key = order.orderNo = host.Orders().NextFreeKey();
-      host.Ledger().Record({"trader", "new", "accepted"}, order);
+      host.Journal().Record({"trader", "new", "accepted"}, order);
     }
     if (second % 1700 == 0) engine.Cancel("N" + std::to_string(second / 600), "trader");
     market.Advance(1);
     engine.Advance(At("09:30:00") + std::chrono::seconds(second), 1);
   }
-  return keeper.log;
+  return storage.log;
 }
 
 TEST(RandomOrders, AWholeDayIsTheSameForTheSameSeed) {

@@ -35,6 +35,11 @@ inline TMarketTables SampleTables() {
   return tables;
 }
 
+/// The market-data item of the symbol in the installed host.
+inline const host::TMarketDataItem& ItemOf(std::string_view symbol) {
+  return *host::TCustomSubscribeAdapter::GetInstance().Subscribe(symbol, host::PriceDataSet, true);
+}
+
 /// The moment of the tests' day at which the clock shows "HH:MM:SS".
 inline text::TDateTime At(std::string_view time) {
   return text::ParseDateTime("2026-11-20 " + std::string(time)).value();
@@ -52,20 +57,32 @@ class TScriptedPrices final : public TPriceSource {
   std::vector<TQuote>& FNext;
 };
 
-/// Notes what is recorded in a ledger, a line each.
-class TNotingKeeper final : public TOrderStorage {
+/// Collects what a journal records, a line each.
+class TNotingStorage final : public TOrderStorage {
  public:
-  void KeepOrder(const TOrderEvent& event, const host::TCustomClientOrder& order) override {
+  void StoreOrder(const TOrderEvent& event, const host::TCustomClientOrder& order) override {
     if (failing) throw EError("the disk is full");
     lines.push_back(order.key + ": " + event.who + " " + event.what + " " + event.answer);
   }
-  void KeepEvent(const TOrderEvent& event, const host::TCustomClientOrder& order) override {
+  void StoreEvent(const TOrderEvent& event, const host::TCustomClientOrder& order) override {
     lines.push_back(order.key + ": " + event.who + " " + event.what + " " + event.answer);
   }
 
   bool failing = false;
   std::vector<std::string> lines;
 };
+
+/// The order as a sale.
+inline host::TCustomClientOrder Selling(host::TCustomClientOrder order) {
+  order.side = host::SideSell;
+  return order;
+}
+
+/// The order with that price limit.
+inline host::TCustomClientOrder Limited(host::TCustomClientOrder order, double price) {
+  order.price = price;
+  return order;
+}
 
 class TPaperTest : public testing::Test {
  protected:
@@ -82,7 +99,7 @@ class TPaperTest : public testing::Test {
   /// Sends the order; returns it as it stands in the store.
   const host::TCustomClientOrder& Send(host::TCustomClientOrder order) {
     order.key = order.orderNo = host.Orders().NextFreeKey();
-    host.Ledger().Record({"trader", "new", "accepted"}, order);
+    host.Journal().Record({"trader", "new", "accepted"}, order);
     return *host.Orders().Find(order.key);
   }
   const host::TCustomClientOrder& Send(std::string text) { return Send(Ordered(std::move(text))); }
@@ -105,7 +122,7 @@ class TPaperTest : public testing::Test {
 
   /// Changes an order as a form does: on a copy.
   void Change(const host::TCustomClientOrder& changed) {
-    host.Ledger().Record({"trader", "change", "accepted"}, changed);
+    host.Journal().Record({"trader", "change", "accepted"}, changed);
   }
 
   /// What AAA shows from the next step on.
@@ -130,8 +147,8 @@ class TPaperTest : public testing::Test {
   }
 
   terminal::tests::TEventNotes notes;
-  TNotingKeeper keeper;
-  TMemoryHost host{notes, keeper};
+  TNotingStorage storage;
+  TMemoryHost host{notes, storage};
   std::vector<TQuote> next{2};
   TPaperMarket market{host, SampleTables(), std::make_unique<TScriptedPrices>(next)};
   TPaperEngine engine{host, market, 1};

@@ -45,7 +45,7 @@ class TRenderedFrame : public forms::TFrame {
 };
 
 /// Knows two accounts, and steps by 5.
-class TSampleAids final : public TEditorAids {
+class TSampleAssist final : public TEditorAssist {
  public:
   std::vector<TCompletion> Completions(const forms::TTextEdit& /*editor*/,
                                        std::string_view typed) const override {
@@ -64,15 +64,15 @@ class TRenderedForm : public testing::Test {
  protected:
   TRenderedForm() {
     frame->kind.Refill({"One", "Two", "Three"}, -1);
-    view = new TFrameView(frame, aids, &window);
+    view = new TFrameView(frame, assist, &window);
     auto* column = new QVBoxLayout(&window);
-    column->addWidget(&rest);
+    column->addWidget(&focusSink);
     column->addWidget(view);
-    rest.setFocusPolicy(Qt::ClickFocus);
-    rest.setMinimumSize(20, 20);
+    focusSink.setFocusPolicy(Qt::ClickFocus);
+    focusSink.setMinimumSize(20, 20);
     window.show();
     (void)QTest::qWaitForWindowActive(&window);
-    rest.setFocus();
+    focusSink.setFocus();
   }
 
   QWidget& Input(const forms::TControl& control) const { return view->Find(control)->Input(); }
@@ -84,14 +84,14 @@ class TRenderedForm : public testing::Test {
     QTest::keyClicks(&Input(control), QString::fromUtf8(text));
   }
 
-  void Leave() { QTest::mouseClick(&rest, Qt::LeftButton); }
+  void Leave() { QTest::mouseClick(&focusSink, Qt::LeftButton); }
 
   QString Shown(const forms::TControl& control) const { return view->Find(control)->ShownText(); }
 
-  TSampleAids aids;
+  TSampleAssist assist;
   std::shared_ptr<TRenderedFrame> frame = std::make_shared<TRenderedFrame>();
   QWidget window;
-  QWidget rest{&window};
+  QWidget focusSink{&window};
   TFrameView* view = nullptr;
 };
 

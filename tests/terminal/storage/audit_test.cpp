@@ -10,14 +10,14 @@ namespace {
 
 struct TAudit : TStorageTest {
   /// An event in words.
-  static std::string Line(const TStoredEvent& kept) {
-    return std::to_string(kept.sequence) + " " + kept.event.who + " " + kept.event.what + " " +
-           kept.event.answer + " " + kept.orderKey;
+  static std::string Line(const TStoredEvent& stored) {
+    return std::to_string(stored.sequence) + " " + stored.event.who + " " + stored.event.what + " " +
+           stored.event.answer + " " + stored.orderKey;
   }
   static std::vector<std::string> Lines(const std::vector<TStoredEvent>& events) {
     std::vector<std::string> lines;
     lines.reserve(events.size());
-    for (const TStoredEvent& kept : events) lines.push_back(Line(kept));
+    for (const TStoredEvent& stored : events) lines.push_back(Line(stored));
     return lines;
   }
 };
@@ -27,48 +27,48 @@ TEST_F(TAudit, AnEventHoldsWhatTheOrderWasThen) {
   order.filled = 100.5;
   order.price = 60.55;
   order.status = 2;
-  const auto keeper = Open();
-  keeper->KeepOrder({"market", "fill", "100.5 at 60.55"}, order);
+  const auto storage = Open();
+  storage->StoreOrder({"market", "fill", "100.5 at 60.55"}, order);
   order.filled = 400;
   order.status = 3;
-  keeper->KeepOrder({"market", "fill", "299.5 at 60.55"}, order);
+  storage->StoreOrder({"market", "fill", "299.5 at 60.55"}, order);
 
-  const auto kept = keeper->EventsOf("K");
-  ASSERT_EQ(kept.size(), 2U);
-  EXPECT_EQ(kept[0].sequence, 1);
-  EXPECT_EQ(kept[0].time, "2024-02-29 23:59:59.007");
-  EXPECT_EQ(kept[0].event.who, "market");
-  EXPECT_EQ(kept[0].event.what, "fill");
-  EXPECT_EQ(kept[0].event.answer, "100.5 at 60.55");
-  EXPECT_EQ(kept[0].orderKey, "K");
-  EXPECT_EQ(kept[0].quantity, 400);
-  EXPECT_EQ(kept[0].filled, 100.5);
-  EXPECT_EQ(kept[0].price, 60.55);
-  EXPECT_EQ(kept[0].status, 2);
-  EXPECT_EQ(kept[1].filled, 400);
-  EXPECT_EQ(kept[1].status, 3);
+  const auto stored = storage->EventsOf("K");
+  ASSERT_EQ(stored.size(), 2U);
+  EXPECT_EQ(stored[0].sequence, 1);
+  EXPECT_EQ(stored[0].time, "2024-02-29 23:59:59.007");
+  EXPECT_EQ(stored[0].event.who, "market");
+  EXPECT_EQ(stored[0].event.what, "fill");
+  EXPECT_EQ(stored[0].event.answer, "100.5 at 60.55");
+  EXPECT_EQ(stored[0].orderKey, "K");
+  EXPECT_EQ(stored[0].quantity, 400);
+  EXPECT_EQ(stored[0].filled, 100.5);
+  EXPECT_EQ(stored[0].price, 60.55);
+  EXPECT_EQ(stored[0].status, 2);
+  EXPECT_EQ(stored[1].filled, 400);
+  EXPECT_EQ(stored[1].status, 3);
 }
 
 TEST_F(TAudit, EventsOfAllOrdersAreInOneSequenceThatGoesOnAfterAReopening) {
   {
-    const auto keeper = Open();
-    keeper->KeepOrder({"me", "new", "accepted"}, OrderWithKey("N1"));
-    keeper->KeepEvent({"me", "new", "refused"}, OrderWithKey(""));
-    keeper->KeepOrder({"you", "new", "accepted"}, OrderWithKey("N2"));
+    const auto storage = Open();
+    storage->StoreOrder({"me", "new", "accepted"}, OrderWithKey("N1"));
+    storage->StoreEvent({"me", "new", "refused"}, OrderWithKey(""));
+    storage->StoreOrder({"you", "new", "accepted"}, OrderWithKey("N2"));
   }
-  const auto keeper = Open();
-  keeper->KeepOrder({"me", "change", "accepted"}, OrderWithKey("N1"));
-  EXPECT_EQ(Lines(keeper->AllEvents()),
+  const auto storage = Open();
+  storage->StoreOrder({"me", "change", "accepted"}, OrderWithKey("N1"));
+  EXPECT_EQ(Lines(storage->AllEvents()),
             (std::vector<std::string>{"1 me new accepted N1", "2 me new refused ", "3 you new accepted N2",
                                       "4 me change accepted N1"}));
-  EXPECT_EQ(Lines(keeper->EventsOf("N1")),
+  EXPECT_EQ(Lines(storage->EventsOf("N1")),
             (std::vector<std::string>{"1 me new accepted N1", "4 me change accepted N1"}));
-  EXPECT_EQ(Lines(keeper->EventsOf("")), (std::vector<std::string>{"2 me new refused "}));
-  EXPECT_TRUE(keeper->EventsOf("n1").empty());
+  EXPECT_EQ(Lines(storage->EventsOf("")), (std::vector<std::string>{"2 me new refused "}));
+  EXPECT_TRUE(storage->EventsOf("n1").empty());
 }
 
 TEST_F(TAudit, TheDatabaseItselfRefusesToAlterTheTrail) {
-  Open()->KeepOrder({"me", "new", "accepted"}, OrderWithKey("N1"));
+  Open()->StoreOrder({"me", "new", "accepted"}, OrderWithKey("N1"));
   {
     TConnection connection(file);
     EXPECT_THROW(connection.Execute("UPDATE events SET who = 'nobody'"), EStorageError);
@@ -79,16 +79,16 @@ TEST_F(TAudit, TheDatabaseItselfRefusesToAlterTheTrail) {
 
 TEST_F(TAudit, TheTimeIsUtcToTheMillisecond) {
   const std::string before = UtcNow();
-  TSqliteStorage(file).KeepEvent({"me", "new", "refused"}, OrderWithKey("K"));
+  TSqliteStorage(file).StoreEvent({"me", "new", "refused"}, OrderWithKey("K"));
   const std::string after = UtcNow();
-  const auto kept = Open()->AllEvents();
-  ASSERT_EQ(kept.size(), 1U);
-  ASSERT_EQ(kept[0].time.size(), 23U);
-  EXPECT_TRUE(text::ParseDateTime(kept[0].time.substr(0, 19))) << kept[0].time;
-  EXPECT_EQ(kept[0].time[19], '.');
-  EXPECT_TRUE(text::ParseWhole(kept[0].time.substr(20))) << kept[0].time;
-  EXPECT_LE(before, kept[0].time);
-  EXPECT_LE(kept[0].time, after);
+  const auto stored = Open()->AllEvents();
+  ASSERT_EQ(stored.size(), 1U);
+  ASSERT_EQ(stored[0].time.size(), 23U);
+  EXPECT_TRUE(text::ParseDateTime(stored[0].time.substr(0, 19))) << stored[0].time;
+  EXPECT_EQ(stored[0].time[19], '.');
+  EXPECT_TRUE(text::ParseWhole(stored[0].time.substr(20))) << stored[0].time;
+  EXPECT_LE(before, stored[0].time);
+  EXPECT_LE(stored[0].time, after);
 }
 
 }  // namespace

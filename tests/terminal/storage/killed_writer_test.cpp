@@ -51,26 +51,26 @@ struct TKilledWriter : TStorageTest {
 
   /// The database holds what was reported, and of the last action that was not reported all or nothing.
   void ExpectEverythingReported() {
-    // Opened by the keeper first: it has to cope with what the writer left, and not with what was tidied.
-    auto keeper = Open();
-    TOrderStore kept;
-    keeper->LoadInto(data, kept);
-    for (const auto& [key, count] : reported) ASSERT_NE(kept.Find(key), nullptr) << key;
+    // Opened by the storage first: it has to cope with what the writer left, and not with what was tidied.
+    auto storage = Open();
+    TOrderStore stored;
+    storage->LoadInto(data, stored);
+    for (const auto& [key, count] : reported) ASSERT_NE(stored.Find(key), nullptr) << key;
 
     int unreported = 0;
-    for (const auto& order : kept.All()) {
+    for (const auto& order : stored.All()) {
       const int count = static_cast<int>(order->quantity);
       int& known = reported[order->key];
       ASSERT_GE(count, known) << order->key;
       unreported += count - known;
       known = count;
-      ASSERT_EQ(keeper->EventsOf(order->key).size(), static_cast<std::size_t>(count)) << order->key;
+      ASSERT_EQ(storage->EventsOf(order->key).size(), static_cast<std::size_t>(count)) << order->key;
       ASSERT_EQ(order->NumberedTexts().size(), static_cast<std::size_t>(count)) << order->key;
     }
     ASSERT_LE(unreported, 1);
     surplus += unreported;
 
-    keeper.reset();
+    storage.reset();
     TConnection connection(file);
     ASSERT_EQ(First<std::string>(connection, "PRAGMA integrity_check"), "ok");
   }
@@ -99,7 +99,7 @@ TEST_F(TKilledWriter, HasEveryAcceptedOrderOnRecord) {
     if (HasFatalFailure()) return;
   }
   orderCount += reported.size();
-  std::cout << orderCount << " orders on record, " << surplus << " actions kept but not yet reported\n";
+  std::cout << orderCount << " orders on record, " << surplus << " actions stored but not yet reported\n";
   EXPECT_GT(orderCount, rounds / 2) << "the writer hardly came to write";
 }
 

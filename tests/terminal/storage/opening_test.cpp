@@ -16,7 +16,7 @@ TEST_F(TOpening, AFileThatIsNotThereIsMade) {
 
 TEST_F(TOpening, AnEmptyFileBecomesADatabase) {
   WriteFileBytes(file, "");
-  Open()->KeepOrder({"me", "new", "accepted"}, OrderWithKey("K"));
+  Open()->StoreOrder({"me", "new", "accepted"}, OrderWithKey("K"));
   Load();
   EXPECT_EQ(LoadedKeys(), (std::vector<std::string>{"K"}));
 }
@@ -24,7 +24,7 @@ TEST_F(TOpening, AnEmptyFileBecomesADatabase) {
 TEST_F(TOpening, NamesThatSqliteGivesAMeaningOfItsOwnAreFilesAllTheSame) {
   const fs::path before = fs::current_path();
   fs::current_path(folder.Path());
-  { const TSqliteStorage keeper(":memory:"); }
+  { const TSqliteStorage storage(":memory:"); }
   fs::current_path(before);
   EXPECT_EQ(FileNames(), (std::vector<std::string>{":memory:"}));
   EXPECT_EQ(MessageOf([] { TSqliteStorage(""); }),
@@ -38,17 +38,17 @@ TEST_F(TOpening, AFolderThatDoesNotExistIsNotMade) {
   EXPECT_EQ(FileNames(), (std::vector<std::string>{}));
 }
 
-TEST_F(TOpening, AFolderIsNoDatabase) {
+TEST_F(TOpening, AFolderIsNotADatabase) {
   fs::create_directory(file);
-  EXPECT_EQ(Refusal(), FullMessage("is no file. Choose another file."));
+  EXPECT_EQ(Refusal(), FullMessage("is not a file. Choose another file."));
 }
 
-TEST_F(TOpening, AFileThatIsNoDatabaseIsRefused) {
+TEST_F(TOpening, AFileThatIsNotADatabaseIsRefused) {
   for (const std::string& bytes :
        {std::string("x"), std::string("{\"my\":\"notes\"}"), std::string(8192, '\0')}) {
     WriteFileBytes(file, bytes);
     EXPECT_EQ(Refusal(),
-              FullMessage("is no database. Choose another file, or put a copy of the database back."));
+              FullMessage("is not a database. Choose another file, or put a copy of the database back."));
     EXPECT_EQ(FileBytes(file), bytes);
   }
 }
@@ -65,7 +65,7 @@ TEST_F(TOpening, ADatabaseOfAnotherProgramIsRefused) {
 }
 
 TEST_F(TOpening, ADatabaseOfANewerTerminalIsRefused) {
-  Open()->KeepOrder({"me", "new", "accepted"}, OrderWithKey("K"));
+  Open()->StoreOrder({"me", "new", "accepted"}, OrderWithKey("K"));
   for (const char* sql : {"PRAGMA user_version=2", "PRAGMA user_version=-1"}) {
     TConnection(file).Execute(sql);
     const std::string bytes = FileBytes(file);
@@ -78,11 +78,11 @@ TEST_F(TOpening, ADatabaseOfANewerTerminalIsRefused) {
 
 TEST_F(TOpening, ADamagedDatabaseIsRefused) {
   {
-    const auto keeper = Open();
+    const auto storage = Open();
     for (int i = 0; i < 50; ++i) {
       auto order = OrderWithKey("K" + std::to_string(i));
       order.SetTextProperty(440, std::string(2000, 'x'));
-      keeper->KeepOrder({"me", "new", "accepted"}, order);
+      storage->StoreOrder({"me", "new", "accepted"}, order);
     }
   }
   const std::string whole = FileBytes(file);
@@ -104,12 +104,12 @@ TEST_F(TOpening, ADamagedDatabaseIsRefused) {
   EXPECT_EQ(Refusal(), "");
 }
 
-TEST_F(TOpening, ASecondTerminalIsKeptOutUntilTheFirstIsGone) {
+TEST_F(TOpening, ASecondTerminalIsLockedOutUntilTheFirstIsGone) {
   auto first = Open();
-  first->KeepOrder({"me", "new", "accepted"}, OrderWithKey("K"));
+  first->StoreOrder({"me", "new", "accepted"}, OrderWithKey("K"));
   EXPECT_TRUE(Refusal().starts_with(
       FullMessage("is in use by another program. Close that program, then try again.")));
-  first->KeepOrder({"me", "new", "accepted"}, OrderWithKey("L"));
+  first->StoreOrder({"me", "new", "accepted"}, OrderWithKey("L"));
   first.reset();
   Load();
   EXPECT_EQ(LoadedKeys(), (std::vector<std::string>{"K", "L"}));

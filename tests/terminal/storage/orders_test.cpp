@@ -1,4 +1,4 @@
-// Orders come back as they were kept.
+// Orders come back as they were stored.
 
 #include <cmath>
 #include <limits>
@@ -17,9 +17,9 @@ using TNamed = std::map<std::string, std::string, std::less<>>;
 const TOrderEvent New{"me", "new", "accepted"};
 const TOrderEvent Change{"me", "change", "accepted"};
 
-struct TKeptOrders : TStorageTest {};
+struct TStoredOrders : TStorageTest {};
 
-TEST_F(TKeptOrders, EveryPropertyComesBack) {
+TEST_F(TStoredOrders, EveryPropertyComesBack) {
   host::TCustomClientOrder order;
   order.key = "K-1";
   order.orderNo = "000123";
@@ -43,34 +43,34 @@ TEST_F(TKeptOrders, EveryPropertyComesBack) {
   order.SetTextProperty(-5, "");
   order.SetNamedText("Original", "AlgoEntry");
   order.SetNamedText("", "no name");
-  Open()->KeepOrder(New, order);
+  Open()->StoreOrder(New, order);
 
   Load();
   ASSERT_EQ(orders.All().size(), 1U);
-  const auto& kept = *orders.Find("K-1");
-  EXPECT_EQ(kept.key, "K-1");
-  EXPECT_EQ(kept.orderNo, "000123");
-  EXPECT_EQ(kept.parentNo, "000007");
-  EXPECT_EQ(kept.account, "A'1\";DROP TABLE orders;--");
-  EXPECT_EQ(kept.symbol, "0005");
-  EXPECT_EQ(kept.exchange, "HK");
-  EXPECT_EQ(kept.user, "M\xC3\xBCller \xE6\xB8\xAF");
-  EXPECT_EQ(kept.side, 1);
-  EXPECT_EQ(kept.quantity, 400);
-  EXPECT_EQ(kept.filled, 0.1);
-  EXPECT_EQ(kept.committed, 1e-300);
-  EXPECT_EQ(kept.price, 60.550000000000004);
-  EXPECT_EQ(kept.stopPrice, -0.30000000000000004);
-  EXPECT_EQ(kept.status, -1);
-  EXPECT_EQ(kept.orderTypeFlags, 4294967295U);
-  EXPECT_EQ(kept.auctionFlags, 3U);
-  EXPECT_EQ(kept.algoFlags, 0x8000U);
-  EXPECT_EQ(kept.flags, 0x90000001U);
-  EXPECT_EQ(kept.NumberedTexts(), (TNumbered{{-5, ""}, {440, "TMLO:AlgoId=TVOL,VolPct=20;"}}));
-  EXPECT_EQ(kept.NamedTexts(), (TNamed{{"", "no name"}, {"Original", "AlgoEntry"}}));
+  const auto& stored = *orders.Find("K-1");
+  EXPECT_EQ(stored.key, "K-1");
+  EXPECT_EQ(stored.orderNo, "000123");
+  EXPECT_EQ(stored.parentNo, "000007");
+  EXPECT_EQ(stored.account, "A'1\";DROP TABLE orders;--");
+  EXPECT_EQ(stored.symbol, "0005");
+  EXPECT_EQ(stored.exchange, "HK");
+  EXPECT_EQ(stored.user, "M\xC3\xBCller \xE6\xB8\xAF");
+  EXPECT_EQ(stored.side, 1);
+  EXPECT_EQ(stored.quantity, 400);
+  EXPECT_EQ(stored.filled, 0.1);
+  EXPECT_EQ(stored.committed, 1e-300);
+  EXPECT_EQ(stored.price, 60.550000000000004);
+  EXPECT_EQ(stored.stopPrice, -0.30000000000000004);
+  EXPECT_EQ(stored.status, -1);
+  EXPECT_EQ(stored.orderTypeFlags, 4294967295U);
+  EXPECT_EQ(stored.auctionFlags, 3U);
+  EXPECT_EQ(stored.algoFlags, 0x8000U);
+  EXPECT_EQ(stored.flags, 0x90000001U);
+  EXPECT_EQ(stored.NumberedTexts(), (TNumbered{{-5, ""}, {440, "TMLO:AlgoId=TVOL,VolPct=20;"}}));
+  EXPECT_EQ(stored.NamedTexts(), (TNamed{{"", "no name"}, {"Original", "AlgoEntry"}}));
 }
 
-TEST_F(TKeptOrders, TextsKeepEveryByte) {
+TEST_F(TStoredOrders, TextsKeepEveryByte) {
   host::TCustomClientOrder order;
   order.key = "a\0b"s;
   order.account = "\0"s;
@@ -78,22 +78,22 @@ TEST_F(TKeptOrders, TextsKeepEveryByte) {
   order.SetTextProperty(440, "one\0two"s);
   order.SetNamedText("na\0me"s, "\0\0"s);
   {
-    const auto keeper = Open();
-    keeper->KeepOrder(New, order);
-    keeper->KeepOrder(New, OrderWithKey("a"));
+    const auto storage = Open();
+    storage->StoreOrder(New, order);
+    storage->StoreOrder(New, OrderWithKey("a"));
   }
 
   Load();
   ASSERT_EQ(LoadedKeys(), (std::vector<std::string>{"a\0b"s, "a"}));
-  const auto& kept = *orders.Find("a\0b"s);
-  EXPECT_EQ(kept.account, "\0"s);
-  EXPECT_EQ(kept.symbol, "not UTF-8: \xFF\xC3");
-  EXPECT_EQ(kept.exchange, "");
-  EXPECT_EQ(kept.NumberedTexts(), (TNumbered{{440, "one\0two"s}}));
-  EXPECT_EQ(kept.NamedTexts(), (TNamed{{"na\0me"s, "\0\0"s}}));
+  const auto& stored = *orders.Find("a\0b"s);
+  EXPECT_EQ(stored.account, "\0"s);
+  EXPECT_EQ(stored.symbol, "not UTF-8: \xFF\xC3");
+  EXPECT_EQ(stored.exchange, "");
+  EXPECT_EQ(stored.NumberedTexts(), (TNumbered{{440, "one\0two"s}}));
+  EXPECT_EQ(stored.NamedTexts(), (TNamed{{"na\0me"s, "\0\0"s}}));
 }
 
-TEST_F(TKeptOrders, FiguresAtTheEdgesComeBack) {
+TEST_F(TStoredOrders, FiguresAtTheEdgesComeBack) {
   auto order = OrderWithKey("K");
   order.quantity = std::numeric_limits<double>::quiet_NaN();
   order.filled = std::numeric_limits<double>::infinity();
@@ -102,74 +102,74 @@ TEST_F(TKeptOrders, FiguresAtTheEdgesComeBack) {
   order.stopPrice = 9007199254740993.0;
   order.side = std::numeric_limits<std::int32_t>::min();
   order.status = std::numeric_limits<std::int32_t>::max();
-  Open()->KeepOrder(New, order);
+  Open()->StoreOrder(New, order);
 
   Load();
-  const auto& kept = *orders.Find("K");
-  EXPECT_TRUE(std::isnan(kept.quantity));
-  EXPECT_EQ(kept.filled, std::numeric_limits<double>::infinity());
-  EXPECT_EQ(kept.committed, std::numeric_limits<double>::max());
-  EXPECT_EQ(kept.price, std::numeric_limits<double>::denorm_min());
-  EXPECT_EQ(kept.stopPrice, 9007199254740992.0);
-  EXPECT_EQ(kept.side, -2147483647 - 1);
-  EXPECT_EQ(kept.status, 2147483647);
+  const auto& stored = *orders.Find("K");
+  EXPECT_TRUE(std::isnan(stored.quantity));
+  EXPECT_EQ(stored.filled, std::numeric_limits<double>::infinity());
+  EXPECT_EQ(stored.committed, std::numeric_limits<double>::max());
+  EXPECT_EQ(stored.price, std::numeric_limits<double>::denorm_min());
+  EXPECT_EQ(stored.stopPrice, 9007199254740992.0);
+  EXPECT_EQ(stored.side, -2147483647 - 1);
+  EXPECT_EQ(stored.status, 2147483647);
   ASSERT_EQ(events.size(), 1U);
   EXPECT_TRUE(std::isnan(events[0].quantity));
 }
 
-TEST_F(TKeptOrders, ComeBackInTheOrderInWhichTheyCame) {
+TEST_F(TStoredOrders, ComeBackInTheOrderInWhichTheyCame) {
   {
-    const auto keeper = Open();
-    for (const char* key : {"N2", "N10", "A", "N1"}) keeper->KeepOrder(New, OrderWithKey(key));
-    keeper->KeepOrder(Change, OrderWithKey("N10", 7));
+    const auto storage = Open();
+    for (const char* key : {"N2", "N10", "A", "N1"}) storage->StoreOrder(New, OrderWithKey(key));
+    storage->StoreOrder(Change, OrderWithKey("N10", 7));
   }
-  Open()->KeepOrder(New, OrderWithKey("0"));
+  Open()->StoreOrder(New, OrderWithKey("0"));
   Load();
   EXPECT_EQ(LoadedKeys(), (std::vector<std::string>{"N2", "N10", "A", "N1", "0"}));
   EXPECT_EQ(orders.Find("N10")->quantity, 7);
 }
 
-TEST_F(TKeptOrders, AChangedOrderHasNothingOfTheFormerOneLeft) {
+TEST_F(TStoredOrders, AChangedOrderHasNothingOfTheFormerOneLeft) {
   auto order = OrderWithKey("K", 400);
   order.account = "A1";
   order.SetTextProperty(440, "old");
   order.SetTextProperty(441, "gone");
   order.SetNamedText("Gone", "gone");
-  const auto keeper = Open();
-  keeper->KeepOrder(New, order);
-  keeper->KeepOrder(New, order);
+  const auto storage = Open();
+  storage->StoreOrder(New, order);
+  storage->StoreOrder(New, order);
 
   auto changed = OrderWithKey("K", 300);
   changed.SetTextProperty(440, "new");
-  keeper->KeepOrder(Change, changed);
-  keeper->LoadInto(data, orders);
+  storage->StoreOrder(Change, changed);
+  storage->LoadInto(data, orders);
   ASSERT_EQ(LoadedKeys(), (std::vector<std::string>{"K"}));
-  const auto& kept = *orders.Find("K");
-  EXPECT_EQ(kept.quantity, 300);
-  EXPECT_EQ(kept.account, "");
-  EXPECT_EQ(kept.NumberedTexts(), (TNumbered{{440, "new"}}));
-  EXPECT_EQ(kept.NamedTexts(), TNamed{});
+  const auto& stored = *orders.Find("K");
+  EXPECT_EQ(stored.quantity, 300);
+  EXPECT_EQ(stored.account, "");
+  EXPECT_EQ(stored.NumberedTexts(), (TNumbered{{440, "new"}}));
+  EXPECT_EQ(stored.NamedTexts(), TNamed{});
 }
 
-TEST_F(TKeptOrders, AnOrderWithoutItsEventIsNotKept) {
+TEST_F(TStoredOrders, AnOrderWithoutItsEventIsNotStored) {
   bool clockStands = true;
   {
-    TSqliteStorage keeper(file, [&clockStands] {
+    TSqliteStorage storage(file, [&clockStands] {
       if (clockStands) throw EError("the clock stands still");
       return std::string(FixedTime);
     });
-    EXPECT_THROW(keeper.KeepOrder(New, OrderWithKey("K", 1)), EError);
-    EXPECT_TRUE(keeper.AllEvents().empty());
+    EXPECT_THROW(storage.StoreOrder(New, OrderWithKey("K", 1)), EError);
+    EXPECT_TRUE(storage.AllEvents().empty());
     clockStands = false;
-    keeper.KeepOrder(New, OrderWithKey("L", 2));
+    storage.StoreOrder(New, OrderWithKey("L", 2));
   }
   Load();
   EXPECT_EQ(LoadedKeys(), (std::vector<std::string>{"L"}));
   EXPECT_EQ(events.size(), 1U);
 }
 
-TEST_F(TKeptOrders, AnEventAloneKeepsNoOrder) {
-  Open()->KeepEvent({"me", "new", "refused"}, OrderWithKey("K"));
+TEST_F(TStoredOrders, AnEventAloneStoresNoOrder) {
+  Open()->StoreEvent({"me", "new", "refused"}, OrderWithKey("K"));
   Load();
   EXPECT_EQ(LoadedKeys(), (std::vector<std::string>{}));
   EXPECT_EQ(events.size(), 1U);

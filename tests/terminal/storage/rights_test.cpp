@@ -30,7 +30,7 @@ class TWithoutRights {
 
 struct TRightsToOpen : TOpening {
   TRightsToOpen() {
-    Open()->KeepOrder({"me", "new", "accepted"}, OrderWithKey("K"));
+    Open()->StoreOrder({"me", "new", "accepted"}, OrderWithKey("K"));
     chmod(folder.Path().c_str(), 0777);
   }
   ~TRightsToOpen() override { chmod(folder.Path().c_str(), 0777); }

@@ -11,7 +11,7 @@
 namespace algo::terminal::storage::tests {
 namespace {
 
-constexpr std::array Old{"CREATE TABLE a (x); INSERT INTO a VALUES ('kept')"};
+constexpr std::array Old{"CREATE TABLE a (x); INSERT INTO a VALUES ('stored')"};
 constexpr std::array Later{Old[0], "ALTER TABLE a ADD COLUMN y DEFAULT 'added'",
                            "CREATE TABLE b AS SELECT x || y AS z FROM a"};
 constexpr std::array Broken{Old[0], Later[1], "CREATE TABLE b (z); INSERT INTO b VALUES ('lost'); nonsense"};
@@ -19,7 +19,7 @@ constexpr std::array Broken{Old[0], Later[1], "CREATE TABLE b (z); INSERT INTO b
 struct TSchema : TStorageTest {
   void Bring(std::span<const char* const> migrations) const {
     TConnection connection(file);
-    BringUpToDate(connection, migrations);
+    Migrate(connection, migrations);
   }
   template <class TValue>
   TValue Ask(const char* sql) const {
@@ -37,7 +37,7 @@ TEST_F(TSchema, AnEmptyFileComesToTheVersionOfThisTerminal) {
 }
 
 TEST_F(TSchema, ADatabaseOfThisVersionIsNotChangedByOpeningIt) {
-  Open()->KeepOrder({"me", "new", "accepted"}, OrderWithKey("K"));
+  Open()->StoreOrder({"me", "new", "accepted"}, OrderWithKey("K"));
   const std::string bytes = FileBytes(file);
   Open();
   EXPECT_EQ(FileBytes(file), bytes);
@@ -48,7 +48,7 @@ TEST_F(TSchema, AnOlderDatabaseIsTakenThroughTheStepsThatItLacks) {
   EXPECT_EQ(Ask<std::int64_t>("PRAGMA user_version"), 1);
   Bring(Later);
   EXPECT_EQ(Ask<std::int64_t>("PRAGMA user_version"), 3);
-  EXPECT_EQ(Ask<std::string>("SELECT z FROM b"), "keptadded");
+  EXPECT_EQ(Ask<std::string>("SELECT z FROM b"), "storedadded");
   Bring(Later);
   EXPECT_EQ(Ask<std::int64_t>("SELECT count(*) FROM b"), 1);
 }

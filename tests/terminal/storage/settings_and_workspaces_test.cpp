@@ -12,15 +12,15 @@ using TTexts = std::vector<std::string>;
 struct TSettings : TStorageTest {};
 struct TWorkspaces : TStorageTest {};
 
-TEST_F(TSettings, TheLastValueKeptUnderAKeyComesBack) {
+TEST_F(TSettings, TheLastValueStoredUnderAKeyComesBack) {
   {
-    const auto keeper = Open();
-    keeper->KeepSetting("USER", "ClearOrd", "Y");
-    keeper->KeepSetting("USER", "ClearOrd", "N");
-    keeper->KeepSetting("user", "ClearOrd", "other section");
-    keeper->KeepSetting("USER", "a\0b"s, "c\0d"s);
-    keeper->KeepSetting("", "", "");
-    keeper->KeepSetting("USER", "Nothing", std::string_view());
+    const auto storage = Open();
+    storage->StoreSetting("USER", "ClearOrd", "Y");
+    storage->StoreSetting("USER", "ClearOrd", "N");
+    storage->StoreSetting("user", "ClearOrd", "other section");
+    storage->StoreSetting("USER", "a\0b"s, "c\0d"s);
+    storage->StoreSetting("", "", "");
+    storage->StoreSetting("USER", "Nothing", std::string_view());
   }
   Load();
   EXPECT_EQ(data.config, (TTextTables{{"USER", {{"ClearOrd", "N"}, {"a\0b"s, "c\0d"s}, {"Nothing", ""}}},
@@ -29,28 +29,28 @@ TEST_F(TSettings, TheLastValueKeptUnderAKeyComesBack) {
 }
 
 TEST_F(TSettings, GoOverTheOnesThatAreThereAndLeaveTheOthers) {
-  Open()->KeepSetting("USER", "a", "kept");
+  Open()->StoreSetting("USER", "a", "stored");
   data.config["USER"] = {{"a", "given"}, {"b", "given"}};
   Load();
-  EXPECT_EQ(data.config, (TTextTables{{"USER", {{"a", "kept"}, {"b", "given"}}}}));
+  EXPECT_EQ(data.config, (TTextTables{{"USER", {{"a", "stored"}, {"b", "given"}}}}));
 }
 
-TEST_F(TWorkspaces, AreKeptByName) {
-  const auto keeper = Open();
-  EXPECT_EQ(keeper->Workspace("day"), std::nullopt);
-  EXPECT_EQ(keeper->WorkspaceNames(), TTexts{});
-  keeper->KeepWorkspace("night", "dark");
-  keeper->KeepWorkspace("day", "one");
-  keeper->KeepWorkspace("day", "two\0three"s);
-  keeper->KeepWorkspace("empty", std::string_view());
-  EXPECT_EQ(keeper->Workspace("day"), "two\0three"s);
-  EXPECT_EQ(keeper->Workspace("empty"), "");
-  EXPECT_EQ(keeper->Workspace("Day"), std::nullopt);
-  EXPECT_EQ(keeper->WorkspaceNames(), (TTexts{"day", "empty", "night"}));
+TEST_F(TWorkspaces, AreStoredByName) {
+  const auto storage = Open();
+  EXPECT_EQ(storage->Workspace("day"), std::nullopt);
+  EXPECT_EQ(storage->WorkspaceNames(), TTexts{});
+  storage->StoreWorkspace("night", "dark");
+  storage->StoreWorkspace("day", "one");
+  storage->StoreWorkspace("day", "two\0three"s);
+  storage->StoreWorkspace("empty", std::string_view());
+  EXPECT_EQ(storage->Workspace("day"), "two\0three"s);
+  EXPECT_EQ(storage->Workspace("empty"), "");
+  EXPECT_EQ(storage->Workspace("Day"), std::nullopt);
+  EXPECT_EQ(storage->WorkspaceNames(), (TTexts{"day", "empty", "night"}));
 }
 
 TEST_F(TWorkspaces, SurviveAReopening) {
-  Open()->KeepWorkspace("day", "one");
+  Open()->StoreWorkspace("day", "one");
   EXPECT_EQ(Open()->Workspace("day"), "one");
 }
 

@@ -1,4 +1,4 @@
-// A trader does not wait for the disk longer than can be helped.
+// A trader does not wait for the disk any longer than necessary.
 
 #include <fcntl.h>
 #include <unistd.h>
@@ -40,17 +40,17 @@ struct TStorageSpeed : TStorageTest {
   }
 };
 
-TEST_F(TStorageSpeed, AnOrderIsKeptWithinTenMillisecondsBesideWhatTheDiskTakes) {
-  const auto keeper = Open();
+TEST_F(TStorageSpeed, AnOrderIsStoredWithinTenMillisecondsBesideWhatTheDiskTakes) {
+  const auto storage = Open();
   auto order = OrderWithKey("K");
   order.SetTextProperty(440, "TMLO:AlgoId=TVOL,VolPct=20,Closing=0;");
   order.SetNamedText("Original", "AlgoEntry");
   const double added = MedianMilliseconds([&](std::size_t i) {
     order.key = "N" + std::to_string(i);
-    keeper->KeepOrder({"me", "new", "accepted"}, order);
+    storage->StoreOrder({"me", "new", "accepted"}, order);
   });
   const double changed = MedianMilliseconds([&](std::size_t) {
-    keeper->KeepOrder({"market", "fill", "100"}, order);
+    storage->StoreOrder({"market", "fill", "100"}, order);
   });
   const double disk = DiskMilliseconds();
   std::cout << "new " << added << " ms, changed " << changed << " ms, the disk alone " << disk << " ms\n";

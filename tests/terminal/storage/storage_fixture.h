@@ -1,6 +1,6 @@
 #pragma once
 
-// A database in a folder of its own, and short ways to fill it and to look at it.
+// A database in a folder of its own, with helpers to fill and inspect it.
 
 #include <gtest/gtest.h>
 
@@ -10,13 +10,17 @@
 
 #include "terminal/storage/sqlite_storage.h"
 #include "terminal/storage/storage_error.h"
-#include "tests/terminal/storage/temporary_folder.h"
+#include "tests/terminal/temporary_folder.h"
 
 namespace algo::terminal::storage::tests {
 
+using terminal::tests::FileBytes;
+using terminal::tests::TTemporaryFolder;
+using terminal::tests::WriteFileBytes;
+
 inline constexpr const char* FixedTime = "2024-02-29 23:59:59.007";
 
-/// The message with which the operation was stopped; empty when it went through.
+/// The message of the error that the operation throws; empty if it succeeds.
 template <class TOperation>
 std::string MessageOf(TOperation&& operation) {
   try {
@@ -39,11 +43,11 @@ struct TStorageTest : testing::Test {
     return std::make_unique<TSqliteStorage>(file, [] { return std::string(FixedTime); });
   }
 
-  /// Opens the database anew and takes what is in it.
+  /// Opens the database again and loads its content.
   void Load() {
-    const auto keeper = Open();
-    keeper->LoadInto(data, orders);
-    events = keeper->AllEvents();
+    const auto storage = Open();
+    storage->LoadInto(data, orders);
+    events = storage->AllEvents();
   }
 
   std::vector<std::string> LoadedKeys() const {

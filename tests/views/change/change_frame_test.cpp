@@ -189,7 +189,7 @@ TEST_F(ChangeFrame, StepsTheQuantitiesByTheLot) {
     Data().instruments.erase("0700");
     if (row.instrument != nullptr) Data().instruments["0700"] = {"0700", row.instrument};
     const auto lot = row.field == nullptr ? std::nullopt : std::optional<std::string>(row.field);
-    Host().SetMarket("0700", row.state, {{24, lot}}, false, false);
+    Host().SetMarket("0700", row.state, {{24, lot}}, terminal::TMarketNotice::None);
     TCustomClientOrder order = OrderWith("TMLO:AlgoId=ICEBERG;");
     order.symbol = "0700";
     Change(order, [&](forms::TDialogForm&, TChangeFrame& frame) {

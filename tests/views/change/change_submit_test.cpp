@@ -55,7 +55,7 @@ TEST_F(ChangeSubmit, LeavesThePriceOfAnUntouchedOrder) {
                           {1, "many", 60.5, 60.5},
                           {2, "100", 60.5, 60.5},
                           {0, "100", 60.5, 60.5}}) {
-    Host().SetMarket("0005", row.state, {{1504, row.multiplier}}, false, false);
+    Host().SetMarket("0005", row.state, {{1504, row.multiplier}}, terminal::TMarketNotice::None);
     TCustomClientOrder order = OrderWith("TMLO:AlgoId=CLOSE;");
     order.price = row.price;
     Change(order, [&](forms::TDialogForm&, TChangeFrame& frame) {
@@ -81,7 +81,7 @@ TEST_F(ChangeSubmit, DividesThePriceByTheMultiplier) {
                           {1, "0.0000001", "10.5", 10.5},
                           {1, "many", "10.5", 10.5},
                           {2, "100", "10.5", 10.5}}) {
-    Host().SetMarket("0005", row.state, {{1504, row.multiplier}}, false, false);
+    Host().SetMarket("0005", row.state, {{1504, row.multiplier}}, terminal::TMarketNotice::None);
     TCustomClientOrder order = OrderWith("TMLO:AlgoId=CLOSE;");
     Change(order, [&](forms::TDialogForm&, TChangeFrame& frame) {
       Type(frame, "edtPrice", row.typed);
@@ -130,7 +130,7 @@ TEST_F(ChangeSubmit, AddsTheBitsOfTheShownTypeAndThenSetsThePriceShown) {
 }
 
 TEST_F(ChangeSubmit, AddsNoTriggerBits) {
-  Host().SetMarket("0005", 1, {{3, "60"}, {17, "60"}}, false, false);
+  Host().SetMarket("0005", 1, {{3, "60"}, {17, "60"}}, terminal::TMarketNotice::None);
   TCustomClientOrder order = OrderWith("TMLO:AlgoId=CLOSE;");
   order.orderTypeFlags = 0x800;
   order.stopPrice = 70;
@@ -167,7 +167,7 @@ TEST_F(ChangeSubmit, SendsNoOtherAlgorithmInPlaceOfOneThatIsNotOffered) {
 }
 
 TEST_F(ChangeSubmit, StopsAtAPriceThatIsNotFinite) {
-  Host().SetMarket("0005", 1, {{1504, "0.000001"}}, false, false);
+  Host().SetMarket("0005", 1, {{1504, "0.000001"}}, terminal::TMarketNotice::None);
   TCustomClientOrder order = OrderWith("TMLO:AlgoId=TVOL,VolPct=20;");
   const std::string before = Facts(order);
   Change(order, [&](forms::TDialogForm& form, TChangeFrame& frame) {

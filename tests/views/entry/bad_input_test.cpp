@@ -133,7 +133,7 @@ TEST_F(BadInput, ReadsMarketTextsThatAreNoNumbersAsZeroOrAsNoMultiplier) {
     SCOPED_TRACE(std::to_string(row.field) + "=" + row.text);
     terminal::TFieldChanges fields{{3, "60.5"}, {24, "400"}, {1504, std::nullopt}};
     fields[row.field] = row.text;
-    Host().SetMarket("0005", 1, fields, false, false);
+    Host().SetMarket("0005", 1, fields, terminal::TMarketNotice::None);
     EnterSymbol(frame, "0005");
     EXPECT_EQ(Spin(frame, "edtPrice").Value(), row.price);
     EXPECT_EQ(Spin(frame, "edtQty").Value(), row.quantity);
@@ -145,7 +145,7 @@ TEST_F(BadInput, ReadsMarketTextsThatAreNoNumbersAsZeroOrAsNoMultiplier) {
 
 TEST_F(BadInput, ShowsNoPriceThatIsNotFinite) {
   auto& frame = OpenFilled();
-  Host().SetMarket("0005", 1, {{3, "1e300"}, {1504, "1e300"}}, false, false);
+  Host().SetMarket("0005", 1, {{3, "1e300"}, {1504, "1e300"}}, terminal::TMarketNotice::None);
   EnterSymbol(frame, "0005");
   EXPECT_EQ(Spin(frame, "edtPrice").Value(), std::nullopt);
   EXPECT_EQ(Spin(frame, "edtPrice").Text(), "");

@@ -39,7 +39,7 @@ TEST_F(BuiltOrder, DividesThePriceByTheMultiplierOfALiveItem) {
                                {0, "100", 1.5, 1.5}};
   auto& frame = OpenFilled();
   for (const TRow& row : rows) {
-    Host().SetMarket("0005", row.state, {{1504, row.multiplier}}, false, false);
+    Host().SetMarket("0005", row.state, {{1504, row.multiplier}}, terminal::TMarketNotice::None);
     Spin(frame, "edtPrice").SetValue(row.shown);
     Forget();
     Click(frame, "btnSubmit");
@@ -50,7 +50,7 @@ TEST_F(BuiltOrder, DividesThePriceByTheMultiplierOfALiveItem) {
 
 TEST_F(BuiltOrder, IsNotSentWithAPriceThatIsNoNumberAfterTheDivision) {
   auto& frame = OpenFilled();
-  Host().SetMarket("0005", 1, {{1504, "0.001"}}, false, false);
+  Host().SetMarket("0005", 1, {{1504, "0.001"}}, terminal::TMarketNotice::None);
   Spin(frame, "edtPrice").SetValue(1e308);
   host::TCustomClientOrder order;
   order.account = "kept";

@@ -92,7 +92,7 @@ TEST_F(ConfigurationTest, TheSettingsAreThoseOfTheUsersOwnSection) {
   EXPECT_TRUE(frame.Check(TField::cbPopup).Checked());
   EXPECT_FALSE(frame.Check(TField::cbClear).Checked());
   Data().config["DESK"] = {{"ConfirmationPlaceOrd", "Y"}, {"ClearOrd", "Y"}};
-  Host().TellConfigChanged();
+  Host().NotifyConfigChanged();
   EXPECT_FALSE(frame.Check(TField::cbPopup).Checked());
   EXPECT_TRUE(frame.Check(TField::cbClear).Checked());
 }
@@ -105,7 +105,7 @@ TEST_F(ConfigurationTest, EveryOpenViewFollowsAChangeOfTheSettingsAndStoresNothi
   Set("ClearOrd", "Y");
   SetPlatform("ScaleSize", "150");
   Forget();
-  Host().TellConfigChanged();
+  Host().NotifyConfigChanged();
   for (auto* frame : {&first, &second}) {
     EXPECT_FALSE(frame->Check(TField::cbPopup).Checked());
     EXPECT_FALSE(frame->Check(TField::cbPopup).Enabled());
@@ -128,7 +128,7 @@ TEST_F(ConfigurationTest, TheScaleSettingChoosesTheSizeOfTheKeyInputsCaptions) {
   EXPECT_EQ(KeyInputSize(frame), 8);
   for (const TRow& row : rows) {
     SetPlatform("ScaleSize", row.scale);
-    Host().TellConfigChanged();
+    Host().NotifyConfigChanged();
     for (const std::string_view item : {"liVolPct", "liThrPx1", "liThrVolPct1", "liStopLossPx"}) {
       EXPECT_EQ(Element(frame, item).Font(), (forms::TFont{row.size, true})) << item << " at " << row.scale;
     }
@@ -139,11 +139,11 @@ TEST_F(ConfigurationTest, TheScaleSettingChoosesTheSizeOfTheKeyInputsCaptions) {
 TEST_F(ConfigurationTest, SettingsThatCannotBeReadAreToldOnceAndLeaveTheFrameInUse) {
   auto& frame = Open();
   Data().faults.Set({"config.read"});
-  Host().TellConfigChanged();
+  Host().NotifyConfigChanged();
   EXPECT_EQ(Told(), TTexts{"The host fails at config.read"});
   Data().faults.Set({});
   Set("ClearOrd", "Y");
-  Host().TellConfigChanged();
+  Host().NotifyConfigChanged();
   EXPECT_TRUE(frame.Check(TField::cbClear).Checked());
 }
 

@@ -82,7 +82,7 @@ TEST_F(CopyingLocks, GoByTheGroupSettingAsItIsNow) {
   auto& frame = Open();
   frame.SetGroupID("A");
   Data().config["VANTORIX_PLATFORM"]["DefaultGroupDataMode"] = "0";
-  Host().TellConfigChanged();
+  Host().NotifyConfigChanged();
   Copy(Price, Picked(), "B");
   EXPECT_EQ(Text(frame, "edtPrice"), "0");
   frame.SetGroupID("B");
@@ -157,11 +157,11 @@ TEST_F(CopyingLocks, KeepThePrice) {
     Copy(channel, Picked());
     EXPECT_EQ(Text(frame, "edtPrice"), "60.5");
     EXPECT_EQ(Text(frame, "edtQty"), "1,200");
-    Host().SetMarket("0005", 1, {{3, "70"}}, true, false);
+    Host().SetMarket("0005", 1, {{3, "70"}}, terminal::TMarketNotice::Item);
     Click(frame, "cbLockPrice");
-    Host().SetMarket("0005", 1, {{3, "71"}}, true, false);
+    Host().SetMarket("0005", 1, {{3, "71"}}, terminal::TMarketNotice::Item);
     EXPECT_EQ(Text(frame, "edtPrice"), "60.5");
-    Host().SetMarket("0005", 1, {{3, "60.5"}}, false, false);
+    Host().SetMarket("0005", 1, {{3, "60.5"}}, terminal::TMarketNotice::None);
   }
 }
 

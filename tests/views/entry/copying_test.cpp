@@ -162,7 +162,7 @@ TEST_F(Copying, APriceWithoutQuantityLeavesTheLotOfTheSameSymbolAlone) {
   host::TCustomClientOrder order = Picked();
   order.quantity = 0;
   Copy(Price, order);
-  Host().SetMarket("0005", 1, {{24, "500"}, {3, "70"}}, true, false);
+  Host().SetMarket("0005", 1, {{24, "500"}, {3, "70"}}, terminal::TMarketNotice::Item);
   Expect(frame, {{"edtQty", "800"}, {"edtPrice", "12.5"}});
 }
 
@@ -173,13 +173,13 @@ TEST_F(Copying, APriceWithoutQuantityWaitsForTheLotOfAnotherSymbol) {
   order.quantity = 0;
   Copy(Price, order);
   Expect(frame, {{"edtSymbol", "0700"}, {"edtQty", "800"}, {"edtPrice", "12.5"}});
-  Host().SetMarket("0700", 1, {{24, "100"}, {3, "300"}}, true, false);
+  Host().SetMarket("0700", 1, {{24, "100"}, {3, "300"}}, terminal::TMarketNotice::Item);
   Expect(frame, {{"edtQty", "100"}, {"edtPrice", "12.5"}});
 }
 
 TEST_F(Copying, APriceRefreshesTheLotAtItsEndWhenTheSymbolIsAnother) {
   auto& frame = OpenFilled();
-  Host().SetMarket("0700", 1, {{24, "100"}, {3, "300"}}, false, false);
+  Host().SetMarket("0700", 1, {{24, "100"}, {3, "300"}}, terminal::TMarketNotice::None);
   host::TCustomClientOrder order = Picked();
   order.symbol = "0700";
   order.quantity = 0;
@@ -200,7 +200,7 @@ TEST_F(Copying, TheMarketLeavesWhatWasCopiedAlone) {
   for (const std::int32_t channel : {Order, Price}) {
     auto& frame = OpenFilled();
     Copy(channel, Picked());
-    Host().SetMarket("0005", 1, {{24, "500"}, {3, "70"}}, true, false);
+    Host().SetMarket("0005", 1, {{24, "500"}, {3, "70"}}, terminal::TMarketNotice::Item);
     Expect(frame, {{"edtQty", "1,234"}, {"edtPrice", "12.5"}});
   }
 }
@@ -214,14 +214,14 @@ TEST_F(Copying, TheCopiedPriceIsShownTimesTheMultiplierOfLiveData) {
   for (const TRow& row :
        {TRow{1, "0.001", "0.0125"}, TRow{1, "100", "1,250"}, TRow{1, "1e1", "125"}, TRow{1, "abc", "12.5"},
         TRow{1, "", "12.5"}, TRow{2, "100", "12.5"}, TRow{0, "100", "12.5"}}) {
-    Host().SetMarket("0005", row.state, {{1504, row.multiplier}}, false, false);
+    Host().SetMarket("0005", row.state, {{1504, row.multiplier}}, terminal::TMarketNotice::None);
     for (const std::int32_t channel : {Order, Price}) {
       auto& frame = Open();
       Copy(channel, Picked());
       EXPECT_EQ(Text(frame, "edtPrice"), row.shown) << row.state << " " << row.multiplier;
     }
   }
-  Host().SetMarket("0005", 1, {{1504, std::nullopt}}, false, false);
+  Host().SetMarket("0005", 1, {{1504, std::nullopt}}, terminal::TMarketNotice::None);
   auto& frame = Open();
   Copy(Order, Picked());
   EXPECT_EQ(Text(frame, "edtPrice"), "12.5");

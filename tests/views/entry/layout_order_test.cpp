@@ -61,21 +61,21 @@ TEST_F(LayoutOrder, LetsQuantityAndPriceStandAgainstTheMarket) {
   FFrame.SetLayoutData("Quantity=300,Price=12.5,Symbol=0005");
   EXPECT_EQ(Text("edtQty"), "300");
   EXPECT_EQ(Text("edtPrice"), "12.5");
-  Host().SetMarket("0005", 1, {{24, "500"}, {3, "70"}}, true, false);
+  Host().SetMarket("0005", 1, {{24, "500"}, {3, "70"}}, terminal::TMarketNotice::Item);
   EXPECT_EQ(Text("edtQty"), "300");
   EXPECT_EQ(Text("edtPrice"), "12.5");
 }
 
 TEST_F(LayoutOrder, KeepsQuantityAndPriceWhenTheMarketComesLater) {
   FFrame.SetLayoutData("Quantity=300,Price=12.5,Symbol=0700");
-  Host().SetMarket("0700", 1, {{24, "500"}, {3, "70"}}, true, false);
+  Host().SetMarket("0700", 1, {{24, "500"}, {3, "70"}}, terminal::TMarketNotice::Item);
   EXPECT_EQ(Text("edtQty"), "300");
   EXPECT_EQ(Text("edtPrice"), "12.5");
 }
 
 TEST_F(LayoutOrder, LeavesTheMarketToFillWhatTheTextDoesNotGive) {
   FFrame.SetLayoutData("Quantity=0,Price=0,Symbol=0700");
-  Host().SetMarket("0700", 1, {{24, "500"}, {3, "70"}}, true, false);
+  Host().SetMarket("0700", 1, {{24, "500"}, {3, "70"}}, terminal::TMarketNotice::Item);
   EXPECT_EQ(Text("edtQty"), "500");
   EXPECT_EQ(Text("edtPrice"), "70");
 }
@@ -190,7 +190,7 @@ TEST_F(LayoutOrder, WritesAZeroThatItNeverReadsBack) {
 TEST_F(LayoutOrder, ChecksTheBoxOfAForcedConfirmationWithoutEnablingIt) {
   Data().config["USER"]["ForceConfirmBox"] = "Y";
   Data().config["USER"]["ConfirmationPlaceOrd"] = "Y";
-  Host().TellConfigChanged();
+  Host().NotifyConfigChanged();
   EXPECT_TRUE(Writes("Popup=0"));
   FFrame.SetLayoutData("Popup=1");
   EXPECT_FALSE(Enabled("cbPopup"));

@@ -191,7 +191,7 @@ TEST_F(LifecycleTest, ASkinGivesTheSideButtonsItsColoursAndTellsTheHost) {
 
   Data().colors = {{7, 0xabcdef}, {9, 0xfedcba}};
   Log().clear();
-  Host().TellSkinChanged("Light");
+  Host().NotifySkinChanged("Light");
   expectSkin(0xabcdef, 0xfedcba);
 }
 

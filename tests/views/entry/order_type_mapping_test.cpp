@@ -12,7 +12,9 @@ namespace {
 
 class OrderTypeMapping : public TTerminalTest {
  protected:
-  void SetItem(const terminal::TFieldChanges& fields) { Host().SetMarket("0005", 1, fields, false, false); }
+  void SetItem(const terminal::TFieldChanges& fields) {
+    Host().SetMarket("0005", 1, fields, terminal::TMarketNotice::None);
+  }
 };
 
 struct TRow {

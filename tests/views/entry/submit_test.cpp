@@ -234,11 +234,11 @@ TEST_F(Submit, StoresNothingWhenTheSettingsAreRead) {
   auto& frame = Open();
   Settings("Y", "Y");
   Forget();
-  Host().TellConfigChanged();
+  Host().NotifyConfigChanged();
   EXPECT_FALSE(Box(frame, "cbPopup").Checked());
   EXPECT_TRUE(Box(frame, "cbClear").Checked());
   Settings("N", "N");
-  Host().TellConfigChanged();
+  Host().NotifyConfigChanged();
   EXPECT_TRUE(Box(frame, "cbPopup").Checked());
   EXPECT_FALSE(Box(frame, "cbClear").Checked());
   EXPECT_TRUE(Seen("store").empty());

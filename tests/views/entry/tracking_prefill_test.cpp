@@ -13,7 +13,8 @@ namespace {
 class Prefill : public TTerminalTest {
  protected:
   void SetItem(std::int32_t state, const terminal::TFieldChanges& fields, bool notify = true) {
-    Host().SetMarket("0005", state, fields, notify, false);
+    Host().SetMarket("0005", state, fields,
+                     notify ? terminal::TMarketNotice::Item : terminal::TMarketNotice::None);
   }
 
   void EnterSymbol(forms::TFrame& frame, std::string_view symbol) {

@@ -90,7 +90,8 @@ class Tracking : public TTerminalTest {
  protected:
   void SetItem(std::string_view symbol, std::int32_t state, const terminal::TFieldChanges& fields,
                bool notify = false) {
-    Host().SetMarket(symbol, state, fields, notify, false);
+    Host().SetMarket(symbol, state, fields,
+                     notify ? terminal::TMarketNotice::Item : terminal::TMarketNotice::None);
   }
 
   void EnterSymbol(forms::TFrame& frame, std::string_view symbol) {
@@ -203,10 +204,10 @@ TEST_F(Tracking, IgnoresNewsWithoutItsSymbol) {
   feed.tell(nullptr, nullptr);
   const TNews empty(nullptr);
   feed.tell(nullptr, &empty);
-  Host().SetMarket("0005", 1, {}, true, true);
+  Host().SetMarket("0005", 1, {}, terminal::TMarketNotice::OtherItems);
   EXPECT_EQ(Spin(frame, "edtQty").Value(), std::nullopt);
   EXPECT_EQ(Spin(frame, "edtPrice").Value(), 0);
-  Host().SetMarket("0005", 1, {}, true, false);
+  Host().SetMarket("0005", 1, {}, terminal::TMarketNotice::Item);
   EXPECT_EQ(Spin(frame, "edtQty").Value(), 400);
   EXPECT_EQ(Spin(frame, "edtPrice").Value(), 60.5);
 }
@@ -229,14 +230,14 @@ TEST_F(Tracking, ListensToTheSpreadTableOfItsItemAlone) {
   auto& frame = Open();
   const std::vector<std::string> others{"02", "03"};
   const std::vector<std::string> own{"02", "01"};
-  Host().TellSpread(own);  // no symbol yet
+  Host().NotifySpreadChanged(own);  // no symbol yet
   SetItem("0005", 0, {{73, "01"}});
   EnterSymbol(frame, "0005");
   SetItem("0005", 1, {});
-  Host().TellSpread(others);
+  Host().NotifySpreadChanged(others);
   spreads.tell(nullptr, nullptr);
   EXPECT_EQ(Spin(frame, "edtQty").Value(), std::nullopt);
-  Host().TellSpread(own);
+  Host().NotifySpreadChanged(own);
   EXPECT_EQ(Spin(frame, "edtQty").Value(), 400);
   EXPECT_EQ(Spin(frame, "edtPrice").Value(), 60.5);
   EXPECT_EQ(Told(), TTexts{});

@@ -110,7 +110,7 @@ TEST_F(WorkParent, CarriesTheUnmultipliedPrice) {
                           {1, "many", 1.5, 1.5},
                           {2, "100", 1.5, 1.5},
                           {1, "100", std::nullopt, 0}}) {
-    Host().SetMarket("0005", row.state, {{1504, row.multiplier}}, false, false);
+    Host().SetMarket("0005", row.state, {{1504, row.multiplier}}, terminal::TMarketNotice::None);
     auto& frame = OpenFilled();
     Spin(frame, "edtPrice").SetValue(row.shown);
     EXPECT_EQ(ToldByWork(frame), TMessageSource{});

@@ -30,7 +30,7 @@ TEST_F(WorkEntry, CutsTheQuantityOfAPercentageToWholeLots) {
                           {nullptr, 999, "50", 499},
                           {"100", 10000, "", 0}}) {
     const auto lot = row.lot == nullptr ? std::nullopt : std::optional<std::string>(row.lot);
-    Host().SetMarket("0005", 1, {{24, lot}}, false, false);
+    Host().SetMarket("0005", 1, {{24, lot}}, terminal::TMarketNotice::None);
     TCustomClientOrder parent = ParentOrder();
     parent.quantity = row.parent;
     Work(parent, [&](forms::TDialogForm&, TChangeFrame& frame) {
@@ -60,7 +60,7 @@ TEST_F(WorkEntry, FollowsTheQuantityWithAPercentageThatIsNotRounded) {
 }
 
 TEST_F(WorkEntry, DoesNotFeedThePercentageBackIntoTheQuantity) {
-  Host().SetMarket("0005", 1, {{24, "100"}}, false, false);
+  Host().SetMarket("0005", 1, {{24, "100"}}, terminal::TMarketNotice::None);
   TCustomClientOrder parent = ParentOrder();
   Work(parent, [&](forms::TDialogForm&, TChangeFrame& frame) {
     Type(frame, "edtQty", "150");

@@ -180,7 +180,7 @@ TEST_F(WorkFrame, OpensEmptyForTheSettingZeroAlone) {
 }
 
 TEST_F(WorkFrame, ShowsTheRawPriceWhateverTheMultiplier) {
-  Host().SetMarket("0005", 1, {{1504, "100"}}, false, false);
+  Host().SetMarket("0005", 1, {{1504, "100"}}, terminal::TMarketNotice::None);
   TCustomClientOrder parent = ParentOrder();
   Work(parent,
        [&](forms::TDialogForm&, TChangeFrame& frame) { EXPECT_EQ(Spin(frame, "edtPrice").Value(), 10.5); });

@@ -11,7 +11,7 @@ using TMessageSource = std::vector<std::string>;
 class WorkRules : public TOrderDialogTest {
  protected:
   WorkRules() {
-    Host().SetMarket("0005", 1, {{24, "100"}}, false, false);
+    Host().SetMarket("0005", 1, {{24, "100"}}, terminal::TMarketNotice::None);
     Data().profile.user = "trader 7";
     // Children that the host refuses take nothing of the parent.
     Data().accept = false;
@@ -159,7 +159,7 @@ TEST_F(WorkRules, TakeWholeLotsAlone) {
                           {"-100", 7, true},
                           {"2.5", 7, true},
                           {"lots", 7, true}}) {
-    Host().SetMarket("0005", 1, {{24, row.lot}}, false, false);
+    Host().SetMarket("0005", 1, {{24, row.lot}}, terminal::TMarketNotice::None);
     TCustomClientOrder parent = ParentOrder();
     const TMessageSource told =
         ToldOnSubmit(parent, [&](TChangeFrame& frame) { Spin(frame, "edtQty").SetValue(row.quantity); });
@@ -194,7 +194,7 @@ TEST_F(WorkRules, WriteTheChildIntoTheOrder) {
   TCustomClientOrder parent = ParentOrder();
   parent.algoFlags = 0x2;
   parent.orderTypeFlags = 0x400;
-  Host().SetMarket("0005", 1, {{1504, "100"}}, false, false);
+  Host().SetMarket("0005", 1, {{1504, "100"}}, terminal::TMarketNotice::None);
   const TMessageSource told = ToldOnSubmit(parent, [&](TChangeFrame& frame) {
     Type(frame, "edtPrice", "10.25");
     Type(frame, "edtVolPct", "20");

@@ -10,7 +10,7 @@ struct TBesideTest : TBlotterTest {
   TBesideTest() {
     // The module goes by the setting that it finds when it is loaded.
     storage::TSqliteStorage(options.dataFolder + "/algo-desk.db")
-        .KeepSetting("USER", "ChangeOrderShowModel", "N");
+        .StoreSetting("USER", "ChangeOrderShowModel", "N");
     Open();
     Put("N1");
     Put("N2");

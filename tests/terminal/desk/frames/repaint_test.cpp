@@ -1,21 +1,11 @@
 // What a change of algorithm costs on the screen.
 
-#include <QEvent>
-
 #include "forms/choices.h"
 #include "tests/terminal/desk/desk_fixture.h"
+#include "tests/terminal/render/paint_count.h"
 
 namespace algo::terminal::desk::tests {
 namespace {
-
-class TPaints final : public QObject {
- public:
-  bool eventFilter(QObject* /*watched*/, QEvent* event) override {
-    if (event->type() == QEvent::Paint) ++count;
-    return false;
-  }
-  int count = 0;
-};
 
 struct TRepaintTest : TDeskTest {
   /// How often the view is painted for a change to the algorithm, until nothing is left to do.
@@ -25,7 +15,7 @@ struct TRepaintTest : TDeskTest {
     const auto found = std::find(kinds.Items().begin(), kinds.Items().end(), algorithm);
     if (found == kinds.Items().end()) throw EError(std::string("there is no ") + algorithm);
     Settle();
-    TPaints paints;
+    terminal::tests::TPaintCount paints;
     view.installEventFilter(&paints);
     view.Frame()->InputPick(kinds, static_cast<std::int32_t>(found - kinds.Items().begin()));
     Settle();

@@ -17,7 +17,9 @@ namespace algo::terminal::desk::tests {
 namespace {
 
 struct TMarketModelTest : testing::Test {
-  void Publish(const char* symbol, TFieldChanges changes) { host.SetMarket(symbol, 1, changes, true, false); }
+  void Publish(const char* symbol, TFieldChanges changes) {
+    host.SetMarket(symbol, 1, changes, TMarketNotice::Item);
+  }
   QString Cell(int row, int column) { return model.index(row, column).data().toString(); }
 
   paper::TMarketTables tables = SampleTables();

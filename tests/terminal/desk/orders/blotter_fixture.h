@@ -24,7 +24,7 @@ struct TBlotterTest : TDeskTest {
     order.algoFlags = 0x8000;
     order.SetNamedText("Original", "AlgoEntry");
     order.SetTextProperty(440, "TMLO:AlgoId=TVOL,VolPct=20,Closing=0;");
-    desk->Host().Ledger().Record({"test", "new", "accepted"}, order);
+    desk->Host().Journal().Record({"test", "new", "accepted"}, order);
   }
 
   host::TCustomClientOrder& Order(const char* key) { return *desk->Host().Orders().Find(key); }

@@ -27,7 +27,7 @@ TEST_F(TBlotterTest, WhatIsFilledWhileADialogShowsIsNotLost) {
     auto filled = Order("N1");
     filled.filled = 800;
     filled.status = 2;
-    desk->Host().Ledger().Record({"test", "fill", "800"}, filled);
+    desk->Host().Journal().Record({"test", "fill", "800"}, filled);
     Type(FrameIn(dialog), "edtQty", "2000");
     Click(Input(FrameIn(dialog), "btnBuy"));
   });

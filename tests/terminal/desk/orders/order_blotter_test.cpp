@@ -40,7 +40,7 @@ TEST_F(TBlotterTest, AnOrderThatLeftTheListWhileItsMenuWasOpenIsLeftAlone) {
   auto filled = Order("N1");
   filled.filled = 4000;
   filled.status = 3;
-  desk->Host().Ledger().Record({"test", "fill", "4000"}, filled);
+  desk->Host().Journal().Record({"test", "fill", "4000"}, filled);
   The<QAction>("cancelOrder").trigger();
   EXPECT_EQ(Order("N1").status, 3);
   EXPECT_EQ(desk->Storage().EventsOf("N1").back().event.what, "fill");

@@ -28,7 +28,7 @@ inline host::TCustomClientOrder SampleOrder(const std::string& key, const std::s
 
 struct TOrdersTest : testing::Test {
   void Record(const host::TCustomClientOrder& order) {
-    host.Ledger().Record({"test", "test", "test"}, order);
+    host.Journal().Record({"test", "test", "test"}, order);
   }
   QString Cell(const QModelIndex& row, int column) { return row.siblingAtColumn(column).data().toString(); }
 

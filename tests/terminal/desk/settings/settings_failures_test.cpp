@@ -44,7 +44,7 @@ TEST_F(TSettingsPageTest, AFailureThatCannotEvenBeToldClosesNothing) {
 class TStorageWithout final : public TOrderStorage {
  public:
   explicit TStorageWithout(std::string_view key) : FKey(key) {}
-  void KeepSetting(std::string_view /*section*/, std::string_view key, std::string_view /*value*/) override {
+  void StoreSetting(std::string_view /*section*/, std::string_view key, std::string_view /*value*/) override {
     if (key == FKey) throw EError("The disk is full. Free some space and try again.");
   }
 

@@ -1,37 +1,14 @@
 // The desktop on a disk that becomes full: from some moment on files may not grow.
 
-#include <sys/resource.h>
-
 #include <QMessageBox>
 #include <QTableView>
-#include <csignal>
 
 #include "plugin/host_contract/order_action_manager.h"
 #include "tests/terminal/desk/desk_fixture.h"
+#include "tests/terminal/file_size_limit.h"
 
 namespace algo::terminal::desk::tests {
 namespace {
-
-/// As long as it lives, nothing can be written into a file.
-class TFullDisk {
- public:
-  TFullDisk() : FHandler(std::signal(SIGXFSZ, SIG_IGN)) {
-    getrlimit(RLIMIT_FSIZE, &FBefore);
-    rlimit none = FBefore;
-    none.rlim_cur = 0;
-    setrlimit(RLIMIT_FSIZE, &none);
-  }
-  ~TFullDisk() {
-    setrlimit(RLIMIT_FSIZE, &FBefore);
-    std::signal(SIGXFSZ, FHandler);
-  }
-  TFullDisk(const TFullDisk&) = delete;
-  TFullDisk& operator=(const TFullDisk&) = delete;
-
- private:
-  rlimit FBefore{};
-  void (*FHandler)(int);
-};
 
 struct TFullDiskTest : TDeskTest {
   int Messages() { return The<QTableView>("messageTable").model()->rowCount(); }
@@ -42,7 +19,7 @@ TEST_F(TFullDiskTest, AnOrderThatCannotBeStoredIsNotSentAndTheTraderIsTold) {
   FillEntry(Entry().View());
   WhenModal([this](QWidget& dialog) { Click(Input(FrameIn(dialog), "btnBuy")); });
   {
-    const TFullDisk full;
+    const terminal::tests::TFileSizeLimit full(0);
     Click(Input(Entry().View(), "btnSubmit"));
   }
   EXPECT_TRUE(Orders().empty());
@@ -60,7 +37,7 @@ TEST_F(TFullDiskTest, TheMarketStopsOnceAndSaysWhy) {
   order.SetTextProperty(440, "TMLO:AlgoId=SNIPER;");
   ASSERT_TRUE(
       host::TCustomOrderActionManager::GetInstance().TakeAction(nullptr, &order, host::TOrderAction::New, 1));
-  const TFullDisk full;
+  const terminal::tests::TFileSizeLimit full(0);
   desk->Start();
   for (int i = 0; i < 100 && Messages() == 0; ++i) QTest::qWait(50);
   QTest::qWait(500);
@@ -76,7 +53,7 @@ TEST_F(TFullDiskTest, TheMarketStopsOnceAndSaysWhy) {
 
 TEST_F(TFullDiskTest, TheWindowClosesAtTheSecondRequestWithoutAWorkspace) {
   Open();
-  const TFullDisk full;
+  const terminal::tests::TFileSizeLimit full(0);
   window->close();
   EXPECT_TRUE(window->isVisible());
   EXPECT_EQ(Messages(), 1);

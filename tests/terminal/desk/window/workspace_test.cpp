@@ -44,7 +44,7 @@ TEST(Workspace, IsNotReadFromABrokenText) {
 
 struct TWorkspaceTest : TDeskTest {
   void StoreText(const char* text) {
-    storage::TSqliteStorage(options.dataFolder + "/algo-desk.db").KeepWorkspace("default", text);
+    storage::TSqliteStorage(options.dataFolder + "/algo-desk.db").StoreWorkspace("default", text);
   }
 };
 

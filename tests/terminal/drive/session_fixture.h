@@ -13,9 +13,9 @@
 
 namespace algo::terminal::drive {
 
-class TPlay : public testing::Test {
+class TSessionTest : public testing::Test {
  protected:
-  explicit TPlay(const std::string& moduleFile = "/nowhere/module.so") : session(moduleFile, trader) {}
+  explicit TSessionTest(const std::string& moduleFile = "/nowhere/module.so") : session(moduleFile, input) {}
 
   /// The answers to the lines of the script.
   std::vector<TAnswerJson> Play(const std::string& script) {
@@ -41,7 +41,7 @@ class TPlay : public testing::Test {
     return answer["ok"] == false ? answer["error"].get<std::string>() : "it was not refused";
   }
 
-  TTrader trader;
+  TInputPlayer input;
   TSession session;
 };
 

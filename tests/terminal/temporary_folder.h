@@ -1,6 +1,6 @@
 #pragma once
 
-// A folder for the files of one test, gone with all that is in it when the test ends.
+// A folder for the files of one test, which is deleted with all its files when the test ends.
 
 #include <cstdlib>
 #include <filesystem>
@@ -8,11 +8,11 @@
 #include <iterator>
 #include <string>
 
-namespace algo::terminal::storage::tests {
+namespace algo::terminal::tests {
 
 class TTemporaryFolder {
  public:
-  TTemporaryFolder() : FPath((std::filesystem::temp_directory_path() / "algo-storage-XXXXXX").string()) {
+  TTemporaryFolder() : FPath((std::filesystem::temp_directory_path() / "algo-test-XXXXXX").string()) {
     if (mkdtemp(FPath.data()) == nullptr) throw std::filesystem::filesystem_error("mkdtemp", FPath, {});
   }
   ~TTemporaryFolder() { std::filesystem::remove_all(FPath); }
@@ -26,6 +26,7 @@ class TTemporaryFolder {
   std::string FPath;
 };
 
+/// The content of the file; empty if it cannot be read.
 inline std::string FileBytes(const std::string& file) {
   std::ifstream in(file, std::ios::binary);
   return {std::istreambuf_iterator<char>(in), {}};
@@ -35,4 +36,4 @@ inline void WriteFileBytes(const std::string& file, const std::string& bytes) {
   std::ofstream(file, std::ios::binary) << bytes;
 }
 
-}  // namespace algo::terminal::storage::tests
+}  // namespace algo::terminal::tests

@@ -1,4 +1,5 @@
-// What comes out of a module, played here by handlers of the test that sit on a channel as a module's would.
+// What a module may do while it is called. The tests' own handlers subscribe to a channel in place of a
+// module.
 
 #include <functional>
 #include <memory>
@@ -7,30 +8,15 @@
 #include "plugin/host_contract/channel_manager.h"
 #include "plugin/host_contract/message_box.h"
 #include "plugin/host_contract/view_functions.h"
-#include "tests/terminal/drive/play.h"
+#include "tests/terminal/drive/session_fixture.h"
+#include "tests/terminal/host/sample_view.h"
 
 namespace algo::terminal::drive {
 namespace {
 
-class TTestProvider final : public host::TIBaseView {
- public:
-  TTestProvider() : TIBaseView(nullptr) {}
-  std::string GetName() override { return {}; }
-  std::int32_t GetViewID() override { return 0; }
-  std::int32_t GetMenuLevel() override { return 0; }
-  std::int32_t GetMenuIndex(std::int32_t) override { return 0; }
-  std::int32_t GetMenuID(std::int32_t) override { return 0; }
-  std::string GetMenuCaption(std::int32_t) override { return {}; }
-  std::int32_t GetMenuGroupIndex(std::int32_t) override { return 0; }
-  bool GetIsVisible() override { return true; }
-  bool GetDefaultCaption(std::string&) override { return false; }
-  bool GetDefaultSize(std::int32_t&, std::int32_t&) override { return false; }
-  host::TInstanceHandle OpenNewInstance() override { return 0; }
-};
-
-class Inside : public TPlay {
+class ModuleCalls : public TSessionTest {
  protected:
-  ~Inside() override {
+  ~ModuleCalls() override {
     auto& channels = host::TCustomGlobalChannelManager::GetInstance();
     if (subscribed) channels.Unsubscribe(host::OrderActionChannel, this);
   }
@@ -61,21 +47,21 @@ class Inside : public TPlay {
   static constexpr const char* Post = R"({"do":"post","channel":18011,"order":null,"action":1})";
 
   bool subscribed = false;
-  TTestProvider provider;
+  host::tests::TSampleProvider provider;
 };
 
-TEST_F(Inside, AnExceptionThatComesOutIsTold) {
+TEST_F(ModuleCalls, AnExceptionThatComesOutIsTold) {
   OnPost([](host::TOrderTakeActionRecord&) { throw EError("lost my way"); });
   EXPECT_EQ(Refusal(Post), "exception crossed the boundary: lost my way");
   EXPECT_EQ(Ask(R"({"do":"orders"})")["ok"], true);
 }
 
-TEST_F(Inside, AThingThatIsNoExceptionIsToldToo) {
+TEST_F(ModuleCalls, AThingThatIsNoExceptionIsToldToo) {
   OnPost([](host::TOrderTakeActionRecord&) { throw 17; });
   EXPECT_TRUE(Refusal(Post).starts_with("exception crossed the boundary: "));
 }
 
-TEST_F(Inside, ABreachOfTheContractIsToldEvenWhenTheModuleHidesIt) {
+TEST_F(ModuleCalls, ABreachOfTheContractIsToldEvenWhenTheModuleHidesIt) {
   OnPost([this](host::TOrderTakeActionRecord&) {
     try {
       host::TCustomGlobalChannelManager::GetInstance().Unsubscribe(host::CopyOrderChannel, this);
@@ -89,7 +75,7 @@ TEST_F(Inside, ABreachOfTheContractIsToldEvenWhenTheModuleHidesIt) {
   EXPECT_EQ(answer["events"].dump(), R"([{"event":"message","text":"all is well"}])");
 }
 
-TEST_F(Inside, ThePostsRecordIsHandedOverAndItsResultTold) {
+TEST_F(ModuleCalls, ThePostsRecordIsHandedOverAndItsResultTold) {
   Ask(R"({"do":"order","key":"K1"})");
   std::vector<std::string> seen;
   OnPost([&](host::TOrderTakeActionRecord& record) {
@@ -114,7 +100,7 @@ TEST_F(Inside, ThePostsRecordIsHandedOverAndItsResultTold) {
                                             "42 foreign view 0", "9 none view 0"}));
 }
 
-TEST_F(Inside, ADialogIsDismissedWhenNobodySaysOtherwise) {
+TEST_F(ModuleCalls, ADialogIsDismissedWhenNobodySaysOtherwise) {
   OnPost([this](host::TOrderTakeActionRecord& record) {
     record.result = MakeDialog("TAlgoOrderChangeFrame")->ShowModal() == forms::ModalCancel;
   });
@@ -124,7 +110,7 @@ TEST_F(Inside, ADialogIsDismissedWhenNobodySaysOtherwise) {
       R"("answers":[],"result":2}]})");
 }
 
-TEST_F(Inside, ADialogCarriesOutItsCommandsAlsoAfterItsResult) {
+TEST_F(ModuleCalls, ADialogCarriesOutItsCommandsAlsoAfterItsResult) {
   OnPost([this](host::TOrderTakeActionRecord&) { MakeDialog("TAlgoWorkOrderFrame")->ShowModal(); });
   const auto answer = Ask(
       R"({"do":"post","channel":18011,"order":null,"action":1,"modal":[[)"
@@ -145,7 +131,7 @@ TEST_F(Inside, ADialogCarriesOutItsCommandsAlsoAfterItsResult) {
   EXPECT_EQ(dialog["answers"][5]["ok"], false);
 }
 
-TEST_F(Inside, EachDialogTakesTheNextListOfCommands) {
+TEST_F(ModuleCalls, EachDialogTakesTheNextListOfCommands) {
   OnPost([this](host::TOrderTakeActionRecord&) {
     for (int i = 0; i < 3; ++i) MakeDialog("TAlgoOrderChangeFrame")->ShowModal();
   });
@@ -157,7 +143,7 @@ TEST_F(Inside, EachDialogTakesTheNextListOfCommands) {
   EXPECT_EQ(answer["modal"][2]["result"], 2);
 }
 
-TEST_F(Inside, ADialogInADialogTakesTheCommandsOfTheCommandThatLedToIt) {
+TEST_F(ModuleCalls, ADialogInADialogTakesTheCommandsOfTheCommandThatLedToIt) {
   OnPost([this](host::TOrderTakeActionRecord& record) {
     host::TCustomMessageBoxCtrl::GetInstance().ShowText("posted " + std::to_string(record.action));
     MakeDialog(record.action == 1 ? "TAlgoOrderChangeFrame" : "TAlgoWorkOrderFrame")->ShowModal();
@@ -174,7 +160,7 @@ TEST_F(Inside, ADialogInADialogTakesTheCommandsOfTheCommandThatLedToIt) {
   EXPECT_EQ(outer["answers"][0]["events"].dump(), R"([{"event":"message","text":"posted 42"}])");
 }
 
-TEST_F(Inside, CommandsForDialogsHaveToBeListsOfLists) {
+TEST_F(ModuleCalls, CommandsForDialogsHaveToBeListsOfLists) {
   bool posted = false;
   OnPost([&posted](host::TOrderTakeActionRecord&) { posted = true; });
   for (const char* modal : {"{}", "1", "[1]", "[{\"do\":\"dismiss\",\"result\":1}]"}) {
@@ -185,12 +171,12 @@ TEST_F(Inside, CommandsForDialogsHaveToBeListsOfLists) {
   EXPECT_FALSE(posted);
 }
 
-TEST_F(Inside, DismissNeedsADialogAndAResult) {
+TEST_F(ModuleCalls, DismissNeedsADialogAndAResult) {
   EXPECT_EQ(Refusal(R"({"do":"dismiss","result":1})"), "no modal dialog is showing");
   EXPECT_EQ(Refusal(R"({"do":"dismiss"})"), "'result' is missing");
 }
 
-TEST_F(Inside, AFormBesideOthersIsKnownUntilItCloses) {
+TEST_F(ModuleCalls, AFormBesideOthersIsKnownUntilItCloses) {
   std::shared_ptr<forms::TDialogForm> form;
   OnPost([&](host::TOrderTakeActionRecord&) {
     form = MakeDialog("TAlgoOrderChangeFrame");

@@ -1,6 +1,6 @@
 // algo-killed-writer FILE: enters and changes orders until it is killed.
 //
-// Every order goes the way that a trader's goes, through the host's order actions, and is kept in the
+// Every order goes the way that a trader's goes, through the host's order actions, and is stored in the
 // database FILE. Once an action was answered as accepted, one line says so: the order's key and, after a
 // blank, the number of actions on it so far, which is its quantity as well.
 
@@ -54,10 +54,10 @@ int main(int argc, char** argv) {
     return 2;
   }
   try {
-    terminal::storage::TSqliteStorage keeper(argv[1]);
+    terminal::storage::TSqliteStorage storage(argv[1]);
     terminal::tests::TEventNotes notes;
-    terminal::TMemoryHost host(notes, keeper);
-    keeper.LoadInto(host.Data(), host.Orders());
+    terminal::TMemoryHost host(notes, storage);
+    storage.LoadInto(host.Data(), host.Orders());
     EnterOrders(host);
   } catch (const std::exception& error) {
     std::cerr << "algo-killed-writer: " << error.what() << "\n";

@@ -1,4 +1,4 @@
-#include "terminal/ui_driver/widget_trader.h"
+#include "terminal/ui_driver/widget_input_player.h"
 
 #include <QAbstractItemView>
 #include <QApplication>
@@ -22,7 +22,7 @@ QWidget& InputOf(render::TFrameView& view, const forms::TControl& control) {
   return view.Find(control)->Input();
 }
 
-/// Where a click hits the control, which of a check box is its indicator alone.
+/// Where a click hits the control; a check box reacts on its indicator alone.
 QPoint ClickPoint(const QWidget& widget, forms::TControlKind kind) {
   if (kind != forms::TControlKind::Check) return widget.rect().center();
   QStyleOptionButton option;
@@ -30,7 +30,7 @@ QPoint ClickPoint(const QWidget& widget, forms::TControlKind kind) {
   return widget.style()->subElementRect(QStyle::SE_CheckBoxIndicator, &option, &widget).center();
 }
 
-/// Why a change of a list or an editor is not taken, or that it may be tried.
+/// Why a list or an editor would not take a change, or Taken if it may be tried.
 TInputResult TakesChange(const forms::TFrame& frame, const forms::TControl& control) {
   const TInputResult result = frame.TakesInput(control);
   return result == TInputResult::Taken && control.ReadOnly() ? TInputResult::ReadOnly : result;
@@ -38,11 +38,11 @@ TInputResult TakesChange(const forms::TFrame& frame, const forms::TControl& cont
 
 }  // namespace
 
-TInputResult TWidgetTrader::Type(const TFramePointer& frame, forms::TControl& control,
-                                 std::string_view text) {
+TInputResult TWidgetInputPlayer::Type(const TFramePointer& frame, forms::TControl& control,
+                                      std::string_view text) {
   if (dynamic_cast<forms::TEditor*>(&control) == nullptr) return TInputResult::Unsuited;
   if (const auto result = TakesChange(*frame, control); result != TInputResult::Taken) return result;
-  QWidget& input = InputOf(FStage.ViewOf(frame), control);
+  QWidget& input = InputOf(FWindows.ViewOf(frame), control);
   input.setFocus(Qt::TabFocusReason);
   if (const auto result = TakesChange(*frame, control); result != TInputResult::Taken) return result;
   QTest::keyClick(&input, Qt::Key_A, Qt::ControlModifier);
@@ -51,39 +51,40 @@ TInputResult TWidgetTrader::Type(const TFramePointer& frame, forms::TControl& co
     return TInputResult::Taken;
   }
   for (const QChar key : render::ToQt(text)) {
-    // Control characters are no characters of a text, and some of them are keys that do other things.
+    // Control characters are not text, and some of them are keys that do other things.
     if (key.category() == QChar::Other_Control) continue;
     QTest::sendKeyEvent(QTest::Click, &input, Qt::Key_unknown, QString(key), Qt::NoModifier);
   }
   return TInputResult::Taken;
 }
 
-TInputResult TWidgetTrader::Enter(const TFramePointer& frame, forms::TControl& control) {
+TInputResult TWidgetInputPlayer::Enter(const TFramePointer& frame, forms::TControl& control) {
   if (const auto result = frame->TakesInput(control); result != TInputResult::Taken) return result;
-  QWidget& input = InputOf(FStage.ViewOf(frame), control);
+  QWidget& input = InputOf(FWindows.ViewOf(frame), control);
   input.setFocus(Qt::TabFocusReason);
   if (const auto result = frame->TakesInput(control); result != TInputResult::Taken) return result;
   QTest::keyClick(&input, Qt::Key_Return);
   return TInputResult::Taken;
 }
 
-TInputResult TWidgetTrader::Click(const TFramePointer& frame, forms::TControl& control) {
+TInputResult TWidgetInputPlayer::Click(const TFramePointer& frame, forms::TControl& control) {
   if (const auto result = frame->TakesInput(control); result != TInputResult::Taken) return result;
-  QWidget& input = InputOf(FStage.ViewOf(frame), control);
+  QWidget& input = InputOf(FWindows.ViewOf(frame), control);
   QTest::mouseClick(&input, Qt::LeftButton, Qt::NoModifier, ClickPoint(input, control.Kind()));
   if (frame.use_count() > 1) {
-    // The click opened the list; nothing is to be picked from it.
+    // The click opened the list; nothing is picked from it.
     if (auto* list = qobject_cast<QComboBox*>(&input)) list->hidePopup();
   }
   return TInputResult::Taken;
 }
 
-TInputResult TWidgetTrader::Pick(const TFramePointer& frame, forms::TControl& control, std::int32_t index) {
+TInputResult TWidgetInputPlayer::Pick(const TFramePointer& frame, forms::TControl& control,
+                                      std::int32_t index) {
   const auto* combo = dynamic_cast<const forms::TComboBox*>(&control);
   if (combo == nullptr) return TInputResult::Unsuited;
   if (const auto result = TakesChange(*frame, control); result != TInputResult::Taken) return result;
   if (index < 0 || index >= combo->Count()) return TInputResult::OutOfRange;
-  auto& list = static_cast<QComboBox&>(InputOf(FStage.ViewOf(frame), control));
+  auto& list = static_cast<QComboBox&>(InputOf(FWindows.ViewOf(frame), control));
   list.setFocus(Qt::TabFocusReason);
   if (const auto result = TakesChange(*frame, control); result != TInputResult::Taken) return result;
   QTest::keyClick(&list, Qt::Key_F4);
@@ -94,16 +95,16 @@ TInputResult TWidgetTrader::Pick(const TFramePointer& frame, forms::TControl& co
   return TInputResult::Taken;
 }
 
-void TWidgetTrader::Leave(const TFramePointer& frame) {
-  const render::TFrameView& view = FStage.ViewOf(frame);
-  QWidget& rest = FStage.RestOf(view);
-  QTest::mouseClick(&rest, Qt::LeftButton);
+void TWidgetInputPlayer::Leave(const TFramePointer& frame) {
+  const render::TFrameView& view = FWindows.ViewOf(frame);
+  QWidget& focusSink = FWindows.FocusSinkOf(view);
+  QTest::mouseClick(&focusSink, Qt::LeftButton);
 }
 
-void TWidgetTrader::Settle() {
+void TWidgetInputPlayer::Settle() {
   QApplication::processEvents();
   QStringList differences;
-  for (const render::TFrameView* view : FStage.Views()) differences += DifferencesOf(*view);
+  for (const render::TFrameView* view : FWindows.Views()) differences += DifferencesOf(*view);
   if (!differences.isEmpty())
     throw drive::ECommandError(render::FromQt(differences.join(QStringLiteral("; "))));
 }

@@ -1,8 +1,8 @@
-// The trader: everything that comes in through keyboard and mouse.
+// The trader's input: everything that comes in through keyboard and mouse.
 
 #include <array>
 
-#include "terminal/drive/boundary.h"
+#include "terminal/drive/call_module.h"
 #include "terminal/drive/command_table.h"
 #include "terminal/drive/input_checks.h"
 #include "terminal/drive/lookup.h"
@@ -15,26 +15,26 @@ void Type(TSession& session, const TArguments& arguments, TAnswerJson& /*answer*
   const auto frame = FrameOf(session, arguments);
   auto& control = ControlOf(*frame, arguments);
   const auto& text = arguments.Text("text");
-  CheckTaken(CallModule([&] { return session.Trader().Type(frame, control, text); }), control);
+  CheckTaken(CallModule([&] { return session.Input().Type(frame, control, text); }), control);
 }
 
 void Leave(TSession& session, const TArguments& arguments, TAnswerJson& /*answer*/) {
   const auto frame = FrameOf(session, arguments);
-  CallModule([&] { session.Trader().Leave(frame); });
+  CallModule([&] { session.Input().Leave(frame); });
 }
 
 void Enter(TSession& session, const TArguments& arguments, TAnswerJson& answer) {
   const auto frame = FrameOf(session, arguments);
   forms::TControl* control = arguments.Has("control") ? &ControlOf(*frame, arguments) : frame->Focused();
   if (control == nullptr) throw ECommandError("no control has the focus");
-  CheckTaken(CallModule([&] { return session.Trader().Enter(frame, *control); }), *control);
+  CheckTaken(CallModule([&] { return session.Input().Enter(frame, *control); }), *control);
   answer["focus"] = frame->Focused() == nullptr ? std::string() : frame->Focused()->Name();
 }
 
 void Click(TSession& session, const TArguments& arguments, TAnswerJson& answer) {
   const auto frame = FrameOf(session, arguments);
   auto& control = ControlOf(*frame, arguments);
-  CheckTaken(CallModule([&] { return session.Trader().Click(frame, control); }), control);
+  CheckTaken(CallModule([&] { return session.Input().Click(frame, control); }), control);
   if (const auto* editor = dynamic_cast<const forms::TEditor*>(&control)) {
     answer["selected"] = editor->SelectedText();
   }
@@ -44,7 +44,7 @@ void Pick(TSession& session, const TArguments& arguments, TAnswerJson& /*answer*
   const auto frame = FrameOf(session, arguments);
   auto& control = ControlOf(*frame, arguments);
   const auto index = ItemOf(control, arguments);
-  CheckTaken(CallModule([&] { return session.Trader().Pick(frame, control, index); }), control);
+  CheckTaken(CallModule([&] { return session.Input().Pick(frame, control, index); }), control);
 }
 
 void Dismiss(TSession& session, const TArguments& arguments, TAnswerJson& /*answer*/) {
@@ -52,7 +52,7 @@ void Dismiss(TSession& session, const TArguments& arguments, TAnswerJson& /*answ
   forms::TDialogForm* form = session.Dialogs().Innermost();
   if (form == nullptr) throw ECommandError("no modal dialog is showing");
   if (result == forms::ModalNone) throw ECommandError("'result' must be a number that ends a dialog, not 0");
-  session.Trader().Dismiss(*form, result);
+  session.Input().Dismiss(*form, result);
 }
 
 void CloseForm(TSession& session, const TArguments& arguments, TAnswerJson& /*answer*/) {
@@ -61,7 +61,7 @@ void CloseForm(TSession& session, const TArguments& arguments, TAnswerJson& /*an
   if (form == nullptr || form->Modal() || !form->Showing()) {
     throw ECommandError("'" + arguments.Text("frame") + "' sits in no form that shows beside others");
   }
-  CallModule([&] { session.Trader().Close(*form); });
+  CallModule([&] { session.Input().Close(*form); });
 }
 
 constexpr std::array Commands{
@@ -76,6 +76,6 @@ constexpr std::array Commands{
 
 }  // namespace
 
-std::span<const TCommand> TraderCommands() { return Commands; }
+std::span<const TCommand> InputCommands() { return Commands; }
 
 }  // namespace algo::terminal::drive

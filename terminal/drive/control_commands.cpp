@@ -1,11 +1,11 @@
-// Reading a frame, and changing its controls as the program itself does.
+// Reads the controls of a frame, and sets them as a program does, bypassing keyboard and mouse.
 
 #include <array>
 #include <functional>
 #include <vector>
 
 #include "forms/dialog_form.h"
-#include "terminal/drive/boundary.h"
+#include "terminal/drive/call_module.h"
 #include "terminal/drive/command_table.h"
 #include "terminal/drive/frame_state.h"
 #include "terminal/drive/lookup.h"
@@ -27,14 +27,14 @@ void Read(TSession& session, const TArguments& arguments, TAnswerJson& answer) {
   if (frame->Form() != nullptr) answer["form"] = FormState(*frame->Form());
 }
 
-/// What is assigned: a control, or a group or item of the layout.
+/// The target of an assignment: a control, or a group or item of the layout.
 struct TTarget {
   forms::TControl* control = nullptr;
   forms::TLayoutElement* element = nullptr;
 };
 
 /// Reads one argument and returns the assignment that it asks for. Throws ECommandError for a wrong value;
-/// gives an empty function when the target has nothing of that name.
+/// returns an empty function if the target has nothing of that name.
 using TAssignment = std::function<void()>;
 using TReadAssignment = TAssignment (*)(const TTarget& target, const TCommandJson& value);
 
@@ -140,6 +140,6 @@ constexpr std::array Commands{TCommand{"read", Read}, TCommand{"set", Set}, TCom
 
 }  // namespace
 
-std::span<const TCommand> LookingCommands() { return Commands; }
+std::span<const TCommand> ControlCommands() { return Commands; }
 
 }  // namespace algo::terminal::drive

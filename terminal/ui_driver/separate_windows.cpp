@@ -1,4 +1,4 @@
-#include "terminal/ui_driver/window_stage.h"
+#include "terminal/ui_driver/separate_windows.h"
 
 #include <QApplication>
 #include <QLabel>
@@ -8,36 +8,38 @@
 
 namespace algo::terminal::ui_driver {
 
-struct TWindowStage::TWindow {
-  TWindow(const std::shared_ptr<forms::TFrame>& shown, const render::TEditorAids& aids)
-      : frame(shown.get()), rest(new QLabel(&window)), view(new render::TFrameView(shown, aids, &window)) {
+struct TSeparateWindows::TWindow {
+  TWindow(const std::shared_ptr<forms::TFrame>& shown, const render::TEditorAssist& assist)
+      : frame(shown.get()),
+        focusSink(new QLabel(&window)),
+        view(new render::TFrameView(shown, assist, &window)) {
     auto* column = new QVBoxLayout(&window);
-    column->addWidget(rest);
+    column->addWidget(focusSink);
     column->addWidget(view);
-    rest->setText(render::ToQt(shown->ClassName()));
-    rest->setFocusPolicy(Qt::ClickFocus);
-    window.setWindowTitle(rest->text());
+    focusSink->setText(render::ToQt(shown->ClassName()));
+    focusSink->setFocusPolicy(Qt::ClickFocus);
+    window.setWindowTitle(focusSink->text());
   }
 
   const forms::TFrame* frame;
   QWidget window;
-  QLabel* rest;
+  QLabel* focusSink;
   render::TFrameView* view;
 };
 
-TWindowStage::TWindowStage() = default;
-TWindowStage::~TWindowStage() = default;
+TSeparateWindows::TSeparateWindows() = default;
+TSeparateWindows::~TSeparateWindows() = default;
 
-render::TFrameView& TWindowStage::ViewOf(const std::shared_ptr<forms::TFrame>& frame) {
+render::TFrameView& TSeparateWindows::ViewOf(const std::shared_ptr<forms::TFrame>& frame) {
   Views();
   auto found = std::find_if(FWindows.begin(), FWindows.end(),
                             [&](const auto& window) { return window->frame == frame.get(); });
   if (found == FWindows.end()) {
-    FWindows.push_back(std::make_unique<TWindow>(frame, FAids));
+    FWindows.push_back(std::make_unique<TWindow>(frame, FAssist));
     found = FWindows.end() - 1;
     (*found)->window.show();
     // A window that opens has the focus nowhere in particular, as the frame has.
-    (*found)->rest->setFocus();
+    (*found)->focusSink->setFocus();
   }
   QWidget& window = (*found)->window;
   if (!window.isActiveWindow()) {
@@ -48,13 +50,13 @@ render::TFrameView& TWindowStage::ViewOf(const std::shared_ptr<forms::TFrame>& f
   return *(*found)->view;
 }
 
-QWidget& TWindowStage::RestOf(const render::TFrameView& view) const {
+QWidget& TSeparateWindows::FocusSinkOf(const render::TFrameView& view) const {
   const auto found = std::find_if(FWindows.begin(), FWindows.end(),
                                   [&](const auto& window) { return window->view == &view; });
-  return *(*found)->rest;
+  return *(*found)->focusSink;
 }
 
-std::vector<const render::TFrameView*> TWindowStage::Views() {
+std::vector<const render::TFrameView*> TSeparateWindows::Views() {
   std::erase_if(FWindows, [](const auto& window) { return window->view->Frame() == nullptr; });
   std::vector<const render::TFrameView*> views;
   for (const auto& window : FWindows) views.push_back(window->view);

@@ -1,17 +1,17 @@
 #pragma once
 
-// A trader at a real screen: types, clicks and picks with the key and mouse events of a desktop, and looks
-// after each command whether every widget shows what the form model holds.
+// Plays the trader's input at real widgets: types, clicks and picks with a desktop's key and mouse events,
+// and checks after each command that every widget shows what the form model holds.
 
-#include "terminal/drive/trader.h"
-#include "terminal/ui_driver/stage.h"
+#include "terminal/drive/input_player.h"
+#include "terminal/ui_driver/script_windows.h"
 
 namespace algo::terminal::ui_driver {
 
-class TWidgetTrader final : public drive::TTrader {
+class TWidgetInputPlayer final : public drive::TInputPlayer {
  public:
-  /// `stage` outlives the trader.
-  explicit TWidgetTrader(TStage& stage) : FStage(stage) {}
+  /// `windows` outlive the player.
+  explicit TWidgetInputPlayer(TScriptWindows& windows) : FWindows(windows) {}
 
   forms::TInputResult Type(const TFramePointer& frame, forms::TControl& control,
                            std::string_view text) override;
@@ -20,11 +20,11 @@ class TWidgetTrader final : public drive::TTrader {
   forms::TInputResult Pick(const TFramePointer& frame, forms::TControl& control, std::int32_t index) override;
   void Leave(const TFramePointer& frame) override;
 
-  /// Throws ECommandError naming the widgets that do not show what their controls hold.
+  /// Throws ECommandError with the widgets that do not show what their controls hold.
   void Settle() override;
 
  private:
-  TStage& FStage;
+  TScriptWindows& FWindows;
 };
 
 }  // namespace algo::terminal::ui_driver

@@ -1,7 +1,7 @@
 #pragma once
 
-// The hand that does what scripts say a trader does. The driver's own works on the form model at once; a
-// terminal with a screen brings one that works its keyboard and mouse.
+// Plays the trader's input that scripts describe. The driver's own player calls the form model directly; a
+// terminal with a screen has one that sends key and mouse events.
 
 #include <cstdint>
 #include <memory>
@@ -12,14 +12,14 @@
 
 namespace algo::terminal::drive {
 
-class TTrader {
+class TInputPlayer {
  public:
   using TFramePointer = std::shared_ptr<forms::TFrame>;
 
-  virtual ~TTrader();
+  virtual ~TInputPlayer();
 
-  // What each does, and what it answers, is what the operation of the frame that it is named after does and
-  // answers.
+  // Each does and returns what the frame's operation of that name (InputText, InputEnter, …) does and
+  // returns.
   virtual forms::TInputResult Type(const TFramePointer& frame, forms::TControl& control,
                                    std::string_view text);
   virtual forms::TInputResult Enter(const TFramePointer& frame, forms::TControl& control);
@@ -27,16 +27,16 @@ class TTrader {
   virtual forms::TInputResult Pick(const TFramePointer& frame, forms::TControl& control, std::int32_t index);
   virtual void Leave(const TFramePointer& frame);
 
-  /// Closes a form that shows beside the others, by its close box.
+  /// Closes a modeless form by its close box.
   virtual void Close(forms::TDialogForm& form);
   /// Ends a modal form with the result.
   virtual void Dismiss(forms::TDialogForm& form, std::int32_t result);
 
-  /// A modal form is in sight from the first to the second call.
+  /// A modal form is visible from the first to the second call.
   virtual void DialogOpened(forms::TDialogForm& form);
   virtual void DialogDone(forms::TDialogForm& form);
 
-  /// A command was carried out. Throws ECommandError when what is on the screen is not what it should be.
+  /// A command was executed. Throws ECommandError if the screen does not show what it should.
   virtual void Settle();
 };
 

@@ -1,7 +1,7 @@
 #pragma once
 
-// Calls into the module. A module lets no exception out; one that comes out all the same is the module's
-// fault, and the answer says so.
+// Calls into the module. A module must not let an exception out; if one comes out nevertheless, the answer
+// says that the module is at fault.
 
 #include <exception>
 #include <string>
@@ -11,8 +11,7 @@
 
 namespace algo::terminal::drive {
 
-/// Runs `call`, which leads into the module, and returns what it returns. Throws ECommandError for whatever
-/// comes out.
+/// Runs `call`, which calls into the module, and returns its result. Throws ECommandError for any exception.
 template <class TCall>
 decltype(auto) CallModule(TCall&& call) {
   const std::string crossed = "exception crossed the boundary: ";

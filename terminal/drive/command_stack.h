@@ -1,0 +1,50 @@
+#pragma once
+
+// The commands that are running: one, or several while dialogs are open, since the commands that are executed
+// in a dialog run inside the command that opened it. Events belong to the innermost command.
+
+#include <string>
+#include <utility>
+#include <vector>
+
+#include "terminal/drive/json.h"
+
+namespace algo::terminal::drive {
+
+/// One command that is running.
+struct TRunningCommand {
+  std::vector<const TCommandJson*>
+      dialogScripts;  ///< the commands for each dialog that opens, first dialog first
+  std::size_t dialogsOpened = 0;
+  TAnswerJson events = TAnswerJson::array();
+  TAnswerJson dialogs = TAnswerJson::array();  ///< the dialogs that have closed, for the answer
+  std::string violation;                       ///< the first contract violation; empty while there is none
+};
+
+class TCommandStack {
+ public:
+  /// Puts a command on top for the lifetime of the object.
+  class TPush {
+   public:
+    TPush(TCommandStack& stack, TRunningCommand& command) : FStack(stack) {
+      FStack.FCommands.push_back(&command);
+    }
+    ~TPush() { FStack.FCommands.pop_back(); }
+    TPush(const TPush&) = delete;
+    TPush& operator=(const TPush&) = delete;
+
+   private:
+    TCommandStack& FStack;
+  };
+
+  /// The innermost command. Between commands, and at the end of the script, it is one that nobody asks.
+  TRunningCommand& Current() { return FCommands.empty() ? FNone : *FCommands.back(); }
+
+  void AddEvent(TAnswerJson event) { Current().events.push_back(std::move(event)); }
+
+ private:
+  std::vector<TRunningCommand*> FCommands;
+  TRunningCommand FNone;
+};
+
+}  // namespace algo::terminal::drive
