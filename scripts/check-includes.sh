@@ -1,11 +1,19 @@
 #!/usr/bin/env bash
-# Fails on an include that goes against the arrows between the folders, and names file, line and rule.
+# Fails on an include that goes against the arrows between the folders, and names file, line and rule. Fails as well on
+# an arrow that no include uses.
 #
-#   scripts/check-includes.sh [ROOT]    (this project unless given)
+#   scripts/check-includes.sh [--part] [ROOT]    (this project unless given)
+#
+#   --part    ROOT has some of the folders only, so that arrows may be unused
 #
 # A folder may include its own headers and those of the folders in its row. Includes are written from the root of the
 # project. The folders of the module moreover take from outside nothing but the standard library.
 set -euo pipefail
+part=
+if [[ ${1:-} == --part ]]; then
+  part=1
+  shift
+fi
 root=${1:-$(dirname "${BASH_SOURCE[0]}")/..}
 cd "$root"
 
@@ -18,15 +26,15 @@ plugin/host_contract/checks -> forms plugin/host_contract
 views/boundary              -> plugin/host_contract
 views/entry                 -> text model forms plugin/host_contract views/boundary
 views/change                -> text model forms plugin/host_contract views/entry
-views/work                  -> text model forms plugin/host_contract views/entry views/change
-plugin                      -> text forms plugin/host_contract views/boundary views/entry views/change views/work
+views/work                  -> text model forms plugin/host_contract views/change
+plugin                      -> plugin/host_contract views/boundary views/entry views/change views/work
 terminal/host               -> text forms plugin/host_contract
 terminal/drive              -> text forms plugin/host_contract terminal/host plugin/host_contract/checks
-terminal/report             -> text forms plugin/host_contract terminal/host
-terminal/storage            -> text forms plugin/host_contract terminal/host
-terminal/paper              -> text forms plugin/host_contract terminal/host
+terminal/report             -> text
+terminal/storage            -> text plugin/host_contract terminal/host
+terminal/paper              -> text plugin/host_contract terminal/host
 terminal/render             -> text forms
-terminal/ui_driver          -> text forms plugin/host_contract terminal/host terminal/drive terminal/render
+terminal/ui_driver          -> forms terminal/drive terminal/render
 terminal/desk/appearance    -> forms plugin/host_contract terminal/host terminal/render
 terminal/desk/session       -> text plugin/host_contract terminal/host terminal/storage terminal/paper terminal/render terminal/drive terminal/desk/appearance
 terminal/desk/panels        -> text terminal/render terminal/desk/appearance
@@ -51,7 +59,7 @@ if [[ ${#files[@]} -eq 0 ]]; then
   exit 1
 fi
 
-ARROWS=$arrows awk '
+ARROWS=$arrows PART=$part awk '
   BEGIN {
     rows = split(ENVIRON["ARROWS"], lines, "\n")
     for (i = 1; i <= rows; i++) {
@@ -60,6 +68,7 @@ ARROWS=$arrows awk '
       rule[words[1]] = count > 2 ? "" : "nothing"
       for (j = 3; j <= count; j++) {
         allowed[words[1], words[j]] = 1
+        arrows[++arrowCount] = words[1] SUBSEP words[j]
         rule[words[1]] = rule[words[1]] (j > 3 ? ", " : "") words[j]
       }
     }
@@ -95,6 +104,7 @@ ARROWS=$arrows awk '
       } else if (target != folder && !((folder, target) in allowed)) {
         Complain(folder " may not include " target " (allowed: " rule[folder] ")")
       }
+      used[folder, target] = 1
     } else if (mark == "<") {
       if (folder !~ /^terminal\// && rest !~ /^<[a-z_]+>/) {
         Complain("the module includes the standard library alone, not " rest)
@@ -105,10 +115,14 @@ ARROWS=$arrows awk '
   }
 
   END {
-    if (bad) {
-      printf "check-includes: %d forbidden\n", bad
-      exit 1
+    if (bad) printf "check-includes: %d forbidden\n", bad
+    for (i = 1; i <= arrowCount && !ENVIRON["PART"]; i++) {
+      if (arrows[i] in used) continue
+      split(arrows[i], ends, SUBSEP)
+      printf "check-includes: no include uses the arrow %s -> %s\n", ends[1], ends[2]
+      unused++
     }
+    if (bad || unused) exit 1
   }
 ' "${files[@]}" >&2
 

@@ -9,7 +9,7 @@ set -euo pipefail
 
 build=(g++ binutils cmake ninja-build ccache nlohmann-json3-dev libcli11-dev libgtest-dev libbenchmark-dev
   qt6-base-dev qt6-tools-dev libqt6opengl6-dev libsqlite3-dev fonts-dejavu-core fonts-droid-fallback
-  xvfb xauth xdotool openbox sqlite3)
+  xvfb xauth xdotool openbox sqlite3 python3)
 check=(clang clang-format clang-tidy git)
 fuzz=(clang libclang-rt-14-dev)
 coverage=(python3)

@@ -1,17 +1,23 @@
 #!/usr/bin/env bash
-# Plants includes in a scratch tree and sees that check-includes refuses the forbidden ones and no other.
+# Plants includes in a scratch tree and sees that check-includes refuses the forbidden ones and no other, and that it
+# names the arrows that no include uses.
 set -euo pipefail
 scripts=$(cd "$(dirname "${BASH_SOURCE[0]}")" && pwd)
 scratch=$(mktemp -d)
 trap 'rm -rf "$scratch"' EXIT
 failures=0
 
-# check FILE INCLUDE: the status of check-includes for a tree of that one file.
-check() {
+# plant FILE INCLUDE: makes the scratch tree have that one file.
+plant() {
   rm -rf "${scratch:?}"/*
   mkdir -p "$scratch/$(dirname "$1")"
   printf '#pragma once\n#include %s\n' "$2" >"$scratch/$1"
-  "$scripts/check-includes.sh" "$scratch" >"$scratch/log" 2>&1
+}
+
+# check FILE INCLUDE: the status of check-includes for a tree of that one file.
+check() {
+  plant "$1" "$2"
+  "$scripts/check-includes.sh" --part "$scratch" >"$scratch/log" 2>&1
 }
 
 allows() {
@@ -75,7 +81,22 @@ refuses model/a.cpp '<unistd.h>'
 refuses model/a.cpp 'HEADER'
 refuses views/entry/deep/a.cpp '"terminal/host/b.h"'
 
+# Every arrow but the one that the file uses is reported.
+plant model/a.cpp '"text/b.h"'
+if "$scripts/check-includes.sh" "$scratch" >"$scratch/log" 2>&1; then
+  echo "should be refused: arrows that no include uses" >&2
+  failures=$((failures + 1))
+fi
+if ! grep -qxF 'check-includes: no include uses the arrow forms -> text' "$scratch/log"; then
+  echo "does not name an arrow that no include uses" >&2
+  failures=$((failures + 1))
+fi
+if grep -qF 'model -> text' "$scratch/log"; then
+  echo "names an arrow that an include uses" >&2
+  failures=$((failures + 1))
+fi
+
 if [[ $failures -ne 0 ]]; then
   exit 1
 fi
-echo "test-check-includes: forbidden includes are refused, allowed ones pass"
+echo "test-check-includes: forbidden includes and unused arrows are refused, allowed includes pass"
