@@ -36,7 +36,16 @@ terminal/storage            -> text plugin/host_contract terminal/host
 terminal/paper              -> text plugin/host_contract terminal/host
 terminal/render             -> forms
 terminal/ui_driver          -> forms terminal/drive terminal/render
-terminal/desk               -> text forms plugin/host_contract terminal/host terminal/storage terminal/paper terminal/render terminal/drive terminal/ui_driver
+terminal/desk/appearance    -> forms plugin/host_contract terminal/host terminal/render
+terminal/desk/session       -> text plugin/host_contract terminal/host terminal/storage terminal/paper terminal/render terminal/drive terminal/desk/appearance
+terminal/desk/panels        -> text terminal/render terminal/desk/appearance
+terminal/desk/market        -> text plugin/host_contract terminal/paper terminal/render terminal/desk/appearance terminal/desk/session terminal/desk/panels
+terminal/desk/orders        -> text plugin/host_contract terminal/host terminal/render terminal/desk/appearance terminal/desk/panels
+terminal/desk/settings      -> plugin/host_contract terminal/host terminal/render terminal/desk/appearance
+terminal/desk/frames        -> forms terminal/render terminal/desk/session terminal/desk/panels
+terminal/desk/window        -> plugin/host_contract terminal/render terminal/desk/appearance terminal/desk/session terminal/desk/panels terminal/desk/market terminal/desk/orders terminal/desk/settings terminal/desk/frames
+terminal/desk/script        -> text forms plugin/host_contract terminal/render terminal/drive terminal/ui_driver terminal/desk/appearance terminal/desk/session terminal/desk/frames terminal/desk/window
+terminal/desk               -> terminal/desk/session terminal/desk/window
 '
 
 mapfile -t files < <(

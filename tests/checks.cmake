@@ -13,3 +13,7 @@ if(TARGET algo_order_entry)
   add_test(NAME "the module exports one symbol"
     COMMAND "${scripts}/check-module-exports.sh" "${CMAKE_NM}" $<TARGET_FILE:algo_order_entry>)
 endif()
+
+# Qt Test belongs to the program that plays scripts.
+add_test(NAME "the desktop is linked without Qt Test" COMMAND ldd $<TARGET_FILE:algo-desk>)
+set_tests_properties("the desktop is linked without Qt Test" PROPERTIES FAIL_REGULAR_EXPRESSION "Qt6Test")

@@ -32,6 +32,8 @@ struct TProfile {
 
 /// The grid that the editors of prices, or of quantities, step along for a symbol; empty where none is known.
 using TStepGridOf = std::function<forms::TStepGrid(std::string_view symbol)>;
+/// The section of the settings of the whole terminal.
+inline constexpr std::string_view PlatformSection = "VANTORIX_PLATFORM";
 
 struct THostData {
   std::string section = "USER";  ///< the section of the user's own settings

@@ -1,6 +1,7 @@
 #pragma once
 
-// The help that the terminal gives with typing: matching accounts and symbols. The terminal knows from its editor service what a control is for; the renderer does not know.
+// The help that the terminal gives with typing: matching accounts and symbols. The terminal knows from its
+// editor service what a control is for; the renderer does not know.
 
 #include <string>
 #include <string_view>

@@ -4,6 +4,7 @@
 #include <QComboBox>
 #include <QLabel>
 
+#include "tests/terminal/render/paint_count.h"
 #include "tests/terminal/render/rendered_form.h"
 
 namespace algo::terminal::render {
@@ -143,18 +144,9 @@ TEST_F(TShownForm, AHiddenGroupTakesNoRoomAndAMovedOneStandsInItsNewPlace) {
   EXPECT_TRUE(ui_driver::DifferencesOf(*view).isEmpty());
 }
 
-class TPaints final : public QObject {
- public:
-  bool eventFilter(QObject* /*watched*/, QEvent* event) override {
-    if (event->type() == QEvent::Paint) ++count;
-    return false;
-  }
-  int count = 0;
-};
-
 TEST_F(TShownForm, AChangeOfManyThingsIsPaintedOnce) {
   QApplication::processEvents();
-  TPaints paints;
+  terminal::tests::TPaintCount paints;
   view->installEventFilter(&paints);
   {
     const forms::TLayoutUpdate update(frame->Layout());

@@ -1,41 +1,17 @@
 // What happens to orders when the disk is full.
 
-#include <sys/resource.h>
-
-#include <csignal>
-
 #include "plugin/host_contract/config_manager.h"
 #include "plugin/host_contract/order_action_manager.h"
 #include "terminal/host/memory_host.h"
 #include "terminal/storage/connection.h"
 #include "terminal/storage/order_rows.h"
 #include "terminal/storage/schema.h"
+#include "tests/terminal/file_size_limit.h"
 #include "tests/terminal/host/event_notes.h"
 #include "tests/terminal/storage/storage_fixture.h"
 
 namespace algo::terminal::storage::tests {
 namespace {
-
-/// During its lifetime no file of this process grows beyond that size.
-class TFileSizeLimit {
- public:
-  explicit TFileSizeLimit(std::uintmax_t bytes) : FHandler(std::signal(SIGXFSZ, SIG_IGN)) {
-    getrlimit(RLIMIT_FSIZE, &FBefore);
-    rlimit limit = FBefore;
-    limit.rlim_cur = bytes;
-    if (setrlimit(RLIMIT_FSIZE, &limit) != 0) throw std::runtime_error("setrlimit");
-  }
-  ~TFileSizeLimit() {
-    setrlimit(RLIMIT_FSIZE, &FBefore);
-    std::signal(SIGXFSZ, FHandler);
-  }
-  TFileSizeLimit(const TFileSizeLimit&) = delete;
-  TFileSizeLimit& operator=(const TFileSizeLimit&) = delete;
-
- private:
-  void (*FHandler)(int);
-  rlimit FBefore{};
-};
 
 struct TFailingDisk : TStorageTest {
   TFailingDisk() {
@@ -47,7 +23,7 @@ struct TFailingDisk : TStorageTest {
     return host::TCustomOrderActionManager::GetInstance().TakeAction(nullptr, &order, action, 1);
   }
   std::string Failure(host::TOrderAction action) {
-    const TFileSizeLimit limit(std::filesystem::file_size(file + "-wal") + 100);
+    const terminal::tests::TFileSizeLimit limit(std::filesystem::file_size(file + "-wal") + 100);
     return MessageOf([&] { Take(action); });
   }
 
@@ -99,7 +75,7 @@ TEST_F(TFailingDisk, ASettingThatCannotBeStoredIsNotSet) {
   auto& config = host::TCustomConfigManager::GetInstance();
   config.Store("USER", "ClearOrd", "Y", true);
   {
-    const TFileSizeLimit limit(std::filesystem::file_size(file + "-wal"));
+    const terminal::tests::TFileSizeLimit limit(std::filesystem::file_size(file + "-wal"));
     EXPECT_TRUE(MessageOf([&] { config.Store("USER", "ClearOrd", "N", true); }).starts_with(expected));
     EXPECT_TRUE(MessageOf([&] { storage->StoreWorkspace("day", "one"); }).starts_with(expected));
   }
