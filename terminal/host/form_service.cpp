@@ -25,7 +25,7 @@ void TMemoryForm::Hidden() {
 
 void TMemoryForm::BroughtToFront() { FEvents.FormBroughtToFront(*this); }
 
-void TMemoryForm::AppearanceChanged() { FEvents.FormLooksChanged(*this); }
+void TMemoryForm::AppearanceChanged() { FEvents.FormAppearanceChanged(*this); }
 
 std::shared_ptr<forms::TDialogForm> TMemoryViewService::MakeDialogForm(host::TIBaseView& /*provider*/) {
   FHost.Check("form.make");

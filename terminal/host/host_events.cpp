@@ -11,6 +11,6 @@ std::string_view NameOf(TEditorKind kind) {
 
 THostEvents::~THostEvents() = default;
 
-void THostEvents::FormLooksChanged(forms::TDialogForm& /*form*/) {}
+void THostEvents::FormAppearanceChanged(forms::TDialogForm& /*form*/) {}
 
 }  // namespace algo::terminal

@@ -254,6 +254,23 @@ TEST(AlgoRules, TellTheFirstBrokenRuleAlone) {
   }
 }
 
+TEST(AlgoRules, CanIncludeTheirUpperLimit) {
+  const TAlgoRow row{
+      .code = "SAMPLE",
+      .resourceId = "Res_Sample",
+      .rules = {{VolPct, {TComparison::AtMost, 0}, TTest{TComparison::Above, 50}, "Res_Refused"}}};
+  const auto refuses = [&row](std::optional<double> value) {
+    TParamValues values;
+    values.SetNumber(VolPct, value);
+    return CheckAlgoRules(row, values).has_value();
+  };
+  EXPECT_TRUE(refuses(0));
+  EXPECT_FALSE(refuses(0.01));
+  EXPECT_FALSE(refuses(50));
+  EXPECT_TRUE(refuses(50.01));
+  EXPECT_FALSE(refuses(std::nullopt));
+}
+
 TEST(AlgoRules, AreAllTestedHere) {
   std::size_t rules = 0;
   for (const TAlgoRow& row : AlgoRows()) rules += row.rules.size();

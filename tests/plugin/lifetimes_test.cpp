@@ -88,7 +88,7 @@ TEST_F(Lifetimes, AnEntryViewMayBeClosedWhileItsConfirmationShows) {
     for (const bool kept : {false, true}) {
       auto& entry = OpenFilled();
       const auto handle = host::HandleOf(entry);
-      const auto keeper = kept ? Provider().FindView(handle) : nullptr;
+      const auto held = kept ? Provider().FindView(handle) : nullptr;
       InDialogs({[&](forms::TDialogForm& form) {
         Provider().CloseInstance(handle);
         EXPECT_FALSE(Provider().ContainView(handle));
@@ -100,7 +100,7 @@ TEST_F(Lifetimes, AnEntryViewMayBeClosedWhileItsConfirmationShows) {
       EXPECT_EQ(LeftBehind().subscriptions, 0U);
       EXPECT_EQ(LeftBehind().configListeners, 1U);
       if (kept) {
-        EXPECT_EQ(Named(*keeper, "edtQty").Text(), "800");
+        EXPECT_EQ(Named(*held, "edtQty").Text(), "800");
       }
     }
   }

@@ -16,8 +16,8 @@ void TAlgoOrderEntryFrame::btnWorkClick() {
 }
 
 bool TAlgoOrderEntryFrame::GetWorkOrder(host::TCustomClientOrder& order) {
-  if (const auto complaint = CheckCommon()) {
-    Tell(*complaint);
+  if (const auto failure = CheckCommon()) {
+    Tell(*failure);
     return false;
   }
   FillCommonFields(order);

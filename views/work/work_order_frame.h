@@ -23,7 +23,7 @@ class TAlgoWorkOrderFrame : public TAlgoOrderChangeFrame {
  public:
   TAlgoWorkOrderFrame();
 
-  /// Loads the parent. Throws what loading throws; the order is used until LetGoOfOrder.
+  /// Loads the parent. Throws what loading throws; the order is used until ReleaseOrder.
   void WorkOrder(host::TCustomClientOrder* order);
 
   /// Runs after the algorithm was changed, and with it the size of the form.

@@ -27,7 +27,7 @@ class TDeskEvents::TReceiver final : public THostEvents {
   void FormShown(forms::TDialogForm& form) override { emit FEvents.FormShown(form); }
   void FormBroughtToFront(forms::TDialogForm& form) override { emit FEvents.FormBroughtToFront(form); }
   void FormClosed(forms::TDialogForm& form) override { emit FEvents.FormClosed(form); }
-  void FormLooksChanged(forms::TDialogForm& form) override { emit FEvents.FormLooksChanged(form); }
+  void FormAppearanceChanged(forms::TDialogForm& form) override { emit FEvents.FormAppearanceChanged(form); }
   void RunModal(forms::TDialogForm& form) override {
     emit FEvents.ModalFormShown(form);
     // A question that nobody showed counts as answered with no.

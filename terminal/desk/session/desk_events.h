@@ -48,7 +48,7 @@ class TDeskEvents final : public QObject {
   void FormShown(forms::TDialogForm& form);
   void FormBroughtToFront(forms::TDialogForm& form);
   void FormClosed(forms::TDialogForm& form);
-  void FormLooksChanged(forms::TDialogForm& form);
+  void FormAppearanceChanged(forms::TDialogForm& form);
   /// The receiver shows the form until it has a modal result.
   void ModalFormShown(forms::TDialogForm& form);
 

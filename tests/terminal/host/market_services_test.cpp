@@ -15,9 +15,9 @@ struct TMarketTest : testing::Test {
   void Listen(host::TMarketDataItem* item) {
     subscriptions.AddListener(
         item,
-        [this, item](const void* /*sender*/, const host::TItemDictionary* news) {
-          ASSERT_EQ(news->Count(), 1U);
-          const auto* found = news->Find(item->Symbol());
+        [this, item](const void* /*sender*/, const host::TItemDictionary* items) {
+          ASSERT_EQ(items->Count(), 1U);
+          const auto* found = items->Find(item->Symbol());
           notified.emplace_back(found == nullptr ? "others" : std::string(found->FieldText(3)));
         },
         &owner);
@@ -89,7 +89,7 @@ TEST_F(TMarketTest, AListenerMayUnsubscribeWhileItIsTold) {
   auto* item = subscriptions.Subscribe("S", "PRCDDS", true);
   subscriptions.AddListener(
       item,
-      [&](const void* /*sender*/, const host::TItemDictionary* /*news*/) {
+      [&](const void* /*sender*/, const host::TItemDictionary* /*items*/) {
         notified.emplace_back("notified");
         subscriptions.Unsubscribe(item, &owner);
       },

@@ -6,23 +6,10 @@
 #include "terminal/desk/session/desk_events.h"
 #include "terminal/host/memory_host.h"
 #include "tests/terminal/desk/desk_fixture.h"
+#include "tests/terminal/desk/sample_tables.h"
 
 namespace algo::terminal::desk::tests {
 namespace {
-
-paper::TMarketTables SteppingTables() {
-  paper::TMarketTables tables;
-  tables.spreads["01"] = {{0, 0.001}, {0.25, 0.005}, {20, 0.05}, {100, 0.1}};
-  auto& bank = tables.instruments.emplace_back();
-  bank.symbol = "0005";
-  bank.lot = 400;
-  bank.spreadCode = "01";
-  auto& unit = tables.instruments.emplace_back(bank);
-  unit.symbol = "1050";
-  unit.lot = 10;
-  unit.multiplier = 0.001;
-  return tables;
-}
 
 struct TStepGridsTest : testing::Test {
   TStepGridsTest() {
@@ -45,7 +32,7 @@ struct TStepGridsTest : testing::Test {
     return editor.Text();
   }
 
-  paper::TMarketTables tables = SteppingTables();
+  paper::TMarketTables tables = SampleTables();
   TDeskEvents events;
   TMemoryHost host{events.Receiver()};
   forms::TFrame frame{"TFrame", "layout"};
