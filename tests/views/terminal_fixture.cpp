@@ -28,7 +28,8 @@ std::string KindName(TEditorKind kind) {
 }  // namespace
 
 TTerminalTest::TTerminalTest()
-    : FHost(std::make_unique<terminal::TMemoryHost>(*this)), FStrict(std::make_unique<host::checks::TStrictHost>()) {
+    : FHost(std::make_unique<terminal::TMemoryHost>(*this)),
+      FStrict(std::make_unique<host::checks::TStrictHost>()) {
   FStrict->OnViolation([this](const std::string& what) {
     FViolations.push_back(what);
     throw std::logic_error("contract violated: " + what);

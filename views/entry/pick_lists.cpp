@@ -70,9 +70,7 @@ class TAlgoOrderEntryFrame::TRefill {
   TAlgoOrderEntryFrame& FFrame;
 };
 
-std::string TAlgoOrderEntryFrame::GetResource(std::string_view id) const {
-  return host::ResourceText(id);
-}
+std::string TAlgoOrderEntryFrame::GetResource(std::string_view id) const { return host::ResourceText(id); }
 
 auto TAlgoOrderEntryFrame::Chosen() const -> TChosen {
   return {EntryOf(FAlgoExchList, Combo(TField::cmbExch).Index()),
