@@ -1,8 +1,8 @@
 #pragma once
 
 // Registering with the host's services so that nothing stays registered: each function registers one thing
-// and returns the object that takes it back. A handler is dead from then on, also where the service failed at
-// taking it back and goes on calling it. What a service throws while it registers runs on to the caller, with
+// and returns the object that takes it back. A handler is not called any more from then on, also where the
+// service failed at taking it back. What a service throws while it registers runs on to the caller, with
 // nothing registered.
 
 #include <cstdint>

@@ -98,11 +98,11 @@ class TStubbornSkins final : public TCustomLookAndFeelService {
 class StubbornHostTest : public testing::Test {
  protected:
   TRegistration Listen() {
-    return ListenToSkins([this](std::string_view skin) { heard.emplace_back(skin); }, this);
+    return ListenToSkins([this](std::string_view skin) { received.emplace_back(skin); }, this);
   }
 
   TInstalledService<TStubbornSkins> skins;
-  std::vector<std::string> heard;
+  std::vector<std::string> received;
 };
 
 TEST_F(StubbornHostTest, AHandlerIsCalledWithWhatTheHostSendsUntilItIsTakenBack) {
@@ -110,45 +110,45 @@ TEST_F(StubbornHostTest, AHandlerIsCalledWithWhatTheHostSendsUntilItIsTakenBack)
   skins->kept("Dark");
   registration.Release();
   skins->kept("Light");
-  EXPECT_EQ(heard, std::vector<std::string>{"Dark"});
+  EXPECT_EQ(received, std::vector<std::string>{"Dark"});
   EXPECT_EQ(skins->keptFor, this);
   EXPECT_EQ(skins->removedFor, this);
 }
 
-TEST_F(StubbornHostTest, AHandlerIsDeadAlsoWhenTheHostFailsAtTakingItBack) {
+TEST_F(StubbornHostTest, AHandlerIsNotCalledAnyMoreAlsoWhenTheHostFailsAtTakingItBack) {
   skins->fails = true;
   TRegistration registration = Listen();
   EXPECT_THROW(registration.Release(), std::runtime_error);
   skins->kept("Light");
-  EXPECT_TRUE(heard.empty());
+  EXPECT_TRUE(received.empty());
 }
 
-TEST_F(StubbornHostTest, AHandlerIsDeadWhileItIsTakenBack) {
+TEST_F(StubbornHostTest, AHandlerIsNotCalledWhileItIsTakenBack) {
   skins->meanwhile = [this] { skins->kept("Light"); };
   TRegistration registration = Listen();
   registration.Release();
-  EXPECT_TRUE(heard.empty());
+  EXPECT_TRUE(received.empty());
 }
 
-TEST_F(StubbornHostTest, AHandlerLivesOnWithTheObjectToWhichItsRegistrationWasHandedOn) {
+TEST_F(StubbornHostTest, AHandlerIsCalledAsLongAsTheObjectToWhichItsRegistrationWasHandedOnLives) {
   TRegistration first = Listen();
   const TRegistration second = std::move(first);
   skins->kept("Dark");
-  EXPECT_EQ(heard, std::vector<std::string>{"Dark"});
+  EXPECT_EQ(received, std::vector<std::string>{"Dark"});
 }
 
 TEST_F(StubbornHostTest, AnOwnerThatIsGoneIsNotCalledByAHostThatFailedAtTakingItsHandlerBack) {
   struct TOwnerOfOne {
-    std::vector<std::string>& heard;
-    TRegistration registration =
-        ListenToSkins([this](std::string_view skin) { heard.emplace_back(skin); }, this);
+    explicit TOwnerOfOne(std::vector<std::string>& log)
+        : registration(ListenToSkins([&log](std::string_view skin) { log.emplace_back(skin); }, this)) {}
+    TRegistration registration;
   };
   skins->fails = true;
-  std::optional<TOwnerOfOne> owner(std::in_place, heard);
+  std::optional<TOwnerOfOne> owner(std::in_place, received);
   skins->kept("Dark");
   owner.reset();
   skins->kept("Light");
-  EXPECT_EQ(heard, std::vector<std::string>{"Dark"});
+  EXPECT_EQ(received, std::vector<std::string>{"Dark"});
 }
 
 TEST(Listen, ARegistrationThatOutlivesTheHostSaysSoOnceAndIsEmpty) {
