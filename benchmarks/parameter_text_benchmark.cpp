@@ -191,9 +191,9 @@ void SplitAndDecode(benchmark::State& state) {
   const std::string text = StraightLine({});
   Measure(state, [&] {
     const auto split = algo::model::SplitText(text);
-    for (const TParam param : algo::model::LoadSteps()) {
-      const auto value = algo::model::PieceValue(split.pieces, algo::model::ParamRow(param).key);
-      if (value) benchmark::DoNotOptimize(algo::model::DecodeValue(param, *value));
+    for (const auto& row : algo::model::ParamRows()) {
+      const auto value = algo::model::PieceValue(split.pieces, row.key);
+      if (value) benchmark::DoNotOptimize(algo::model::DecodeValue(row.param, *value));
     }
   });
 }

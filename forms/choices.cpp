@@ -21,7 +21,7 @@ void TComboBox::Refill(std::vector<std::string> items, std::int32_t index) {
   if (index < -1 || index >= static_cast<std::int32_t>(items.size())) throw EListIndexError(index);
   FItems = std::move(items);
   FIndex = index;
-  LooksChanged();
+  AppearanceChanged();
 }
 
 std::string TComboBox::Text() const {
@@ -41,7 +41,7 @@ TButton::TButton(TFrame& frame, std::string name) : TControl(frame, std::move(na
 
 void TButton::SetColor(std::int32_t slot, TColor color) {
   FColors[slot] = color;
-  LooksChanged();
+  AppearanceChanged();
 }
 
 TSpeedButton::TSpeedButton(TFrame& frame, std::string name, std::int32_t group)
@@ -58,7 +58,7 @@ void TSpeedButton::SetPressed(bool pressed) {
     }
   }
   FPressed = pressed;
-  LooksChanged();
+  AppearanceChanged();
 }
 
 }  // namespace algo::forms

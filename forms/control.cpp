@@ -41,13 +41,13 @@ void TControl::SetVisible(bool visible) {
 void TControl::SetEnabled(bool enabled) {
   if (FEnabled == enabled) return;
   FEnabled = enabled;
-  LooksChanged();
+  AppearanceChanged();
 }
 
 void TControl::SetReadOnly(bool readOnly) {
   if (FReadOnly == readOnly) return;
   FReadOnly = readOnly;
-  LooksChanged();
+  AppearanceChanged();
 }
 
 bool TControl::Showing() const { return FVisible && FItem != nullptr && FItem->Showing(); }
@@ -59,19 +59,19 @@ bool TControl::Focused() const { return FFrame.Focused() == this; }
 void TControl::SetCaption(std::string caption) {
   if (FCaption == caption) return;
   FCaption = std::move(caption);
-  LooksChanged();
+  AppearanceChanged();
 }
 
 void TControl::SetHint(std::string hint) {
   if (FHint == hint) return;
   FHint = std::move(hint);
-  LooksChanged();
+  AppearanceChanged();
 }
 
 void TControl::SetFont(const TFont& font) {
   if (FFont == font) return;
   FFont = font;
-  LooksChanged();
+  AppearanceChanged();
 }
 
 TSize TControl::Size() const {
@@ -92,11 +92,11 @@ void TControl::Commit() {
 }
 
 void TControl::ValueChanged() {
-  LooksChanged();
+  AppearanceChanged();
   Run(OnChange);
 }
 
-void TControl::LooksChanged() { FFrame.TellControlChanged(*this); }
+void TControl::AppearanceChanged() { FFrame.NotifyControlChanged(*this); }
 
 void TControl::Run(const std::function<void()>& handler) {
   if (!handler) return;

@@ -1,7 +1,7 @@
 #pragma once
 
-// What every control of a form has: a name, its looks, its place in the layout, and the moments at which the
-// frame's code runs. The program changes a control through its setters at any time; what the trader does
+// What every control of a form has: a name, its appearance, its place in the layout, and the moments at which
+// the frame's code runs. The program changes a control through its setters at any time; what the trader does
 // comes in through the frame's input operations (see frame.h), which alone look at whether the control takes
 // input.
 
@@ -90,11 +90,11 @@ class ALGO_SHARED TControl {
   /// Makes the value of what was typed; called before the exit handlers.
   virtual void TakeUp() {}
 
-  /// Called by derived classes when the value really changed: tells the observers, then runs OnChange.
+  /// Called by derived classes when the value really changed: notifies the observers, then runs OnChange.
   void ValueChanged();
 
-  /// Tells the observers that the control looks different, with no effect on its value.
-  void LooksChanged();
+  /// Notifies the observers that the control is shown differently now, with no effect on its value.
+  void AppearanceChanged();
 
  private:
   friend class TFrame;

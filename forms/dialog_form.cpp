@@ -15,17 +15,17 @@ TDialogForm::~TDialogForm() {
 
 void TDialogForm::SetCaption(std::string caption) {
   FCaption = std::move(caption);
-  LooksChanged();
+  AppearanceChanged();
 }
 
 void TDialogForm::SetClientSize(const TSize& size) {
   FClientSize = size;
-  LooksChanged();
+  AppearanceChanged();
 }
 
 void TDialogForm::SetStaysOnTop(bool staysOnTop) {
   FStaysOnTop = staysOnTop;
-  LooksChanged();
+  AppearanceChanged();
 }
 
 void TDialogForm::SetFrame(std::shared_ptr<TFrame> frame) {
@@ -60,7 +60,7 @@ void TDialogForm::Hide() {
   Hidden();
 }
 
-void TDialogForm::BringToFront() { CalledToFront(); }
+void TDialogForm::BringToFront() { BroughtToFront(); }
 
 void TDialogForm::Close() {
   const auto alive = weak_from_this().lock();

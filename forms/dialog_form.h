@@ -68,12 +68,12 @@ class ALGO_SHARED TDialogForm : public std::enable_shared_from_this<TDialogForm>
  protected:
   /// Waits, playing the trader's input, until ModalResult is no longer ModalNone.
   virtual void RunModal() = 0;
-  /// The form became visible non-modally, went out of sight, or was called to the front.
+  /// The form became visible non-modally, went out of sight, or was brought to the front.
   virtual void Shown() {}
   virtual void Hidden() {}
-  virtual void CalledToFront() {}
+  virtual void BroughtToFront() {}
   /// Caption, client size or stay-on-top changed.
-  virtual void LooksChanged() {}
+  virtual void AppearanceChanged() {}
   /// The form has closed for good; it may still be held for a while by a handler that runs.
   virtual void Freed() {}
 

@@ -13,7 +13,7 @@ TFrame::TFrame(std::string className, std::string layoutName)
 }
 
 TFrame::~TFrame() {
-  Tell([](TFrameObserver& observer) { observer.FrameGone(); });
+  Notify([](TFrameObserver& observer) { observer.FrameDestroyed(); });
   FLayout.FFrame = nullptr;
 }
 
@@ -27,7 +27,7 @@ void TFrame::SetFocus(TControl* control) {
   if (control == FFocused) return;
   // The focus moves before the exit handler runs: a handler that fails must not trap the trader in the field.
   TControl* left = std::exchange(FFocused, control);
-  Tell([](TFrameObserver& observer) { observer.FocusChanged(); });
+  Notify([](TFrameObserver& observer) { observer.FocusChanged(); });
   if (left == nullptr) return;
   if (auto* editor = dynamic_cast<TEditor*>(left)) editor->MoveCaretToEnd();
   left->Commit();
@@ -36,28 +36,28 @@ void TFrame::SetFocus(TControl* control) {
 void TFrame::AddObserver(TFrameObserver& observer) { FObservers.push_back(&observer); }
 
 void TFrame::RemoveObserver(TFrameObserver& observer) {
-  // Its place stays while observers are told, so that none of the others is passed over.
+  // Its place stays while observers are notified, so that none of the others is passed over.
   std::replace(FObservers.begin(), FObservers.end(), &observer, static_cast<TFrameObserver*>(nullptr));
-  if (FTelling == 0) std::erase(FObservers, nullptr);
+  if (FNotifying == 0) std::erase(FObservers, nullptr);
 }
 
-template <class TTell>
-void TFrame::Tell(TTell&& tell) {
-  ++FTelling;
-  // By index, because an observer may add another while it is told.
+template <class TNotification>
+void TFrame::Notify(TNotification&& notify) {
+  ++FNotifying;
+  // By index, because an observer may add another while it is notified.
   // NOLINTNEXTLINE(modernize-loop-convert)
   for (std::size_t i = 0; i < FObservers.size(); ++i) {
-    if (FObservers[i] != nullptr) tell(*FObservers[i]);
+    if (FObservers[i] != nullptr) notify(*FObservers[i]);
   }
-  if (--FTelling == 0) std::erase(FObservers, nullptr);
+  if (--FNotifying == 0) std::erase(FObservers, nullptr);
 }
 
-void TFrame::TellControlChanged(const TControl& control) {
-  Tell([&control](TFrameObserver& observer) { observer.ControlChanged(control); });
+void TFrame::NotifyControlChanged(const TControl& control) {
+  Notify([&control](TFrameObserver& observer) { observer.ControlChanged(control); });
 }
 
-void TFrame::TellLayoutChanged() {
-  Tell([](TFrameObserver& observer) { observer.LayoutChanged(); });
+void TFrame::NotifyLayoutChanged() {
+  Notify([](TFrameObserver& observer) { observer.LayoutChanged(); });
 }
 
 }  // namespace algo::forms

@@ -5,6 +5,7 @@
 // the focus (the control that had it is left), then act. Renderers observe the frame and feed back what the
 // trader does.
 
+#include <chrono>
 #include <cstdint>
 #include <functional>
 #include <memory>
@@ -15,35 +16,16 @@
 
 #include "forms/choices.h"
 #include "forms/control.h"
-#include "forms/editors.h"
+#include "forms/date_edit.h"
+#include "forms/frame_observer.h"
+#include "forms/input_result.h"
 #include "forms/layout.h"
+#include "forms/spin_edit.h"
+#include "forms/text_edit.h"
 
 namespace algo::forms {
 
 class TDialogForm;
-
-/// What a renderer is told. The frame is unchanged by being observed; an observer must not throw.
-class ALGO_SHARED TFrameObserver {
- public:
-  virtual ~TFrameObserver();
-  /// Value or looks of one control changed.
-  virtual void ControlChanged(const TControl& control) = 0;
-  /// What is shown, or where, changed; sent once for each outermost layout update.
-  virtual void LayoutChanged() = 0;
-  virtual void FocusChanged() = 0;
-  /// The frame is going; nothing of it may be touched any more, not even to take the observer off.
-  virtual void FrameGone() {}
-};
-
-/// What became of an input of the trader.
-enum class TInputResult : std::uint8_t {
-  Taken,
-  Hidden,      ///< the control, or a layout parent of it, is not shown
-  Disabled,    ///< the control, or a layout parent of it, is disabled
-  ReadOnly,    ///< the control can be looked at but not changed
-  Unsuited,    ///< this kind of control takes no such input
-  OutOfRange,  ///< the list has no such item
-};
 
 class ALGO_SHARED TFrame : public std::enable_shared_from_this<TFrame> {
  public:
@@ -88,23 +70,34 @@ class ALGO_SHARED TFrame : public std::enable_shared_from_this<TFrame> {
   /// The editor holds `text` now, as a renderer with a caret of its own has it: keys were put in or taken out
   /// anywhere. Unsuited, with no effect, when the editor does not accept the text.
   TInputResult InputTyped(TControl& control, std::string_view text);
-  /// The focus comes to the control by key.
-  TInputResult InputFocus(TControl& control);
+  /// The focus comes to the control without a click; what happens to an editor's selection depends on how it
+  /// comes.
+  TInputResult InputFocus(TControl& control, TFocusCause cause);
   /// Takes the focus out of the frame.
   void InputLeave();
   /// Enter in the control, which gets the focus first. Enter in a button presses it.
   TInputResult InputEnter(TControl& control);
   /// A click: the focus moves, a button is pressed, a check box toggled. In a read-only check box nothing
-  /// more.
+  /// more. In an editor it ends the selection, before the editor's click rule may select the text anew.
   TInputResult InputClick(TControl& control);
   /// Picks the item at `index` of a combo box.
   TInputResult InputPick(TControl& control, std::int32_t index);
+  /// Arrow keys, wheel and spin buttons: steps a spin edit up, or down for a negative count. Starts from what
+  /// stands in the editor, or from 0 where that is nothing, and goes along the editor's grid, else by its own
+  /// step. Its bounds stop the steps; from outside of them any step goes to the nearer one. The number stands
+  /// in the editor like one that is typed, selected, until the editor is left.
+  TInputResult InputStep(TControl& control, std::int32_t steps);
+  /// Picks a day of the years 1 to 9999 for a date edit, whose rule says whether the time of day that stands
+  /// there is kept. The date-time stands in the editor like one that is typed, until the editor is left.
+  TInputResult InputPickDay(TControl& control, std::chrono::local_days day);
 
   void AddObserver(TFrameObserver& observer);
   void RemoveObserver(TFrameObserver& observer);
 
   /// Whether the control takes input of the trader at all: Taken, Hidden or Disabled.
   TInputResult TakesInput(const TControl& control) const;
+  /// Whether the trader may change what it holds: as TakesInput, or ReadOnly.
+  TInputResult TakesChange(const TControl& control) const;
 
   /// Gives back everything that the frame holds outside of itself; afterwards nothing from outside reaches it
   /// any more. With no effect the second time.
@@ -123,18 +116,20 @@ class ALGO_SHARED TFrame : public std::enable_shared_from_this<TFrame> {
   friend class TDialogForm;
 
   void Press(TControl& control);
-  void TellControlChanged(const TControl& control);
-  void TellLayoutChanged();
-  template <class TInput>
-  TInputResult Input(TControl& control, TInput&& act);
-  template <class TTell>
-  void Tell(TTell&& tell);
+  void NotifyControlChanged(const TControl& control);
+  void NotifyLayoutChanged();
+  template <class TNotification>
+  void Notify(TNotification&& notify);
+
+  using TCheck = TInputResult (TFrame::*)(const TControl& control) const;
+  template <class TAct>
+  TInputResult Input(TControl& control, TCheck takes, TAct&& act);
 
   std::string FClassName;
   TLayoutControl FLayout;
   std::vector<std::unique_ptr<TControl>> FControls;
-  std::vector<TFrameObserver*> FObservers;  ///< nullptr where one was removed while observers are told
-  std::int32_t FTelling = 0;
+  std::vector<TFrameObserver*> FObservers;  ///< nullptr where one was removed while they are notified
+  std::int32_t FNotifying = 0;
   TControl* FFocused = nullptr;
   TDialogForm* FForm = nullptr;
 };

@@ -6,21 +6,34 @@
 
 namespace algo::forms {
 
+namespace {
+
+// The days that have a text.
+constexpr std::chrono::local_days FirstDay{std::chrono::year(1) / 1 / 1};
+constexpr std::chrono::local_days LastDay{std::chrono::year(9999) / 12 / 31};
+
+}  // namespace
+
 TInputResult TFrame::TakesInput(const TControl& control) const {
   if (!control.Showing()) return TInputResult::Hidden;
   if (!control.CanFocus()) return TInputResult::Disabled;
   return TInputResult::Taken;
 }
 
-template <class TInput>
-TInputResult TFrame::Input(TControl& control, TInput&& act) {
+TInputResult TFrame::TakesChange(const TControl& control) const {
+  const TInputResult result = TakesInput(control);
+  return result == TInputResult::Taken && control.ReadOnly() ? TInputResult::ReadOnly : result;
+}
+
+template <class TAct>
+TInputResult TFrame::Input(TControl& control, TCheck takes, TAct&& act) {
   const auto alive = KeepAlive();
-  TInputResult result = TakesInput(control);
+  TInputResult result = (this->*takes)(control);
   if (result != TInputResult::Taken) return result;
   const auto whole = [&] {
     SetFocus(&control);
     // Leaving the former control may have locked or hidden this one.
-    result = TakesInput(control);
+    result = (this->*takes)(control);
     if (result == TInputResult::Taken) act();
   };
   RunInput(std::ref(whole));
@@ -30,31 +43,31 @@ TInputResult TFrame::Input(TControl& control, TInput&& act) {
 TInputResult TFrame::InputText(TControl& control, std::string_view text) {
   auto* editor = dynamic_cast<TEditor*>(&control);
   if (editor == nullptr) return TInputResult::Unsuited;
-  if (control.Showing() && control.CanFocus() && control.ReadOnly()) return TInputResult::ReadOnly;
-  return Input(control, [&] {
+  return Input(control, &TFrame::TakesChange, [&] {
     std::string typed;
-    editor->FAllSelected = false;
-    if (text.empty()) editor->SetTyped(typed);
     for (const char key : text) {
-      if (!editor->Accepts(typed, key)) continue;
-      typed += key;
-      editor->SetTyped(typed);
+      if (editor->Accepts(typed, key)) typed += key;
     }
+    editor->FAllSelected = false;
+    if (text.empty() || !typed.empty()) editor->KeyIn(std::move(typed));
   });
 }
 
 TInputResult TFrame::InputTyped(TControl& control, std::string_view text) {
   auto* editor = dynamic_cast<TEditor*>(&control);
   if (editor == nullptr || !editor->AcceptsText(text)) return TInputResult::Unsuited;
-  if (control.Showing() && control.CanFocus() && control.ReadOnly()) return TInputResult::ReadOnly;
-  return Input(control, [&] {
+  return Input(control, &TFrame::TakesChange, [&] {
     editor->FAllSelected = false;
     if (editor->Text() != text) editor->SetTyped(std::string(text));
   });
 }
 
-TInputResult TFrame::InputFocus(TControl& control) {
-  return Input(control, [] {});
+TInputResult TFrame::InputFocus(TControl& control, TFocusCause cause) {
+  return Input(control, &TFrame::TakesInput, [&] {
+    auto* editor = dynamic_cast<TEditor*>(&control);
+    const bool selects = cause == TFocusCause::Tab && control.Focused();
+    if (editor != nullptr && selects && !editor->Text().empty()) editor->SelectAll();
+  });
 }
 
 void TFrame::InputLeave() {
@@ -63,7 +76,7 @@ void TFrame::InputLeave() {
 }
 
 TInputResult TFrame::InputEnter(TControl& control) {
-  return Input(control, [&] {
+  return Input(control, &TFrame::TakesInput, [&] {
     if (control.Kind() == TControlKind::Button) {
       Press(control);
     } else {
@@ -73,7 +86,7 @@ TInputResult TFrame::InputEnter(TControl& control) {
 }
 
 TInputResult TFrame::InputClick(TControl& control) {
-  return Input(control, [&] { Press(control); });
+  return Input(control, &TFrame::TakesInput, [&] { Press(control); });
 }
 
 void TFrame::Press(TControl& control) {
@@ -82,6 +95,8 @@ void TFrame::Press(TControl& control) {
     check->SetChecked(!check->Checked());
   } else if (auto* speed = dynamic_cast<TSpeedButton*>(&control)) {
     speed->SetPressed(true);
+  } else if (auto* editor = dynamic_cast<TEditor*>(&control)) {
+    editor->MoveCaretToEnd();
   }
   control.Run(control.OnClick);
 }
@@ -89,9 +104,23 @@ void TFrame::Press(TControl& control) {
 TInputResult TFrame::InputPick(TControl& control, std::int32_t index) {
   auto* combo = dynamic_cast<TComboBox*>(&control);
   if (combo == nullptr) return TInputResult::Unsuited;
-  if (combo->Showing() && combo->CanFocus() && combo->ReadOnly()) return TInputResult::ReadOnly;
+  if (const TInputResult result = TakesChange(control); result != TInputResult::Taken) return result;
   if (index < 0 || index >= combo->Count()) return TInputResult::OutOfRange;
-  return Input(control, [&] { combo->SetIndex(index); });
+  return Input(control, &TFrame::TakesChange, [&] { combo->SetIndex(index); });
+}
+
+TInputResult TFrame::InputStep(TControl& control, std::int32_t steps) {
+  auto* spin = dynamic_cast<TSpinEdit*>(&control);
+  if (spin == nullptr) return TInputResult::Unsuited;
+  return Input(control, &TFrame::TakesChange, [&] { spin->StepBy(steps); });
+}
+
+TInputResult TFrame::InputPickDay(TControl& control, std::chrono::local_days day) {
+  auto* date = dynamic_cast<TDateEdit*>(&control);
+  if (date == nullptr) return TInputResult::Unsuited;
+  if (const TInputResult result = TakesChange(control); result != TInputResult::Taken) return result;
+  if (day < FirstDay || day > LastDay) return TInputResult::OutOfRange;
+  return Input(control, &TFrame::TakesChange, [&] { date->PickDay(day); });
 }
 
 }  // namespace algo::forms

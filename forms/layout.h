@@ -10,110 +10,14 @@
 #include <string_view>
 #include <vector>
 
-#include "forms/toolkit.h"
+#include "forms/layout_elements.h"
 
 namespace algo::forms {
 
 class TControl;
-class TLayoutControl;
-class TLayoutGroup;
+class TFrame;
 
-/// A caption look that several layout elements share: whoever changes it changes the caption of each of them.
-class ALGO_SHARED TCaptionStyle {
- public:
-  TCaptionStyle(TLayoutControl& layout, std::string name);
-
-  const std::string& Name() const { return FName; }
-  const TFont& Font() const { return FFont; }
-  void SetBold(bool bold);
-  void SetSize(std::int32_t size);
-
- private:
-  TLayoutControl& FLayout;
-  std::string FName;
-  TFont FFont;
-};
-
-/// What groups and items have in common.
-class ALGO_SHARED TLayoutElement {
- public:
-  TLayoutElement(TLayoutControl& layout, std::string name);
-  virtual ~TLayoutElement();
-  TLayoutElement(const TLayoutElement&) = delete;
-  TLayoutElement& operator=(const TLayoutElement&) = delete;
-
-  const std::string& Name() const { return FName; }
-
-  /// The group that this element stands in; nullptr for a top group.
-  TLayoutGroup* Parent() const { return FParent; }
-
-  /// Whether this element itself is shown; its parents may still hide it.
-  bool Visible() const { return FVisible; }
-  void SetVisible(bool visible);
-
-  /// A disabled element takes the input away from every control below it.
-  bool Enabled() const { return FEnabled; }
-  void SetEnabled(bool enabled);
-
-  /// Visible itself, and all its parents visible.
-  bool Showing() const;
-
-  /// Enabled itself, and all its parents enabled.
-  bool Usable() const;
-
-  const std::string& Caption() const { return FCaption; }
-  void SetCaption(std::string caption);
-
-  /// The font of the caption: that of the shared style, where one was given.
-  const TFont& Font() const;
-  void SetStyle(const TCaptionStyle* style);
-
- protected:
-  TLayoutControl& Layout() const { return FLayout; }
-
- private:
-  friend class TLayoutControl;
-
-  TLayoutControl& FLayout;
-  std::string FName;
-  std::string FCaption;
-  TLayoutGroup* FParent = nullptr;
-  const TCaptionStyle* FStyle = nullptr;
-  bool FVisible = true;
-  bool FEnabled = true;
-};
-
-enum class TDirection : std::uint8_t { Vertical, Horizontal };
-
-/// A group of elements, one below or one beside the other.
-class ALGO_SHARED TLayoutGroup : public TLayoutElement {
- public:
-  TLayoutGroup(TLayoutControl& layout, std::string name, TDirection direction);
-  ~TLayoutGroup() override;
-
-  TDirection Direction() const { return FDirection; }
-
-  /// The elements in the order in which they are drawn.
-  const std::vector<TLayoutElement*>& Children() const { return FChildren; }
-
- private:
-  friend class TLayoutControl;
-
-  std::vector<TLayoutElement*> FChildren;
-  TDirection FDirection;
-};
-
-/// The place of one control, with its caption.
-class ALGO_SHARED TLayoutItem : public TLayoutElement {
- public:
-  TLayoutItem(TLayoutControl& layout, std::string name, TControl& control);
-  ~TLayoutItem() override;
-
-  TControl& Control() const { return FControl; }
-
- private:
-  TControl& FControl;
-};
+enum class TTabDirection : std::uint8_t { Forward, Backward };
 
 /// The tree itself. It owns its groups, items and caption styles; a frame has one.
 class ALGO_SHARED TLayoutControl {
@@ -143,11 +47,21 @@ class ALGO_SHARED TLayoutControl {
   const std::vector<std::unique_ptr<TLayoutElement>>& Elements() const { return FElements; }
   const std::vector<TLayoutGroup*>& TopGroups() const { return FTopGroups; }
 
-  /// Between the two calls changes are gathered, so that a renderer is told once, at the outermost end.
+  /// The controls in the order in which Tab visits them: depth first through the top groups and their
+  /// children, each level in the order in which it is drawn. Tab passes over a control that cannot take the
+  /// focus at the time.
+  std::vector<TControl*> TabOrder() const;
+
+  /// Where Tab, or Shift+Tab for Backward, goes from `control`: the nearest control of the tab order that can
+  /// take the focus. nullptr behind the last one, where Tab leaves the frame. From nullptr it enters the
+  /// frame, at the first control or the last.
+  TControl* NextInTabOrder(const TControl* control, TTabDirection direction) const;
+
+  /// Between the two calls changes are gathered, so that a renderer is notified once, at the outermost end.
   void BeginUpdate();
   void EndUpdate();
 
-  /// Notes a change of what is shown; tells the frame at once or at the end of the running update.
+  /// Notes a change of what is shown; notifies the frame at once or at the end of the running update.
   void Changed();
 
   /// The room that everything visible needs. Top groups stand side by side.
@@ -160,7 +74,7 @@ class ALGO_SHARED TLayoutControl {
   std::vector<std::unique_ptr<TLayoutElement>> FElements;
   std::vector<std::unique_ptr<TCaptionStyle>> FStyles;
   std::vector<TLayoutGroup*> FTopGroups;
-  class TFrame* FFrame = nullptr;
+  TFrame* FFrame = nullptr;
   std::int32_t FUpdateDepth = 0;
   bool FChangePending = false;
 };

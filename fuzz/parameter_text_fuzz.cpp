@@ -14,7 +14,6 @@ namespace {
 using algo::model::AlgoRows;
 using algo::model::ComposeText;
 using algo::model::DecodeValue;
-using algo::model::LoadSteps;
 using algo::model::ParamRow;
 using algo::model::PieceValue;
 using algo::model::SplitText;
@@ -27,7 +26,8 @@ using algo::model::TSplitText;
 /// Loads the pieces as the form does. A time that cannot be read ends the loading.
 TParamValues Load(const TSplitText& split) {
   TParamValues values;
-  for (const TParam param : LoadSteps()) {
+  for (const algo::model::TParamRow& row : algo::model::ParamRows()) {
+    const TParam param = row.param;
     const auto value = PieceValue(split.pieces, ParamRow(param).key);
     if (!value || value->empty()) continue;
     const TDecoded decoded = DecodeValue(param, *value);

@@ -4,6 +4,7 @@
 #include <array>
 #include <cmath>
 
+#include "plugin/host_contract/flags/order_flags.h"
 #include "text/number_text.h"
 #include "text/text.h"
 
@@ -12,44 +13,53 @@ namespace algo::model {
 namespace {
 
 using enum TFlagWord;
+using enum TPriceTold;
 
 // Orders at auction share one bit; whether they carry a price tells AO from ALO.
-constexpr std::array<TOrderTypeRow, 10> Rows{{
-    {"LO", "", "Res_OrderType_Limit", true, None, 0, false},
-    {"MO", "OEMarketOrder", "Res_OrderType_Market", false, OrderType, MarketBit, false},
-    {"StopMarket", "OEStopM", "Res_OrderType_StopMarket", false, OrderType, StopMarketBit, true},
-    {"StopLimit", "OEStopL", "Res_OrderType_StopLimit", true, OrderType, StopLimitBit, true},
-    {"AO", "OEAO", "Res_OrderType_AO", false, OrderType, AtAuctionBit, false},
-    {"ALO", "OEALO", "Res_OrderType_ALO", true, OrderType, AtAuctionBit, false},
-    {"ELO", "OEEnhanced", "Res_OrderType_ELO", true, OrderType, EnhancedLimitBit, false},
-    {"MOO", "OEMarketOnOpen", "Res_OrderType_MOO", false, Auction, MarketAtOpenBit, false},
-    {"MOC", "OEMarketOnClose", "Res_OrderType_MOC", false, Auction, MarketAtCloseBit, false},
-    {"LOC", "OELOC", "Res_OrderType_LOC", true, Auction, LimitAtCloseBit, false},
-}};
+// clang-format off
+constexpr auto Rows = std::to_array<TOrderTypeRow>({
+    {"LO", "", "Res_OrderType_Limit", true, None, 0},
+    {.code = "MO", .right = "OEMarketOrder", .resourceId = "Res_OrderType_Market", .keepsPrice = false,
+     .word = OrderType, .bits = host::flags::Market, .marketChildren = true},
+    {.code = "StopMarket", .right = "OEStopM", .resourceId = "Res_OrderType_StopMarket", .keepsPrice = false,
+     .word = OrderType, .bits = host::flags::StopMarket, .autoTrigger = true},
+    {.code = "StopLimit", .right = "OEStopL", .resourceId = "Res_OrderType_StopLimit", .keepsPrice = true,
+     .word = OrderType, .bits = host::flags::StopLimit, .autoTrigger = true},
+    {"AO", "OEAO", "Res_OrderType_AO", false, OrderType, host::flags::AtAuction, WithoutPrice},
+    {"ALO", "OEALO", "Res_OrderType_ALO", true, OrderType, host::flags::AtAuction, WithPrice},
+    {"ELO", "OEEnhanced", "Res_OrderType_ELO", true, OrderType, host::flags::EnhancedLimit},
+    {"MOO", "OEMarketOnOpen", "Res_OrderType_MOO", false, Auction, host::flags::MarketAtOpen},
+    {"MOC", "OEMarketOnClose", "Res_OrderType_MOC", false, Auction, host::flags::MarketAtClose},
+    {"LOC", "OELOC", "Res_OrderType_LOC", true, Auction, host::flags::LimitAtClose},
+});
+// clang-format on
 
-// How an order's flags are read back, first match first: the type flags count before the auction flags. A row
-// without a mask asks for the bit, one with a mask for the whole number under it.
-struct TDisplayRow {
-  TFlagWord word;
-  std::uint32_t mask;
-  std::uint32_t value;
-  std::string_view id;
-  std::string_view idWithoutPrice;
-};
-constexpr TDisplayRow Bit(TFlagWord word, std::uint32_t bit, std::string_view id) {
-  return {word, bit, bit, id, id};
+constexpr bool RowsAreSound() {
+  for (std::size_t i = 0; i < Rows.size(); ++i) {
+    if ((Rows[i].word == None) != (Rows[i].bits == 0)) return false;
+    for (std::size_t j = i + 1; j < Rows.size(); ++j) {
+      if (Rows[i].code == Rows[j].code || Rows[i].resourceId == Rows[j].resourceId) return false;
+      // The type flags are read before the auction flags, so their types come first.
+      if (Rows[i].word == Auction && Rows[j].word == OrderType) return false;
+      const bool sameBits = Rows[i].word == Rows[j].word && Rows[i].bits == Rows[j].bits;
+      if (sameBits && (Rows[i].priceTold == Any || Rows[i].priceTold == Rows[j].priceTold)) return false;
+    }
+  }
+  return Rows.front().word == None;
 }
-constexpr std::array DisplayRows{
-    TDisplayRow{OrderType, BasicTypeMask, MarketBit, "Res_OrderType_Market", "Res_OrderType_Market"},
-    TDisplayRow{OrderType, BasicTypeMask, StopMarketBit, "Res_OrderType_StopMarket",
-                "Res_OrderType_StopMarket"},
-    Bit(OrderType, StopLimitBit, "Res_OrderType_StopLimit"),
-    TDisplayRow{OrderType, AtAuctionBit, AtAuctionBit, "Res_OrderType_ALO", "Res_OrderType_AO"},
-    Bit(OrderType, EnhancedLimitBit, "Res_OrderType_ELO"),
-    Bit(Auction, MarketAtOpenBit, "Res_OrderType_MOO"),
-    Bit(Auction, MarketAtCloseBit, "Res_OrderType_MOC"),
-    Bit(Auction, LimitAtCloseBit, "Res_OrderType_LOC"),
-};
+static_assert(RowsAreSound(), "two types look alike, or a type without bits is not the first one");
+
+// Whether flags and price show the type; the one without bits shows in none.
+bool Shows(const TOrderTypeRow& row, std::uint32_t typeFlags, std::uint32_t auctionFlags, double price) {
+  if (row.word == None) return false;
+  // A basic type is a number in the low bits; everything else is a bit of its own.
+  const bool basicType = row.word == OrderType && (row.bits & host::flags::BasicTypeMask) != 0;
+  const std::uint32_t mask = basicType ? host::flags::BasicTypeMask : row.bits;
+  const std::uint32_t flags = row.word == OrderType ? typeFlags : auctionFlags;
+  if ((flags & mask) != row.bits) return false;
+  const bool hasPrice = std::abs(price) > PriceEpsilon;
+  return row.priceTold == Any || hasPrice == (row.priceTold == WithPrice);
+}
 
 const TOrderTypeRow* FindBy(std::string_view TOrderTypeRow::*name, std::string_view wanted) {
   const auto found = std::find_if(Rows.begin(), Rows.end(), [&](const TOrderTypeRow& row) {
@@ -70,29 +80,26 @@ const TOrderTypeRow* FindOrderTypeById(std::string_view resourceId) {
 
 std::uint32_t AutoTriggerBits(std::uint32_t typeFlags, double stopPrice, std::string_view field3,
                               std::string_view field17, std::string_view field31) {
-  if ((typeFlags & StopLimitBit) == 0) return 0;
+  if ((typeFlags & host::flags::StopLimit) == 0) return 0;
   const bool noPrice = text::NumberOr(field3, 0) == 0 && text::NumberOr(field17, 0) == 0;
   const auto reference = text::ParseNumber(noPrice ? field31 : field3);
   if (!reference) return 0;
-  if (stopPrice > *reference) return TriggerAboveBit;
-  if (stopPrice == *reference) return StopLimitBit;
-  return *reference > stopPrice ? TriggerBelowBit : 0;
+  if (stopPrice > *reference) return host::flags::TriggerAbove;
+  if (stopPrice == *reference) return host::flags::StopLimit;
+  return *reference > stopPrice ? host::flags::TriggerBelow : 0;
 }
 
 std::string_view DisplayOrderType(std::uint32_t typeFlags, std::uint32_t auctionFlags, double price) {
-  for (const TDisplayRow& row : DisplayRows) {
-    const std::uint32_t word = row.word == OrderType ? typeFlags : auctionFlags;
-    if ((word & row.mask) == row.value) return std::abs(price) > PriceEpsilon ? row.id : row.idWithoutPrice;
-  }
-  return Rows.front().resourceId;
+  const auto shown = std::find_if(Rows.begin(), Rows.end(), [&](const TOrderTypeRow& row) {
+    return Shows(row, typeFlags, auctionFlags, price);
+  });
+  return shown == Rows.end() ? Rows.front().resourceId : shown->resourceId;
 }
 
 bool PriceMayBeSet(std::uint32_t typeFlags, std::uint32_t auctionFlags, double price) {
-  const std::uint32_t basicType = typeFlags & BasicTypeMask;
-  const bool market = basicType == MarketBit || basicType == StopMarketBit;
-  const bool auctionWithoutPrice = (typeFlags & AtAuctionBit) != 0 && std::abs(price) <= PriceEpsilon;
-  const bool atOpenOrClose = (auctionFlags & (MarketAtOpenBit | MarketAtCloseBit)) != 0;
-  return !market && !auctionWithoutPrice && !atOpenOrClose;
+  return std::none_of(Rows.begin(), Rows.end(), [&](const TOrderTypeRow& row) {
+    return !row.keepsPrice && Shows(row, typeFlags, auctionFlags, price);
+  });
 }
 
 }  // namespace algo::model

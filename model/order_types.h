@@ -1,7 +1,8 @@
 #pragma once
 
 // The host order types: how an algorithm's child orders are priced. One row says who may use a type, how it
-// marks an order and whether the order keeps its price.
+// marks an order and whether the order keeps its price; how an order's flags are read back follows from the
+// same row.
 
 #include <cstdint>
 #include <span>
@@ -12,26 +13,12 @@ namespace algo::model {
 /// Prices nearer to zero than this count as no price; also the distance within which prices count as equal.
 inline constexpr double PriceEpsilon = 1e-7;
 
-// Order type flags. The low five bits are the basic type number.
-inline constexpr std::uint32_t BasicTypeMask = 31;
-inline constexpr std::uint32_t MarketBit = 1;
-inline constexpr std::uint32_t StopMarketBit = 4;
-inline constexpr std::uint32_t AtAuctionBit = 0x200;
-inline constexpr std::uint32_t EnhancedLimitBit = 0x400;
-inline constexpr std::uint32_t StopLimitBit = 0x800;
-inline constexpr std::uint32_t TriggerAboveBit =
-    0x800000;  ///< the trigger price lay above the reference price
-inline constexpr std::uint32_t TriggerBelowBit =
-    0x1000000;  ///< the trigger price lay below the reference price
-// Auction flags.
-inline constexpr std::uint32_t LimitAtCloseBit = 0x1000;
-inline constexpr std::uint32_t MarketAtOpenBit = 0x4000;
-inline constexpr std::uint32_t MarketAtCloseBit = 0x8000;
-// Algo flags.
-inline constexpr std::uint32_t NativeAlgoBit = 0x8000;
-
 /// Which flag word of an order a type's bits go into.
 enum class TFlagWord : std::uint8_t { None, OrderType, Auction };
+
+/// Which of the orders that carry a type's bits are of the type: two types share one bit, and the price tells
+/// them apart.
+enum class TPriceTold : std::uint8_t { Any, WithPrice, WithoutPrice };
 
 struct TOrderTypeRow {
   std::string_view code;        ///< as the configuration has it
@@ -40,7 +27,9 @@ struct TOrderTypeRow {
   bool keepsPrice;              ///< false sets the price to 0, on the form and on the order
   TFlagWord word;
   std::uint32_t bits;
-  bool autoTrigger;  ///< the trigger bits are added too
+  TPriceTold priceTold = TPriceTold::Any;
+  bool autoTrigger = false;     ///< the trigger bits are added too
+  bool marketChildren = false;  ///< the parameter text calls the engine's child orders market orders
 };
 
 /// All host order types, in the order of the catalogue.
@@ -57,9 +46,10 @@ std::uint32_t AutoTriggerBits(std::uint32_t typeFlags, double stopPrice, std::st
                               std::string_view field17, std::string_view field31);
 
 /// The resource id of the type that an order's flags and price show; the limit type when they show no other.
+/// The order type flags count before the auction flags.
 std::string_view DisplayOrderType(std::uint32_t typeFlags, std::uint32_t auctionFlags, double price);
 
-/// Whether an order of these flags has a price that may be set.
+/// Whether an order of these flags has a price that may be set: not where they show any type that keeps none.
 bool PriceMayBeSet(std::uint32_t typeFlags, std::uint32_t auctionFlags, double price);
 
 }  // namespace algo::model

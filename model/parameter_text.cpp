@@ -39,6 +39,7 @@ void PutPiece(TWriter& writer, const TPiece& piece, const TParamValues& values) 
   const TParamRow& row = ParamRow(piece.param);
   switch (row.kind) {
     case TValueKind::Number:
+    case TValueKind::Whole:
       if (const auto number = values.Number(piece.param);
           number && *number > piece.above && *number < piece.below) {
         writer.PutKey(row.key);
@@ -46,7 +47,7 @@ void PutPiece(TWriter& writer, const TPiece& piece, const TParamValues& values) 
       }
       break;
     case TValueKind::Choice:
-      if (const std::string_view text = ChoiceText(*row.codes, values.Choice(piece.param)); !text.empty()) {
+      if (const std::string_view text = ChoiceText(row.choices, values.Choice(piece.param)); !text.empty()) {
         writer.PutKey(row.key);
         writer.Put(text);
       }
@@ -59,18 +60,6 @@ void PutPiece(TWriter& writer, const TPiece& piece, const TParamValues& values) 
       break;
   }
 }
-
-constexpr std::array Steps{
-    TParam::STime,      TParam::ETime,       TParam::TimeOut,    TParam::VolPct,     TParam::AccuVol,
-    TParam::Opening,    TParam::Closing,     TParam::MinOrdAmt,  TParam::Style,      TParam::WPx,
-    TParam::ThrPx1,     TParam::ThrPx2,      TParam::ThrVolPct1, TParam::ThrVolPct2, TParam::Slices,
-    TParam::MaxVolPct,  TParam::OpenPct,     TParam::ClosePct,   TParam::CloseSim,   TParam::ShowQty,
-    TParam::MaxShowQty, TParam::RandPct,     TParam::ReloadPct,  TParam::Func,       TParam::AllInAuc,
-    TParam::StopLossPx, TParam::StopQty,     TParam::TickDiff,   TParam::Iceberg,    TParam::JoinThr,
-    TParam::JoinQty,    TParam::RandTimeOut, TParam::Ref,        TParam::DiffPct,    TParam::ServePct,
-    TParam::MinQty,     TParam::Join,
-};
-static_assert(Steps.size() == ParamCount);
 
 }  // namespace
 
@@ -110,18 +99,17 @@ std::optional<std::string_view> PieceValue(std::span<const std::string_view> pie
   return std::nullopt;
 }
 
-std::span<const TParam> LoadSteps() { return Steps; }
-
 TDecoded DecodeValue(TParam param, std::string_view value) {
   const TParamRow& row = ParamRow(param);
   TDecoded decoded;
   switch (row.kind) {
     case TValueKind::Number:
+    case TValueKind::Whole:
       decoded.kind = TDecoded::TKind::Number;
       decoded.number = text::NumberOr(value, 0);
       break;
     case TValueKind::Choice:
-      if (const auto index = ChoiceIndex(*row.codes, value)) {
+      if (const auto index = ChoiceIndex(row.choices, value)) {
         decoded.kind = TDecoded::TKind::Choice;
         decoded.choice = *index;
       }

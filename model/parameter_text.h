@@ -35,9 +35,6 @@ TSplitText SplitText(std::string_view text);
 /// The value of the first piece of that key; nothing when no piece has it.
 std::optional<std::string_view> PieceValue(std::span<const std::string_view> pieces, std::string_view key);
 
-/// The parameters in the order in which a text is loaded into the form.
-std::span<const TParam> LoadSteps();
-
 /// What a value's text stands for.
 struct TDecoded {
   enum class TKind : std::uint8_t {

@@ -9,7 +9,7 @@ namespace {
 
 struct TCommonRule {
   bool (*fails)(const TNewOrder& order);
-  TRuleFailure complaint;
+  TRuleFailure failure;
 };
 
 constexpr std::array CommonRules{
@@ -39,6 +39,8 @@ bool Holds(const TTest& test, std::optional<double> value) {
       return *value <= test.bound;
     case TComparison::AtLeast:
       return *value >= test.bound;
+    case TComparison::Above:
+      return *value > test.bound;
   }
   return false;
 }
@@ -48,7 +50,7 @@ bool Holds(const TTest& test, std::optional<double> value) {
 std::optional<TRuleFailure> CheckCommonRules(const TNewOrder& order) {
   const auto failed = std::find_if(CommonRules.begin(), CommonRules.end(),
                                    [&order](const TCommonRule& rule) { return rule.fails(order); });
-  return failed == CommonRules.end() ? std::nullopt : std::optional(failed->complaint);
+  return failed == CommonRules.end() ? std::nullopt : std::optional(failed->failure);
 }
 
 std::optional<TRuleFailure> CheckTimes(const TParamValues& values) {

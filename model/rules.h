@@ -17,7 +17,7 @@ enum class TMessageSource : std::uint8_t { Resource, HostCode };
 
 /// What a failed rule says.
 struct TRuleFailure {
-  TMessageSource told;
+  TMessageSource source;
   std::string_view id;
 
   bool operator==(const TRuleFailure&) const = default;

@@ -31,7 +31,7 @@ void Stop() {
 }
 
 bool SetOrderAlgo(host::TViewFrame& frame, host::TCustomClientOrder& order) {
-  const auto* entry = dynamic_cast<const views::TAlgoOrderEntryFrame*>(&frame);
+  const auto* entry = dynamic_cast<const views::entry::TAlgoOrderEntryFrame*>(&frame);
   if (entry == nullptr) return false;
   return views::AtBoundary(false, [&] {
     entry->SetOrderAlgo(order);
@@ -40,7 +40,7 @@ bool SetOrderAlgo(host::TViewFrame& frame, host::TCustomClientOrder& order) {
 }
 
 double WorkParentAvailableQty(host::TCustomOrder* parent) {
-  return views::AtBoundary(0.0, [parent] { return views::GetWorkParentOrderAvailableQty(parent); });
+  return views::AtBoundary(0.0, [parent] { return views::work::GetWorkParentOrderAvailableQty(parent); });
 }
 
 constexpr host::TModuleEntry Entry{host::ContractVersion, Start, Stop, SetOrderAlgo, WorkParentAvailableQty};

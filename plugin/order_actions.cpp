@@ -1,5 +1,8 @@
 // The order actions: which form answers which, and what happens to the order when the trader says OK.
 
+#include <memory>
+#include <optional>
+#include <string_view>
 #include <utility>
 
 #include "plugin/host_contract/language_manager.h"
@@ -12,10 +15,6 @@ namespace algo::plugin {
 
 namespace {
 
-std::string Resource(std::string_view id) {
-  return host::TCustomLanguageManager::GetInstance().GetText(host::Const_ResourceStringTag, id, 3, 0, 0);
-}
-
 bool TakeAction(host::TCustomClientOrder& order, host::TOrderAction action) {
   return host::TCustomOrderActionManager::GetInstance().TakeAction(nullptr, &order, action, 1);
 }
@@ -24,6 +23,49 @@ void FitToFrame(forms::TDialogForm& form, const host::TViewFrame& frame) {
   form.SetClientSize({static_cast<double>(frame.GetWidth()), static_cast<double>(frame.GetHeight())});
 }
 
+/// What the trader says in the form; it is hidden afterwards. True for OK.
+bool SaysOk(forms::TDialogForm& form, const host::TViewFrame& frame, std::string_view captionId) {
+  struct THide {
+    forms::TDialogForm& form;
+    ~THide() { form.Hide(); }
+  };
+  const THide hide{form};
+  form.SetCaption(host::ResourceText(captionId));
+  FitToFrame(form, frame);
+  const views::TNestedLoopScope modalLoop;
+  return form.ShowModal() == forms::ModalOk;
+}
+
+/// One order action that the trader is asked about in a dialog.
+template <class TFrame>
+struct TQuestion {
+  void (TFrame::*load)(host::TCustomClientOrder*);
+  std::string_view captionId;
+  host::TOrderAction action;
+};
+
+/// Loads the order into the frame, asks the trader, and takes the action when the answer is OK. Gives what
+/// the host says to it; nothing when no action was taken, because of another answer or because the form shows
+/// already.
+template <class TFrame>
+std::optional<bool> Ask(const TQuestion<TFrame>& question, const THostedFrame<TFrame>& dialog,
+                        host::TCustomClientOrder& order) {
+  const auto [form, frame] = dialog;  // copies, because the provider may go meanwhile
+  if (form->Showing()) return std::nullopt;
+  const views::change::TOrderLoad load(*frame);
+  (*frame.*question.load)(&order);
+  if (!SaysOk(*form, *frame, question.captionId)) return std::nullopt;
+  return TakeAction(order, question.action);
+}
+
+using TChangeFrame = views::change::TAlgoOrderChangeFrame;
+using TWorkFrame = views::work::TAlgoWorkOrderFrame;
+using enum host::TOrderAction;
+
+constexpr TQuestion<TChangeFrame> AskNew{&TChangeFrame::AddOrder, "Res_Conf_Caption", New};
+constexpr TQuestion<TChangeFrame> AskChange{&TChangeFrame::ChangeOrder, "Res_Conf_ChangeOrder", Change};
+constexpr TQuestion<TWorkFrame> AskWork{&TWorkFrame::WorkOrder, "Res_Conf_WorkOrder", Work};
+
 }  // namespace
 
 void TIAlgoEntryOrder::TakeOrderAction(const void* /*sender*/, host::TChannelRecord* record) {
@@ -31,65 +73,39 @@ void TIAlgoEntryOrder::TakeOrderAction(const void* /*sender*/, host::TChannelRec
   if (action == nullptr) return;
   auto* order = dynamic_cast<host::TCustomClientOrder*>(action->order);
   // Orders from elsewhere are left to whoever else listens.
-  if (order == nullptr || order->NamedText(host::OriginalProperty) != views::AlgoEntryOrigin) return;
+  if (order == nullptr || order->NamedText(host::OriginalProperty) != views::entry::AlgoEntryOrigin) return;
   switch (static_cast<host::TOrderAction>(action->action)) {
-    case host::TOrderAction::New:
+    case New:
       return AddOrder(*order, *action);
-    case host::TOrderAction::Change:
+    case Change:
       return ChangeOrder(*order, *action);
-    case host::TOrderAction::Work:
+    case Work:
       return AddWorkOrder(*order, *action);
   }
 }
 
-template <class TFrame>
-bool TIAlgoEntryOrder::Confirmed(const THosted<TFrame>& dialog, std::string_view captionId) {
-  struct THide {
-    forms::TDialogForm& form;
-    ~THide() { form.Hide(); }
-  };
-  const auto [form, frame] = dialog;
-  const THide hide{*form};
-  form->SetCaption(Resource(captionId));
-  FitToFrame(*form, *frame);
-  const views::TNestedLoopScope modalLoop;
-  return form->ShowModal() == forms::ModalOk;
-}
-
 void TIAlgoEntryOrder::AddOrder(host::TCustomClientOrder& order, host::TOrderTakeActionRecord& record) {
   CreateDefaultView();
-  if (FChange.form->Showing()) return;
-  const auto frame = FChange.frame;
-  const views::TOrderLoad load(*frame);
-  frame->AddOrder(&order);
-  if (Confirmed(FChange, "Res_Conf_Caption")) record.result = TakeAction(order, host::TOrderAction::New);
+  if (const auto accepted = Ask(AskNew, FChange, order)) record.result = *accepted;
 }
 
 void TIAlgoEntryOrder::ChangeOrder(host::TCustomClientOrder& order,
                                    host::TOrderTakeActionRecord& /*record*/) {
   if (!FShowChangeModally) return CreateNonShowModelView(order);
   CreateDefaultView();
-  if (FChange.form->Showing()) return;
-  const auto frame = FChange.frame;
-  const views::TOrderLoad load(*frame);
-  frame->ChangeOrder(&order);
-  if (Confirmed(FChange, "Res_Conf_ChangeOrder")) TakeAction(order, host::TOrderAction::Change);
+  Ask(AskChange, FChange, order);
 }
 
 void TIAlgoEntryOrder::AddWorkOrder(host::TCustomClientOrder& order,
                                     host::TOrderTakeActionRecord& /*record*/) {
   if ((order.flags & host::WorkParentMark) == 0) return;
   CreateDefaultWorkView();
-  if (FWork.form->Showing()) return;
-  const auto frame = FWork.frame;
-  const views::TOrderLoad load(*frame);
-  frame->WorkOrder(&order);
-  if (Confirmed(FWork, "Res_Conf_WorkOrder")) TakeAction(order, host::TOrderAction::Work);
+  Ask(AskWork, FWork, order);
 }
 
 void TIAlgoEntryOrder::CreateDefaultView() {
   if (FChange.form) return;
-  THosted<views::TAlgoOrderChangeFrame> made{nullptr, std::make_shared<views::TAlgoOrderChangeFrame>()};
+  THostedFrame<TChangeFrame> made{nullptr, std::make_shared<TChangeFrame>()};
   made.frame->SetShownModally(true);
   made.form = host::GetDialogForm(*this);
   made.form->SetFrame(made.frame);
@@ -99,8 +115,7 @@ void TIAlgoEntryOrder::CreateDefaultView() {
 
 void TIAlgoEntryOrder::CreateDefaultWorkView() {
   if (FWork.form) return;
-  THosted<views::TAlgoWorkOrderFrame> made{host::GetDialogForm(*this),
-                                           std::make_shared<views::TAlgoWorkOrderFrame>()};
+  THostedFrame<TWorkFrame> made{host::GetDialogForm(*this), std::make_shared<TWorkFrame>()};
   made.form->SetFrame(made.frame);
   made.frame->SetOnAlgoTypeChange([this] { WorkOrderAlgoTypeChange(); });
   AddView(made.frame);
@@ -112,7 +127,7 @@ void TIAlgoEntryOrder::CreateNonShowModelView(host::TCustomClientOrder& order) {
   if (const auto open = FOpenChanges.find(key); open != FOpenChanges.end()) {
     return open->second.form->BringToFront();
   }
-  THosted<views::TAlgoOrderChangeFrame> made{nullptr, std::make_shared<views::TAlgoOrderChangeFrame>()};
+  THostedFrame<TChangeFrame> made{nullptr, std::make_shared<TChangeFrame>()};
   made.form = host::GetDialogForm(*this);
   made.form->OnClose = [this](forms::TDialogForm& sender, forms::TCloseAction& action) {
     OnCloseView(sender, action);
@@ -121,7 +136,7 @@ void TIAlgoEntryOrder::CreateNonShowModelView(host::TCustomClientOrder& order) {
   made.frame->ChangeOrder(&order);
   // Loading calls into the host, which may have asked for the same order meanwhile.
   if (FOpenChanges.contains(key)) return;
-  made.form->SetCaption(Resource("Res_Conf_ChangeOrder"));
+  made.form->SetCaption(host::ResourceText("Res_Conf_ChangeOrder"));
   FitToFrame(*made.form, *made.frame);
   made.form->SetStaysOnTop(true);
   const auto form = made.form;

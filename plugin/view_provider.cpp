@@ -2,6 +2,7 @@
 
 #include "plugin/host_contract/config_manager.h"
 #include "plugin/host_contract/language_manager.h"
+#include "plugin/host_contract/listen.h"
 #include "plugin/host_contract/user_app_profile.h"
 #include "views/boundary/boundary.h"
 #include "views/entry/entry_frame.h"
@@ -19,37 +20,27 @@ struct TMenuRow {
   std::string_view captionId;
 };
 constexpr TMenuRow MenuRows[] = {{101, 1100, "Res_Order"},
-                                 {views::AlgoEntryViewID, 1750, "Res_AlgoOrderEntry"}};
+                                 {views::entry::AlgoEntryViewID, 1750, "Res_AlgoOrderEntry"}};
 constexpr TMenuRow NoMenuRow{-1, 0, {}};
 
 const TMenuRow& MenuRow(std::int32_t level) { return level == 0 || level == 1 ? MenuRows[level] : NoMenuRow; }
 
-std::string Resource(std::string_view id) {
-  return host::TCustomLanguageManager::GetInstance().GetText(host::Const_ResourceStringTag, id, 3, 0, 0);
-}
-
 }  // namespace
 
 TIAlgoEntryOrder::TIAlgoEntryOrder(const void* owner) : TIBaseView(owner) {
-  FRegistrations.Add(
-      [this] {
-        host::TCustomGlobalChannelManager::GetInstance().Subscribe(
-            host::OrderActionChannel,
-            [this](const void* sender, host::TChannelRecord* record) {
-              views::AtBoundary([&] { TakeOrderAction(sender, record); });
-            },
-            this);
+  FListening = host::ListenToChannel(
+      host::OrderActionChannel,
+      [this](const void* sender, host::TChannelRecord* record) {
+        views::AtBoundary([&] { TakeOrderAction(sender, record); });
       },
-      [this] {
-        host::TCustomGlobalChannelManager::GetInstance().Unsubscribe(host::OrderActionChannel, this);
-      });
+      this);
   auto& config = host::TCustomConfigManager::GetInstance();
   const std::string model = config.ReadText(config.CurrentSection(), "ChangeOrderShowModel");
   FShowChangeModally = !(model.starts_with('n') || model.starts_with('N'));
 }
 
 TIAlgoEntryOrder::~TIAlgoEntryOrder() {
-  views::AtBoundary([this] { FRegistrations.ReleaseAll(); });
+  views::AtBoundary([this] { FListening.Release(); });
   FChange.form.reset();
   while (!FOpenChanges.empty()) {
     // Out of the list first: closing calls back and looks for the form there.
@@ -60,9 +51,11 @@ TIAlgoEntryOrder::~TIAlgoEntryOrder() {
   views::AtBoundary([this] { CloseAllInstances(); });
 }
 
-std::string TIAlgoEntryOrder::GetName() { return "AlgoOrderEntry_" + std::to_string(views::AlgoEntryViewID); }
+std::string TIAlgoEntryOrder::GetName() {
+  return "AlgoOrderEntry_" + std::to_string(views::entry::AlgoEntryViewID);
+}
 
-std::int32_t TIAlgoEntryOrder::GetViewID() { return views::AlgoEntryViewID; }
+std::int32_t TIAlgoEntryOrder::GetViewID() { return views::entry::AlgoEntryViewID; }
 
 std::int32_t TIAlgoEntryOrder::GetMenuLevel() { return 2; }
 
@@ -73,7 +66,7 @@ std::int32_t TIAlgoEntryOrder::GetMenuID(std::int32_t level) { return MenuRow(le
 std::string TIAlgoEntryOrder::GetMenuCaption(std::int32_t level) {
   return views::AtBoundary(std::string(), [level] {
     const std::string_view id = MenuRow(level).captionId;
-    return id.empty() ? std::string() : Resource(id);
+    return id.empty() ? std::string() : host::ResourceText(id);
   });
 }
 
@@ -86,7 +79,7 @@ bool TIAlgoEntryOrder::GetIsVisible() {
 
 bool TIAlgoEntryOrder::GetDefaultCaption(std::string& caption) {
   return views::AtBoundary(false, [&caption] {
-    caption = Resource("Res_AlgoOrderEntry");
+    caption = host::ResourceText("Res_AlgoOrderEntry");
     return true;
   });
 }
@@ -95,7 +88,7 @@ bool TIAlgoEntryOrder::GetDefaultSize(std::int32_t& /*width*/, std::int32_t& /*h
 
 host::TInstanceHandle TIAlgoEntryOrder::OpenNewInstance() {
   return views::AtBoundary(host::TInstanceHandle{0}, [this] {
-    auto frame = std::make_shared<views::TAlgoOrderEntryFrame>();
+    auto frame = std::make_shared<views::entry::TAlgoOrderEntryFrame>();
     const host::TInstanceHandle handle = host::HandleOf(*frame);
     AddView(std::move(frame));
     return handle;
@@ -112,7 +105,8 @@ bool TIAlgoEntryOrder::SetLanguage(host::TInstanceHandle instance, std::int32_t 
     // A copy: what the frames set off may close a form.
     for (const auto& [key, open] : std::map(FOpenChanges)) {
       open.frame->SetLanguage(language);
-      if (open.frame->Form() != nullptr) open.frame->Form()->SetCaption(Resource("Res_Conf_ChangeOrder"));
+      if (open.frame->Form() != nullptr)
+        open.frame->Form()->SetCaption(host::ResourceText("Res_Conf_ChangeOrder"));
     }
     return true;
   });

@@ -12,7 +12,7 @@
 
 #include "plugin/host_contract/base_view.h"
 #include "plugin/host_contract/channel_manager.h"
-#include "views/boundary/registrations.h"
+#include "plugin/host_contract/registration.h"
 #include "views/change/change_frame.h"
 #include "views/work/work_order_frame.h"
 
@@ -20,6 +20,13 @@ namespace algo::plugin {
 
 /// The name under which the class registry knows the provider.
 inline constexpr std::string_view ProviderClassName = "TIAlgoEntryOrder";
+
+/// A dialog form with the frame inside it.
+template <class TFrame>
+struct THostedFrame {
+  std::shared_ptr<forms::TDialogForm> form;
+  std::shared_ptr<TFrame> frame;
+};
 
 class TIAlgoEntryOrder : public host::TIBaseView {
  public:
@@ -42,15 +49,6 @@ class TIAlgoEntryOrder : public host::TIBaseView {
   bool SetLanguage(host::TInstanceHandle instance, std::int32_t language) override;
 
  private:
-  using TFormPointer = std::shared_ptr<forms::TDialogForm>;
-
-  /// A dialog form with the frame inside it.
-  template <class TFrame>
-  struct THosted {
-    TFormPointer form;
-    std::shared_ptr<TFrame> frame;
-  };
-
   void TakeOrderAction(const void* sender, host::TChannelRecord* record);
   void AddOrder(host::TCustomClientOrder& order, host::TOrderTakeActionRecord& record);
   void ChangeOrder(host::TCustomClientOrder& order, host::TOrderTakeActionRecord& record);
@@ -61,16 +59,12 @@ class TIAlgoEntryOrder : public host::TIBaseView {
   void OnCloseView(forms::TDialogForm& sender, forms::TCloseAction& action);
   void WorkOrderAlgoTypeChange();
 
-  /// Shows the form until it has a result; true for OK.
-  template <class TFrame>
-  bool Confirmed(const THosted<TFrame>& dialog, std::string_view captionId);
-
-  THosted<views::TAlgoOrderChangeFrame> FChange;
-  THosted<views::TAlgoWorkOrderFrame> FWork;
-  std::map<std::string, THosted<views::TAlgoOrderChangeFrame>>
+  THostedFrame<views::change::TAlgoOrderChangeFrame> FChange;
+  THostedFrame<views::work::TAlgoWorkOrderFrame> FWork;
+  std::map<std::string, THostedFrame<views::change::TAlgoOrderChangeFrame>>
       FOpenChanges;  ///< non-modal forms by order key
   bool FShowChangeModally = true;
-  views::TRegistrations FRegistrations;
+  host::TRegistration FListening;  ///< to the order actions
 };
 
 }  // namespace algo::plugin

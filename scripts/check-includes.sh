@@ -19,27 +19,28 @@ cd "$root"
 
 arrows='
 text                        ->
-model                       -> text
+model                       -> text plugin/host_contract/flags
 forms                       -> text
+plugin/host_contract/flags  ->
 plugin/host_contract        -> forms text
 plugin/host_contract/checks -> forms plugin/host_contract
 views/boundary              -> plugin/host_contract
-views/entry                 -> text model forms plugin/host_contract views/boundary
+views/entry                 -> text model forms plugin/host_contract plugin/host_contract/flags views/boundary
 views/change                -> text model forms plugin/host_contract views/entry
-views/work                  -> text model forms plugin/host_contract views/change
+views/work                  -> text model forms plugin/host_contract views/boundary views/change
 plugin                      -> plugin/host_contract views/boundary views/entry views/change views/work
 terminal/host               -> text forms plugin/host_contract
 terminal/drive              -> text forms plugin/host_contract terminal/host plugin/host_contract/checks
 terminal/report             -> text
 terminal/storage            -> text plugin/host_contract terminal/host
 terminal/paper              -> text plugin/host_contract terminal/host
-terminal/render             -> text forms
+terminal/render             -> forms
 terminal/ui_driver          -> forms terminal/drive terminal/render
 terminal/desk/appearance    -> forms plugin/host_contract terminal/host terminal/render
-terminal/desk/session       -> text plugin/host_contract terminal/host terminal/storage terminal/paper terminal/render terminal/drive terminal/desk/appearance
+terminal/desk/session       -> text forms plugin/host_contract terminal/host terminal/storage terminal/paper terminal/render terminal/drive terminal/desk/appearance
 terminal/desk/panels        -> text terminal/render terminal/desk/appearance
 terminal/desk/market        -> text plugin/host_contract terminal/paper terminal/render terminal/desk/appearance terminal/desk/session terminal/desk/panels
-terminal/desk/orders        -> text plugin/host_contract terminal/host terminal/render terminal/desk/appearance terminal/desk/panels
+terminal/desk/orders        -> text plugin/host_contract plugin/host_contract/flags terminal/host terminal/render terminal/desk/appearance terminal/desk/panels
 terminal/desk/settings      -> plugin/host_contract terminal/host terminal/render terminal/desk/appearance
 terminal/desk/frames        -> forms terminal/render terminal/desk/session terminal/desk/panels
 terminal/desk/window        -> plugin/host_contract terminal/render terminal/desk/appearance terminal/desk/session terminal/desk/panels terminal/desk/market terminal/desk/orders terminal/desk/settings terminal/desk/frames
@@ -82,14 +83,14 @@ ARROWS=$arrows PART=$part awk '
     return ""
   }
 
-  function Complain(text) {
+  function Report(text) {
     printf "%s:%d: %s\n", FILENAME, FNR, text
     bad++
   }
 
   FNR == 1 {
     folder = FolderOf(FILENAME)
-    if (folder == "") Complain("this folder has no row of its own in check-includes")
+    if (folder == "") Report("this folder has no row of its own in check-includes")
   }
 
   folder != "" && match($0, /^[ \t]*#[ \t]*include[ \t]*/) {
@@ -100,17 +101,17 @@ ARROWS=$arrows PART=$part awk '
       sub(/".*/, "", path)
       target = path ~ /(^|\/)\.\.?\// ? "" : FolderOf(path)
       if (target == "") {
-        Complain("\"" path "\" is not written from the root of the project, or its folder has no row")
+        Report("\"" path "\" is not written from the root of the project, or its folder has no row")
       } else if (target != folder && !((folder, target) in allowed)) {
-        Complain(folder " may not include " target " (allowed: " rule[folder] ")")
+        Report(folder " may not include " target " (allowed: " rule[folder] ")")
       }
       used[folder, target] = 1
     } else if (mark == "<") {
       if (folder !~ /^terminal\// && rest !~ /^<[a-z_]+>/) {
-        Complain("the module includes the standard library alone, not " rest)
+        Report("the module includes the standard library alone, not " rest)
       }
     } else {
-      Complain("an include that a macro spells cannot be checked: " rest)
+      Report("an include that a macro spells cannot be checked: " rest)
     }
   }
 

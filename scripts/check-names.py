@@ -18,14 +18,15 @@ import sys
 # Each folder, with the one namespace that it is and those inside of it that it may open.
 NAMESPACES = """
 text                        -> algo::text algo
-model                       -> algo::model algo::model::pieces algo::model::rule_tables algo::model::visibility algo::model::parameter_rows
+model                       -> algo::model algo::model::parameter_rows algo::model::algo_rows
 forms                       -> algo::forms
 plugin/host_contract        -> algo::host
+plugin/host_contract/flags  -> algo::host::flags
 plugin/host_contract/checks -> algo::host::checks
 views/boundary              -> algo::views
-views/entry                 -> algo::views
-views/change                -> algo::views
-views/work                  -> algo::views
+views/entry                 -> algo::views::entry algo::views::entry::field_rows algo::views::entry::field_lists algo::views::entry::layout_rows
+views/change                -> algo::views::change
+views/work                  -> algo::views::work
 plugin                      -> algo::plugin
 terminal/host               -> algo::terminal algo::terminal::status
 terminal/drive              -> algo::terminal::drive
@@ -196,7 +197,7 @@ def main():
     if not files:
         sys.exit("check-names: no sources found")
 
-    complaints = []
+    findings = []
     defined = collections.defaultdict(list)
     for path in files:
         source = Source(str(path), path.read_text(encoding="utf-8"))
@@ -204,17 +205,17 @@ def main():
             defined[definition.scope, definition.name].append(definition)
         folder = folder_of(path, rows)
         if folder is None:
-            complaints.append(f"{path}:1: this folder has no row in check-names")
+            findings.append(f"{path}:1: this folder has no row in check-names")
             continue
         for names, line, forward_only in source.namespaces:
             named = "::".join(name for name in names if not name.startswith("<"))
             anonymous = not names or names[-1].startswith("<")
             if forward_only or anonymous or named in rows[folder]:
                 continue
-            complaints.append(f"{path}:{line}: {folder} may not open {named} (allowed: {', '.join(rows[folder])})")
+            findings.append(f"{path}:{line}: {folder} may not open {named} (allowed: {', '.join(rows[folder])})")
         for definition in source.definitions:
             if not definition.scope or definition.scope[0].startswith("<"):
-                complaints.append(
+                findings.append(
                     f"{path}:{definition.line}: {definition.name} is defined outside of {rows[folder][0]}"
                 )
 
@@ -222,15 +223,15 @@ def main():
         first, *others = places
         for other in others:
             if other.file != first.file:
-                complaints.append(
+                findings.append(
                     f"{other.file}:{other.line}: {'::'.join((*scope, name))} is defined in"
                     f" {first.file}:{first.line} already"
                 )
 
-    for complaint in complaints:
-        print(complaint, file=sys.stderr)
-    if complaints:
-        sys.exit(f"check-names: {len(complaints)} forbidden")
+    for finding in findings:
+        print(finding, file=sys.stderr)
+    if findings:
+        sys.exit(f"check-names: {len(findings)} forbidden")
     print(f"check-names: the types of {len(files)} files have names and namespaces of their own")
 
 

@@ -4,6 +4,8 @@ set(scripts "${CMAKE_SOURCE_DIR}/scripts")
 
 add_test(NAME "includes follow the arrows" COMMAND "${scripts}/check-includes.sh")
 add_test(NAME "a forbidden include is found" COMMAND "${scripts}/test-check-includes.sh")
+add_test(NAME "the contract says who calls what and when" COMMAND "${scripts}/check-contract-tags.sh")
+add_test(NAME "a missing contract tag is found" COMMAND "${scripts}/test-check-contract-tags.sh")
 add_test(NAME "no name is defined twice" COMMAND "${scripts}/check-names.py")
 add_test(NAME "a name that is defined twice is found" COMMAND "${scripts}/test-check-names.sh")
 

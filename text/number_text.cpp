@@ -19,7 +19,7 @@ std::string_view WithoutPlus(std::string_view text) {
   return plus ? text.substr(1) : text;
 }
 
-void DropTrailingZeros(std::string& digits) {
+void RemoveTrailingZeros(std::string& digits) {
   if (digits.find('.') == std::string::npos) return;
   digits.erase(digits.find_last_not_of('0') + 1);
   if (digits.back() == '.') digits.pop_back();
@@ -48,7 +48,7 @@ std::string GroupedNumber(double value, std::int32_t maxDecimals) {
     const auto end = std::to_chars(rounded.data(), rounded.data() + rounded.size(), std::abs(value),
                                    std::chars_format::fixed, maxDecimals);
     digits.assign(rounded.data(), end.ptr);
-    DropTrailingZeros(digits);
+    RemoveTrailingZeros(digits);
   }
   std::size_t place = std::min(digits.find('.'), digits.size());
   while (place > 3) {

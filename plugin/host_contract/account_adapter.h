@@ -13,6 +13,7 @@ class ALGO_SHARED TCustomAccountAdapter : public THostService<TCustomAccountAdap
   virtual ~TCustomAccountAdapter();
 
   /// Whether the host knows the account code. How codes are compared is the host's rule.
+  /// [module → host, while a provider lives]
   virtual bool IsKnown(std::string_view account) = 0;
 };
 

@@ -1,33 +1,24 @@
 #include "plugin/host_contract/base_view.h"
 
 #include <algorithm>
-#include <cmath>
 #include <exception>
+#include <functional>
+#include <type_traits>
 #include <utility>
 
 namespace algo::host {
 
-TViewFrame::~TViewFrame() = default;
+namespace {
 
-bool TViewFrame::SetLanguage(std::int32_t /*language*/) { return false; }
-
-void TViewFrame::SetSkin(std::string_view /*name*/) {}
-
-bool TViewFrame::SetGroupID(std::string_view /*id*/) { return false; }
-
-std::string TViewFrame::GetGroupID() const { return {}; }
-
-std::string TViewFrame::GetLayoutData() { return {}; }
-
-bool TViewFrame::SetLayoutData(std::string_view /*text*/) { return false; }
-
-std::int32_t TViewFrame::GetWidth() const {
-  return static_cast<std::int32_t>(std::ceil(Layout().ContentSize().width));
+/// What the view answers to the operation; 0, empty, false or nothing where there is no view. It is held
+/// meanwhile, since it may be closed by what it sets off.
+template <class TOperation, class... TArguments>
+auto Ask(const std::shared_ptr<TViewFrame>& view, TOperation operation, const TArguments&... arguments) {
+  using TAnswer = std::invoke_result_t<TOperation, TViewFrame&, const TArguments&...>;
+  return view ? std::invoke(operation, *view, arguments...) : TAnswer();
 }
 
-std::int32_t TViewFrame::GetHeight() const {
-  return static_cast<std::int32_t>(std::ceil(Layout().ContentSize().height));
-}
+}  // namespace
 
 TInstanceHandle HandleOf(const TViewFrame& frame) {
   return static_cast<TInstanceHandle>(reinterpret_cast<std::intptr_t>(&frame));
@@ -38,11 +29,9 @@ TIBaseView::TIBaseView(const void* owner) : FOwner(owner) {}
 TIBaseView::~TIBaseView() {
   try {
     CloseAllInstances();
-  } catch (...) {  // NOLINT(bugprone-empty-catch): a provider that goes has nobody to tell
+  } catch (...) {  // NOLINT(bugprone-empty-catch): a provider that goes has nobody to report to
   }
 }
-
-bool TIBaseView::GetIsWindow() { return false; }
 
 void TIBaseView::AddView(std::shared_ptr<TViewFrame> frame) { FViews.push_back(std::move(frame)); }
 
@@ -51,6 +40,8 @@ std::shared_ptr<TViewFrame> TIBaseView::FindView(TInstanceHandle instance) const
                                   [instance](const auto& view) { return HandleOf(*view) == instance; });
   return found == FViews.end() ? nullptr : *found;
 }
+
+bool TIBaseView::ContainView(TInstanceHandle instance) { return FindView(instance) != nullptr; }
 
 void TIBaseView::CloseInstance(TInstanceHandle instance) {
   const auto view = FindView(instance);
@@ -74,45 +65,98 @@ void TIBaseView::CloseAllInstances() {
   if (first) std::rethrow_exception(first);
 }
 
-bool TIBaseView::ContainView(TInstanceHandle instance) { return FindView(instance) != nullptr; }
+bool TIBaseView::GetIsWindow() { return false; }
+
+std::shared_ptr<TViewFrame> TIBaseView::GetPreferenceView() { return nullptr; }
+
+bool TIBaseView::GetIsDialog() { return false; }
+
+bool TIBaseView::GetIsSizeable() { return true; }
+
+bool TIBaseView::GetCanDock() { return true; }
+
+TDockPosition TIBaseView::GetDockPosition() { return TDockPosition::HostsChoice; }
+
+std::vector<TShortcut> TIBaseView::GetShortCutList() { return {}; }
+
+bool TIBaseView::GetIsDialogViewAfterMainShow() { return false; }
+
+std::int32_t TIBaseView::GetDialogViewIndexAfterMainShow() { return 0; }
+
+void TIBaseView::InitializeShortcut() {}
 
 std::int32_t TIBaseView::GetWidth(TInstanceHandle instance) {
-  const auto view = FindView(instance);
-  return view ? view->GetWidth() : 0;
+  return Ask(FindView(instance), &TViewFrame::GetWidth);
 }
 
 std::int32_t TIBaseView::GetHeight(TInstanceHandle instance) {
-  const auto view = FindView(instance);
-  return view ? view->GetHeight() : 0;
+  return Ask(FindView(instance), &TViewFrame::GetHeight);
 }
 
-bool TIBaseView::SetLanguage(TInstanceHandle instance, std::int32_t language) {
-  const auto view = FindView(instance);
-  return view && view->SetLanguage(language);
+std::string TIBaseView::GetViewCaption(TInstanceHandle instance) {
+  return Ask(FindView(instance), &TViewFrame::GetViewCaption);
+}
+
+void TIBaseView::HandleCaptionButtonClick(TInstanceHandle instance, std::int32_t button) {
+  Ask(FindView(instance), &TViewFrame::HandleCaptionButtonClick, button);
+}
+
+std::vector<TCaptionButton> TIBaseView::GetViewCaptionButtons(TInstanceHandle instance) {
+  return Ask(FindView(instance), &TViewFrame::GetViewCaptionButtons);
+}
+
+std::vector<TImage> TIBaseView::GetViewCaptionButtonImageList(TInstanceHandle instance) {
+  return Ask(FindView(instance), &TViewFrame::GetViewCaptionButtonImageList);
+}
+
+TImage TIBaseView::GetViewIcon(TInstanceHandle instance) {
+  return Ask(FindView(instance), &TViewFrame::GetViewIcon);
+}
+
+bool TIBaseView::ExecuteShortcutAction(TInstanceHandle instance, std::int32_t action) {
+  return Ask(FindView(instance), &TViewFrame::ExecuteShortcutAction, action);
 }
 
 void TIBaseView::SetSkin(TInstanceHandle instance, std::string_view name) {
-  if (const auto view = FindView(instance)) view->SetSkin(name);
+  Ask(FindView(instance), &TViewFrame::SetSkin, name);
 }
 
-bool TIBaseView::SetGroupID(TInstanceHandle instance, std::string_view id) {
-  const auto view = FindView(instance);
-  return view && view->SetGroupID(id);
+bool TIBaseView::SetLanguage(TInstanceHandle instance, std::int32_t language) {
+  return Ask(FindView(instance), &TViewFrame::SetLanguage, language);
 }
 
-std::string TIBaseView::GetGroupID(TInstanceHandle instance) {
-  const auto view = FindView(instance);
-  return view ? view->GetGroupID() : std::string();
+void TIBaseView::SetFont(TInstanceHandle instance, const forms::TFont& font) {
+  Ask(FindView(instance), &TViewFrame::SetFont, font);
+}
+
+void TIBaseView::ActiveView(TInstanceHandle instance) { Ask(FindView(instance), &TViewFrame::ActiveView); }
+
+void TIBaseView::DeactiveView(TInstanceHandle instance) {
+  Ask(FindView(instance), &TViewFrame::DeactiveView);
 }
 
 std::string TIBaseView::GetLayoutData(TInstanceHandle instance) {
-  const auto view = FindView(instance);
-  return view ? view->GetLayoutData() : std::string();
+  return Ask(FindView(instance), &TViewFrame::GetLayoutData);
 }
 
 bool TIBaseView::SetLayoutData(TInstanceHandle instance, std::string_view text) {
-  const auto view = FindView(instance);
-  return view && view->SetLayoutData(text);
+  return Ask(FindView(instance), &TViewFrame::SetLayoutData, text);
+}
+
+bool TIBaseView::SetCustomData(TInstanceHandle instance, std::string_view data) {
+  return Ask(FindView(instance), &TViewFrame::SetCustomData, data);
+}
+
+bool TIBaseView::SendMessage(TInstanceHandle instance, std::int32_t message, std::string_view text) {
+  return Ask(FindView(instance), &TViewFrame::SendMessage, message, text);
+}
+
+bool TIBaseView::SetGroupID(TInstanceHandle instance, std::string_view id) {
+  return Ask(FindView(instance), &TViewFrame::SetGroupID, id);
+}
+
+std::string TIBaseView::GetGroupID(TInstanceHandle instance) {
+  return Ask(FindView(instance), &TViewFrame::GetGroupID);
 }
 
 }  // namespace algo::host

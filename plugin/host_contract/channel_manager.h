@@ -48,6 +48,7 @@ class ALGO_SHARED TOrderCopyRecord : public TChannelRecord {
 
 class ALGO_SHARED TCustomGlobalChannelManager : public THostService<TCustomGlobalChannelManager> {
  public:
+  /// [host → module, while it is registered]
   using THandler = std::function<void(const void* sender, TChannelRecord* record)>;
 
   virtual ~TCustomGlobalChannelManager();
@@ -55,10 +56,13 @@ class ALGO_SHARED TCustomGlobalChannelManager : public THostService<TCustomGloba
   /// Calls `handler` for each post on the channel, in the order of subscription, until the owner
   /// unsubscribes. An owner has at most one handler on a channel. A handler may subscribe, unsubscribe and
   /// post.
+  /// [module → host, while a provider lives]
   virtual void Subscribe(std::int32_t channel, THandler handler, TOwner owner) = 0;
+  /// [module → host, while it is registered]
   virtual void Unsubscribe(std::int32_t channel, TOwner owner) = 0;
 
   /// Delivers `record` to every subscriber of the channel, then returns.
+  /// [module → host, while a provider lives]
   virtual void Post(std::int32_t channel, TChannelRecord* record) = 0;
 };
 

@@ -109,6 +109,10 @@ void TOrderReturner::operator()(TCustomClientOrder* order) const noexcept {
 
 TOwnedOrder MakeClientOrder() { return TOwnedOrder(TCustomOrderAdapter::GetInstance().NewClientOrder()); }
 
+std::string ResourceText(std::string_view id) {
+  return TCustomLanguageManager::GetInstance().GetText(Const_ResourceStringTag, id, 3, 0, 0);
+}
+
 std::shared_ptr<forms::TDialogForm> GetDialogForm(TIBaseView& provider) {
   return TCustomViewService::GetInstance().MakeDialogForm(provider);
 }

@@ -2,12 +2,14 @@
 
 // The terminal's shared field editors: what looks up accounts and symbols, and steps prices and quantities by
 // the instrument's tick and lot. A module registers its own controls; the host attaches its behaviour to them
-// and puts its reaction to leaving the control into TControl::SetHostEditor.
+// and puts its reaction to leaving the control into TControl::SetHostEditor, the grid that it steps along
+// into TSpinEdit::SetStepGrid.
 
 #include <cstdint>
 #include <string_view>
 
-#include "forms/editors.h"
+#include "forms/spin_edit.h"
+#include "forms/text_edit.h"
 #include "plugin/host_contract/service.h"
 
 namespace algo::host {
@@ -19,6 +21,7 @@ class ALGO_SHARED TEditorManager : public THostService<TEditorManager> {
   /// Attaches the host's behaviour to the control in that link group. Registering a control again moves it to
   /// the new group. `mode` and `options` of the look-up editors are 0 and 1 in this module: look up on
   /// leaving, and offer the list of matches.
+  /// [module → host, while a provider lives]
   virtual void RegisterAccountEditor(forms::TTextEdit& control, std::string_view groupId, std::int32_t mode,
                                      std::int32_t options) = 0;
   virtual void RegisterSymbolEditor(forms::TTextEdit& control, std::string_view groupId, std::int32_t mode,
@@ -27,16 +30,19 @@ class ALGO_SHARED TEditorManager : public THostService<TEditorManager> {
   virtual void RegisterQuantityEditor(forms::TSpinEdit& control, std::string_view groupId) = 0;
 
   /// Detach it again. The control is alive; nothing of it is used afterwards.
+  /// [module → host, while it is registered]
   virtual void RemoveAccountEditor(forms::TTextEdit& control) = 0;
   virtual void RemoveSymbolEditor(forms::TTextEdit& control) = 0;
   virtual void RemovePriceEditor(forms::TSpinEdit& control) = 0;
   virtual void RemoveQuantityEditor(forms::TSpinEdit& control) = 0;
 
-  /// Tells a registered price or quantity editor which symbol it serves; empty for none.
+  /// Says which symbol a price or quantity editor serves; empty for none.
+  /// [module → host, while it is registered]
   virtual void SetPriceSymbol(forms::TSpinEdit& control, std::string_view symbol) = 0;
   virtual void SetQuantitySymbol(forms::TSpinEdit& control, std::string_view symbol) = 0;
 
-  /// Puts an account from a saved layout into a registered account editor, as text, and leaves the editor.
+  /// Puts an account from a saved layout into an account editor, as text, and leaves the editor.
+  /// [module → host, while it is registered]
   virtual void SetAccountLayoutAccount(forms::TTextEdit& control, std::string_view account) = 0;
 };
 

@@ -22,8 +22,13 @@ class ALGO_SHARED TCustomLanguageManager : public THostService<TCustomLanguageMa
   /// The text of `id` under `tag`. What an unknown id gives is the host's choice: commonly the id itself for
   /// resource texts, and nothing for names. The module always passes 3, 0, 0 as the trailing arguments, which
   /// stand for the current language and no variant.
+  /// [module → host, while a provider lives]
   virtual std::string GetText(std::string_view tag, std::string_view id, std::int32_t language,
                               std::int32_t variant, std::int32_t options) = 0;
 };
+
+/// The resource text of that id, in the user's language.
+/// [module → host, while a provider lives]
+ALGO_SHARED std::string ResourceText(std::string_view id);
 
 }  // namespace algo::host

@@ -1,8 +1,8 @@
 #pragma once
 
 // Market data. An item is the live record of one symbol, read by numeric field id. The subscribe adapter
-// hands items out and tells listeners of updates; the market adapter knows instruments and tells of changed
-// spread tables.
+// hands items out and notifies listeners of updates; the market adapter knows instruments and notifies of
+// changed spread tables.
 
 #include <cstddef>
 #include <cstdint>
@@ -36,12 +36,15 @@ class ALGO_SHARED TMarketDataItem {
  public:
   virtual ~TMarketDataItem();
 
+  /// [module → host, while the item is subscribed]
   virtual std::string_view Symbol() const = 0;
   virtual std::int32_t State() const = 0;
   virtual bool HasField(std::int32_t field) const = 0;
   /// The field's number; 0 when the item lacks the field or its text is no number.
+  /// [module → host, while the item is subscribed]
   virtual double FieldNumber(std::int32_t field) const = 0;
   /// The field's text, empty when the item lacks it; valid until the item changes.
+  /// [module → host, while the item is subscribed]
   virtual std::string_view FieldText(std::int32_t field) const = 0;
 };
 
@@ -49,8 +52,11 @@ class ALGO_SHARED TMarketDataItem {
 class ALGO_SHARED TItemDictionary {
  public:
   virtual ~TItemDictionary();
+
+  /// [module → host, during the notification]
   virtual std::size_t Count() const = 0;
   /// The item of that symbol; nullptr when it is not among them.
+  /// [module → host, during the notification]
   virtual TMarketDataItem* Find(std::string_view symbol) const = 0;
 };
 
@@ -58,23 +64,29 @@ class ALGO_SHARED TItemDictionary {
 class ALGO_SHARED TSpreadDictionary {
  public:
   virtual ~TSpreadDictionary();
+
+  /// [module → host, during the notification]
   virtual bool Contains(std::string_view code) const = 0;
 };
 
 class ALGO_SHARED TCustomSubscribeAdapter : public THostService<TCustomSubscribeAdapter> {
  public:
+  /// [host → module, while it is registered]
   using TListener = std::function<void(const void* sender, const TItemDictionary* data)>;
 
   virtual ~TCustomSubscribeAdapter();
 
   /// The item of the symbol in that data set; a symbol without data gives an item in state 0. Asking alone
   /// leaves nothing to give back. `live` asks for updates at once, false for what is at hand.
+  /// [module → host, while a provider lives]
   virtual TMarketDataItem* Subscribe(std::string_view symbol, std::string_view dataSet, bool live) = 0;
 
   /// Calls `listener` whenever the item changed, until the owner unsubscribes it.
+  /// [module → host, while the item is subscribed]
   virtual void AddListener(TMarketDataItem* item, TListener listener, TOwner owner) = 0;
 
   /// Ends the owner's interest in the item, which may be gone afterwards.
+  /// [module → host, while it is registered]
   virtual void Unsubscribe(TMarketDataItem* item, TOwner owner) = 0;
 };
 
@@ -86,15 +98,19 @@ struct TInstrument {
 
 class ALGO_SHARED TCustomMarketAdapter : public THostService<TCustomMarketAdapter> {
  public:
+  /// [host → module, while it is registered]
   using TSpreadListener = std::function<void(const void* sender, const TSpreadDictionary* data)>;
 
   virtual ~TCustomMarketAdapter();
 
   /// The record of the symbol, the host's own; nullptr when the host does not know it.
+  /// [module → host, while a provider lives]
   virtual const TInstrument* FindInstrument(std::string_view symbol) = 0;
 
   /// Calls `listener` whenever spread tables changed, until the owner is removed.
+  /// [module → host, while a provider lives]
   virtual void AddSpreadListener(TSpreadListener listener, TOwner owner) = 0;
+  /// [module → host, while it is registered]
   virtual void RemoveSpreadListener(TOwner owner) = 0;
 };
 

@@ -12,7 +12,7 @@ namespace algo::host {
 
 /// The version of this contract. It changes with every change of a header of this folder or of the form model
 /// that a module built before cannot live with.
-inline constexpr std::uint32_t ContractVersion = 1;
+inline constexpr std::uint32_t ContractVersion = 2;
 
 /// What a module gives a host. Lives as long as the module is loaded. None of the functions throws.
 struct TModuleEntry {
@@ -21,21 +21,27 @@ struct TModuleEntry {
   std::uint32_t contractVersion;
 
   /// Makes the module's classes known in the class registry. Calls nest.
+  /// [host → module, at any time]
   void (*start)();
   /// Takes back one start; the last one takes the classes out again.
+  /// [host → module, after start]
   void (*stop)();
 
   /// Writes the algo parameter text that the entries of an algo entry frame give into the order. False, with
-  /// the order as it was and the trader told why, when there is none; false for a frame of another module.
+  /// the order as it was and the reason reported to the trader, when there is none; false for a frame of
+  /// another module.
+  /// [host → module, while the instance is open]
   bool (*setOrderAlgo)(TViewFrame& frame, TCustomClientOrder& order);
 
   /// What is left of a parent order for new child orders, 0 for no order; never negative. Reads the order
   /// store.
+  /// [host → module, while the provider lives]
   double (*workParentAvailableQty)(TCustomOrder* parent);
 };
 
 /// The name and the type of the symbol that a module exports.
 inline constexpr const char* ModuleEntrySymbol = "AlgoOrderEntryModule";
+/// [host → module, at any time]
 using TModuleEntryFunction = const TModuleEntry* (*)();
 
 }  // namespace algo::host

@@ -15,6 +15,7 @@ class ALGO_SHARED TCustomOrderActionManager : public THostService<TCustomOrderAc
 
   /// Takes the action on the order; true when the host accepted the request. The host copies what it needs
   /// and keeps no reference to `order`. The module passes no sender (nullptr) and always 1 as `argument`.
+  /// [module → host, while a provider lives]
   virtual bool TakeAction(const void* sender, TCustomClientOrder* order, TOrderAction action,
                           std::int32_t argument) = 0;
 };

@@ -20,20 +20,26 @@ class ALGO_SHARED TCustomOrderAdapter : public THostService<TCustomOrderAdapter>
   /// Puts the values configured under `key` into `values`; false, with `values` empty, when the key is not
   /// configured. The module asks for "ALGO/Exchange", and for "ALGO/ALGOType/" and "ALGO/OrderType/" followed
   /// by an exchange code.
+  /// [module → host, while a provider lives]
   virtual bool GetListSetting(std::string_view key, std::vector<std::string>& values) = 0;
 
-  /// Makes an empty order that is in no store. It must be given back with FreeClientOrder.
+  /// Makes an empty order that is in no store.
+  /// [module → host, while a provider lives]
   virtual TCustomClientOrder* NewClientOrder() = 0;
+  /// Takes back an order that NewClientOrder made; every one must be given back.
+  /// [module → host, once for each order made]
   virtual void FreeClientOrder(TCustomClientOrder* order) = 0;
 
   /// The orders of the store, by index from 0. The store may change between two calls.
+  /// [module → host, while a provider lives]
   virtual std::size_t OrderCount() = 0;
   /// The order at that place, the host's own; nullptr when the place is gone.
+  /// [module → host, while a provider lives]
   virtual TCustomOrder* OrderAt(std::size_t index) = 0;
 };
 
-/// Gives an order back to the adapter that made it. An adapter that fails to take it back is left alone:
-/// there is nobody left to tell.
+/// Gives an order back to the adapter that made it. When the adapter fails to take it back, nothing more is
+/// done: there is nobody to report it to.
 struct TOrderReturner {
   void operator()(TCustomClientOrder* order) const noexcept;
 };
@@ -42,6 +48,7 @@ struct TOrderReturner {
 using TOwnedOrder = std::unique_ptr<TCustomClientOrder, TOrderReturner>;
 
 /// Asks the adapter for a new order.
+/// [module → host, while a provider lives]
 TOwnedOrder MakeClientOrder();
 
 }  // namespace algo::host

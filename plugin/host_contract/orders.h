@@ -52,18 +52,22 @@ class ALGO_SHARED TCustomOrder {
   std::uint32_t flags = 0;           ///< order marks, see above
 
   /// The numbered text property; empty when it was never set.
+  /// [either side, while the order lives]
   std::string TextProperty(std::int32_t number) const;
   void SetTextProperty(std::int32_t number, std::string text);
 
   /// The named text property; empty when it was never set.
+  /// [either side, while the order lives]
   std::string NamedText(std::string_view name) const;
   void SetNamedText(std::string_view name, std::string text);
 
   /// The text properties that were set, by number and by name; empty ones included.
+  /// [either side, while the order lives]
   const std::map<std::int32_t, std::string>& NumberedTexts() const { return FNumberedTexts; }
   const std::map<std::string, std::string, std::less<>>& NamedTexts() const { return FNamedTexts; }
 
   /// Copies every property of `other` into this order.
+  /// [either side, while the order lives]
   void AssignContent(const TCustomOrder& other);
 
  protected:

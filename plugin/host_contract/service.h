@@ -2,8 +2,12 @@
 
 // How a module reaches the host's services. Each service is one process-wide object that the host installs
 // before it makes a view provider and keeps until the provider is gone. All services are called on the
-// user-interface thread. A service operation may throw; the module tells the trader once and stops what it
-// was doing.
+// user-interface thread. A service operation may throw; the module reports it to the trader once and stops
+// what it was doing.
+//
+// How to read the headers of this folder: each operation has a tag, [caller → callee, when], that says which
+// side calls it and when it may be called; docs/writing-a-host.md explains the words. A tag stands below what
+// the operation promises, and holds down to the next blank line or tag.
 
 #include <string>
 
@@ -24,10 +28,11 @@ template <class TService>
 class ALGO_SHARED THostService {
  public:
   /// The installed service. Throws EServiceMissing when the host installed none.
+  /// [module → host, while a provider lives]
   static TService& GetInstance();
 
-  /// For hosts: installs `service`, which stays the host's own; nullptr takes it away. Returns the one
-  /// before.
+  /// Installs `service`, which stays the host's own; nullptr takes it away. Returns the one before.
+  /// [host, while no provider lives]
   static TService* Install(TService* service);
 
  protected:

@@ -20,16 +20,20 @@ class ALGO_SHARED TCustomViewService : public THostService<TCustomViewService> {
 
   /// Makes a dialog form for the provider to put a frame into. The form goes when its last holder lets go of
   /// it; the host holds a form that shows.
+  /// [module → host, while a provider lives]
   virtual std::shared_ptr<forms::TDialogForm> MakeDialogForm(TIBaseView& provider) = 0;
 
   /// A view tells the host that it changed; the module sends ViewChanged.
+  /// [module → host, while a provider lives]
   virtual void Notify(TViewFrame& view, std::int32_t code) = 0;
 };
 
 /// Asks the host for a dialog form.
+/// [module → host, while a provider lives]
 ALGO_SHARED std::shared_ptr<forms::TDialogForm> GetDialogForm(TIBaseView& provider);
 
 /// Tells the host that a view changed.
+/// [module → host, while a provider lives]
 ALGO_SHARED void SendViewNotify(TViewFrame& view, std::int32_t code);
 
 }  // namespace algo::host

@@ -25,7 +25,7 @@ std::span<const TCommand> ControlCommands();  ///< reading controls, and setting
 std::span<const TCommand> MarketCommands();   ///< market data and spread tables
 std::span<const TCommand> OrderCommands();    ///< the order store, posts, available quantity
 
-/// The command of that name. Throws ECommandError when there is none.
+/// The command of that name. Throws ECommandError if there is none.
 const TCommand& FindCommand(std::string_view name);
 
 }  // namespace algo::terminal::drive

@@ -1,6 +1,5 @@
 #include "terminal/drive/event_log.h"
 
-#include <array>
 #include <memory>
 
 #include "terminal/drive/order_json.h"
@@ -57,10 +56,9 @@ void TEventLog::Unsubscribed(std::string_view symbol) {
 }
 
 TAnswerJson TEventLog::EditorEvent(std::string_view event, TEditorKind kind, const forms::TControl& control) {
-  constexpr std::array<std::string_view, 4> KindNames{"account", "symbol", "price", "quantity"};
   return {{"event", event},
           {"frame", FLabels.LabelOf(control.Frame())},
-          {"kind", KindNames[static_cast<std::size_t>(kind)]},
+          {"kind", NameOf(kind)},
           {"control", control.Name()}};
 }
 

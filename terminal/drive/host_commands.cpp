@@ -25,7 +25,7 @@ void ConfigChanged(TSession& session, const TArguments& /*arguments*/, TAnswerJs
 void Load(TSession& session, const TArguments& /*arguments*/, TAnswerJson& /*answer*/) { session.Load(); }
 
 void Unload(TSession& session, const TArguments& /*arguments*/, TAnswerJson& answer) {
-  const host::TLeftBehind left = session.Unload();
+  const host::checks::TLeftBehind left = session.Unload();
   answer["left"] = {{"channels", left.channels},
                     {"config_listeners", left.configListeners},
                     {"market_listeners", left.marketListeners},

@@ -4,6 +4,7 @@
 
 #include <memory>
 #include <string>
+#include <utility>
 
 #include "plugin/host_contract/base_view.h"
 #include "terminal/drive/module_library.h"
@@ -18,6 +19,12 @@ class TLoadedModule {
 
   host::TIBaseView& Provider() const { return *FProvider; }
   const host::TModuleEntry& Entry() const { return FLibrary.Entry(); }
+
+  /// Puts the layer that `layer` makes around the provider.
+  template <class TLayer>
+  void Watch(TLayer&& layer) {
+    FProvider = layer(std::move(FProvider));
+  }
 
   /// Destroys the provider, which closes the remaining views.
   void DestroyProvider() { FProvider.reset(); }

@@ -41,7 +41,7 @@ TSession::TSession(std::string moduleFile, TInputPlayer& input)
 TSession::~TSession() {
   try {
     if (FModule) Unload();
-  } catch (...) {  // NOLINT(bugprone-empty-catch): the script has ended, nobody is left to tell
+  } catch (...) {  // NOLINT(bugprone-empty-catch):the script has ended, no answer is left to report it in
   }
 }
 
@@ -78,9 +78,10 @@ void TSession::Load() {
   const std::string setting = FHost.Data().Setting(FHost.Data().section, "ChangeOrderShowModel");
   FChangesAreModal = !setting.starts_with('n') && !setting.starts_with('N');
   FModule.emplace(FModuleFile, this);
+  FModule->Watch([this](auto provider) { return FStrict.Watch(std::move(provider)); });
 }
 
-host::TLeftBehind TSession::Unload() {
+host::checks::TLeftBehind TSession::Unload() {
   if (!FModule) throw ECommandError("no module is loaded");
   if (FDialogs.Innermost() != nullptr) throw ECommandError("a modal dialog is showing");
   CallModule([this] { FModule->DestroyProvider(); });
@@ -88,7 +89,7 @@ host::TLeftBehind TSession::Unload() {
   // The module's code has to outlive whatever the host still holds of it; even a weak pointer to a frame that
   // is gone refers to that code.
   FLabels.RemoveExpired();
-  if (left != host::TLeftBehind{} || !FLabels.Empty()) FModule->KeepLoaded();
+  if (left != host::checks::TLeftBehind{} || !FLabels.Empty()) FModule->KeepLoaded();
   FModule.reset();
   return left;
 }

@@ -33,7 +33,7 @@ class TSession {
   void Load();
   /// Closes everything that the module has open, unloads it and returns what it left behind. Throws
   /// ECommandError if none is loaded or a modal dialog is open.
-  host::TLeftBehind Unload();
+  host::checks::TLeftBehind Unload();
 
   /// The loaded module. Throws ECommandError if there is none.
   const TLoadedModule& Module() const;
@@ -55,7 +55,7 @@ class TSession {
   TDialogs FDialogs;
   TEventLog FLog;
   TMemoryHost FHost;
-  host::TStrictHost FStrict;
+  host::checks::TStrictHost FStrict;
   std::optional<TLoadedModule> FModule;
   bool FChangesAreModal = true;
 };

@@ -8,6 +8,14 @@
 
 namespace algo::terminal {
 
+namespace {
+
+forms::TStepGrid GridFor(const TStepGridOf& gridOf, std::string_view symbol) {
+  return gridOf ? gridOf(symbol) : forms::TStepGrid();
+}
+
+}  // namespace
+
 void TMemoryEditorManager::RegisterAccountEditor(forms::TTextEdit& control, std::string_view groupId,
                                                  std::int32_t /*mode*/, std::int32_t /*options*/) {
   Register(TEditorKind::Account, control, groupId,
@@ -36,19 +44,23 @@ void TMemoryEditorManager::RemoveSymbolEditor(forms::TTextEdit& control) {
 }
 
 void TMemoryEditorManager::RemovePriceEditor(forms::TSpinEdit& control) {
+  control.SetStepGrid({});
   Remove(TEditorKind::Price, control);
 }
 
 void TMemoryEditorManager::RemoveQuantityEditor(forms::TSpinEdit& control) {
+  control.SetStepGrid({});
   Remove(TEditorKind::Quantity, control);
 }
 
 void TMemoryEditorManager::SetPriceSymbol(forms::TSpinEdit& control, std::string_view symbol) {
   SetSymbol(TEditorKind::Price, control, symbol);
+  control.SetStepGrid(GridFor(FHost.data.priceGrid, symbol));
 }
 
 void TMemoryEditorManager::SetQuantitySymbol(forms::TSpinEdit& control, std::string_view symbol) {
   SetSymbol(TEditorKind::Quantity, control, symbol);
+  control.SetStepGrid(GridFor(FHost.data.quantityGrid, symbol));
 }
 
 void TMemoryEditorManager::SetAccountLayoutAccount(forms::TTextEdit& control, std::string_view account) {

@@ -1,8 +1,8 @@
 #pragma once
 
-// The shared field editors: how the account and the symbol editor react when the focus leaves them. Prices
-// and quantities are not stepped here, since there is no mouse; which symbol they serve is reported as an
-// event.
+// The shared field editors: how the account and the symbol editor react to being left, and along which grid
+// the prices and quantities of a symbol step, if the host has been given one. Which symbol they serve is told
+// as an event too.
 
 #include <cstdint>
 #include <functional>

@@ -23,9 +23,9 @@ void TMemoryForm::Hidden() {
   if (std::erase(FShown, self) > 0) FEvents.FormClosed(*this);
 }
 
-void TMemoryForm::CalledToFront() { FEvents.FormBroughtToFront(*this); }
+void TMemoryForm::BroughtToFront() { FEvents.FormBroughtToFront(*this); }
 
-void TMemoryForm::LooksChanged() { FEvents.FormLooksChanged(*this); }
+void TMemoryForm::AppearanceChanged() { FEvents.FormAppearanceChanged(*this); }
 
 std::shared_ptr<forms::TDialogForm> TMemoryViewService::MakeDialogForm(host::TIBaseView& /*provider*/) {
   FHost.Check("form.make");

@@ -23,8 +23,8 @@ class TMemoryForm final : public forms::TDialogForm {
   void RunModal() override;
   void Shown() override;
   void Hidden() override;
-  void CalledToFront() override;
-  void LooksChanged() override;
+  void BroughtToFront() override;
+  void AppearanceChanged() override;
 
  private:
   THostEvents& FEvents;

@@ -4,6 +4,7 @@
 // them afresh at each call.
 
 #include <cstdint>
+#include <functional>
 #include <map>
 #include <set>
 #include <string>
@@ -11,6 +12,7 @@
 #include <vector>
 
 #include "forms/control.h"
+#include "forms/step_grid.h"
 #include "plugin/host_contract/market_data.h"
 #include "terminal/host/faults.h"
 
@@ -28,6 +30,8 @@ struct TProfile {
   std::string user;
 };
 
+/// The grid that the editors of prices, or of quantities, step along for a symbol; empty where none is known.
+using TStepGridOf = std::function<forms::TStepGrid(std::string_view symbol)>;
 /// The section of the settings of the whole terminal.
 inline constexpr std::string_view PlatformSection = "VANTORIX_PLATFORM";
 
@@ -45,6 +49,8 @@ struct THostData {
   /// Whether the host works the orders itself. What it filled while a change was made on a copy is then
   /// retained instead of being replaced by the copy's figures.
   bool worksOrders = false;
+  TStepGridOf priceGrid;     ///< without it, price editors step as they are set up
+  TStepGridOf quantityGrid;  ///< the same for quantity editors
   TFaults faults;
 
   /// The setting with that key; empty if there is none.

@@ -18,6 +18,9 @@ namespace algo::terminal {
 /// The kinds of shared field editors.
 enum class TEditorKind : std::uint8_t { Account, Symbol, Price, Quantity };
 
+/// "account", "symbol", "price" or "quantity".
+std::string_view NameOf(TEditorKind kind);
+
 class THostEvents {
  public:
   virtual ~THostEvents();
@@ -56,7 +59,7 @@ class THostEvents {
 
   /// Caption, client size or stay-on-top of a form changed, whether it is open or not. Does nothing, which is
   /// right for a host without windows.
-  virtual void FormLooksChanged(forms::TDialogForm& form);
+  virtual void FormAppearanceChanged(forms::TDialogForm& form);
 
   /// Plays the trader while the form shows modally. Must give the form a modal result before it returns.
   virtual void RunModal(forms::TDialogForm& form) = 0;

@@ -28,7 +28,7 @@ std::unique_ptr<TControlView> MakeControlView(forms::TControl& control, const TF
       view = std::make_unique<TTextView>(static_cast<forms::TTextEdit&>(control), input, assist, parent);
       break;
     case forms::TControlKind::Spin:
-      view = std::make_unique<TSpinView>(static_cast<forms::TSpinEdit&>(control), input, assist, parent);
+      view = std::make_unique<TSpinView>(static_cast<forms::TSpinEdit&>(control), input, parent);
       break;
     case forms::TControlKind::Date:
       view = std::make_unique<TDateView>(static_cast<forms::TDateEdit&>(control), input, parent);

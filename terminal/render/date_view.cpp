@@ -2,7 +2,6 @@
 
 #include <QCalendarWidget>
 #include <QHBoxLayout>
-#include <QLocale>
 
 #include "terminal/render/editor_line.h"
 
@@ -10,9 +9,13 @@ namespace algo::terminal::render {
 
 namespace {
 
-// As the editor writes it, whatever the desktop's locale.
-const QString DayFormat = QStringLiteral("yyyy-MM-dd");
-constexpr qsizetype DayLength = 10;
+const QDate Epoch(1970, 1, 1);
+
+QDate ToCalendar(std::chrono::local_days day) { return Epoch.addDays(day.time_since_epoch().count()); }
+
+std::chrono::local_days FromCalendar(const QDate& day) {
+  return std::chrono::local_days(std::chrono::days(Epoch.daysTo(day)));
+}
 
 }  // namespace
 
@@ -48,34 +51,24 @@ void TDateView::Show() {
 }
 
 void TDateView::OpenCalendar() {
-  if (!FInput.Focus(Control())) return;
+  if (!FInput.Focus(Control(), forms::TFocusCause::Other)) return;
   auto* calendar = new QCalendarWidget(&FContainer);
   calendar->setWindowFlag(Qt::Popup);
   calendar->setAttribute(Qt::WA_DeleteOnClose);
   calendar->setObjectName(QStringLiteral("calendar"));
   calendar->setVerticalHeaderFormat(QCalendarWidget::NoVerticalHeader);
-  const QDate day = QDate::fromString(FLine.text().left(DayLength), DayFormat);
-  if (day.isValid()) calendar->setSelectedDate(day);
-  QObject::connect(calendar, &QCalendarWidget::activated, &FContainer, [this, calendar](const QDate& picked) {
-    TakeDay(picked);
+  const auto entered = static_cast<const forms::TDateEdit&>(Control()).EnteredValue();
+  if (entered) calendar->setSelectedDate(ToCalendar(std::chrono::floor<std::chrono::days>(*entered)));
+  // The calendar may outlive this view, which goes with the frame.
+  const auto pick = [&input = FInput, &control = Control(), calendar](const QDate& picked) {
+    input.PickDay(control, FromCalendar(picked));
     calendar->close();
-  });
-  QObject::connect(calendar, &QCalendarWidget::clicked, &FContainer, [this, calendar](const QDate& picked) {
-    TakeDay(picked);
-    calendar->close();
-  });
+  };
+  QObject::connect(calendar, &QCalendarWidget::activated, &FContainer, pick);
+  QObject::connect(calendar, &QCalendarWidget::clicked, &FContainer, pick);
   calendar->move(FContainer.mapToGlobal(QPoint(0, FContainer.height())));
   calendar->show();
   calendar->setFocus();
-}
-
-void TDateView::TakeDay(const QDate& day) {
-  if (!FInput.Frame()) return;
-  const auto& editor = static_cast<const forms::TDateEdit&>(Control());
-  QString text = QLocale::c().toString(day, DayFormat);
-  const QString time = FLine.text().mid(DayLength);
-  text += editor.PickKeepsTime() && !time.isEmpty() ? time : QStringLiteral(" 00:00:00");
-  FInput.Typed(Control(), text);
 }
 
 }  // namespace algo::terminal::render

@@ -23,7 +23,6 @@ class TDateView final : public TControlView {
 
  private:
   void OpenCalendar();
-  void TakeDay(const QDate& day);
 
   const TFrameInput& FInput;
   QWidget& FContainer;

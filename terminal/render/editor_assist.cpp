@@ -9,8 +9,4 @@ std::vector<TCompletion> TEditorAssist::Completions(const forms::TTextEdit& /*ed
   return {};
 }
 
-double TEditorAssist::Stepped(const forms::TSpinEdit& editor, double value, std::int32_t steps) const {
-  return value + steps * editor.Step();
-}
-
 }  // namespace algo::terminal::render

@@ -5,7 +5,7 @@
 
 #include <QLineEdit>
 
-#include "forms/editors.h"
+#include "forms/editor.h"
 #include "terminal/render/frame_input.h"
 
 namespace algo::terminal::render {

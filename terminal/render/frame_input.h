@@ -3,6 +3,7 @@
 // Passes the trader's input from the widgets to the form model, as long as the frame exists.
 
 #include <QString>
+#include <chrono>
 #include <memory>
 
 #include "forms/frame.h"
@@ -17,7 +18,7 @@ class TFrameInput {
   /// The frame, or nullptr if it is gone; then none of its controls may be used.
   std::shared_ptr<forms::TFrame> Frame() const { return FFrame.lock(); }
 
-  /// Releases the frame, which is being destroyed.
+  /// Releases a frame that is being destroyed.
   void Release() { FFrame.reset(); }
 
   /// See TFrame's operations of the same names. False if the frame is gone or did not take the input.
@@ -33,8 +34,14 @@ class TFrameInput {
   bool Enter(forms::TControl& control) const {
     return Send([&](forms::TFrame& frame) { return frame.InputEnter(control); });
   }
-  bool Focus(forms::TControl& control) const {
-    return Send([&](forms::TFrame& frame) { return frame.InputFocus(control); });
+  bool Step(forms::TControl& control, int steps) const {
+    return Send([&](forms::TFrame& frame) { return frame.InputStep(control, steps); });
+  }
+  bool PickDay(forms::TControl& control, std::chrono::local_days day) const {
+    return Send([&](forms::TFrame& frame) { return frame.InputPickDay(control, day); });
+  }
+  bool Focus(forms::TControl& control, forms::TFocusCause cause) const {
+    return Send([&](forms::TFrame& frame) { return frame.InputFocus(control, cause); });
   }
   void Leave() const {
     if (const auto frame = FFrame.lock()) frame->InputLeave();

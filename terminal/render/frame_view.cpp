@@ -12,8 +12,13 @@ namespace algo::terminal::render {
 
 namespace {
 
-/// Activates all layouts below the widget, innermost first. Otherwise Qt would work its way up one event at a
-/// time, and paint after each.
+forms::TFocusCause CauseOf(const QFocusEvent& event) {
+  const bool byKey = event.reason() == Qt::TabFocusReason || event.reason() == Qt::BacktabFocusReason;
+  return byKey ? forms::TFocusCause::Tab : forms::TFocusCause::Other;
+}
+
+/// Lays out everything below the widget, innermost first: by itself Qt works its way up an event at a time,
+/// and each would be painted.
 void Settle(QWidget& widget) {
   for (QObject* child : widget.children()) {
     if (child->isWidgetType()) Settle(static_cast<QWidget&>(*child));
@@ -47,11 +52,10 @@ TFrameView::~TFrameView() {
 void TFrameView::FocusFirst() {
   const auto frame = FInput.Frame();
   if (!frame) return;
-  for (const auto& control : frame->Controls()) {
-    if (!control->CanFocus() || control->ReadOnly()) continue;
-    FInput.Focus(*control);
-    return;
-  }
+  constexpr auto Forward = forms::TTabDirection::Forward;
+  forms::TControl* first = frame->Layout().NextInTabOrder(nullptr, Forward);
+  while (first != nullptr && first->ReadOnly()) first = frame->Layout().NextInTabOrder(first, Forward);
+  if (first != nullptr) FInput.Focus(*first, forms::TFocusCause::Other);
 }
 
 TControlView* TFrameView::Find(const forms::TControl& control) const {
@@ -75,15 +79,13 @@ QWidget& TFrameView::MakeControl(forms::TControl& control, QWidget& parent) {
 }
 
 void TFrameView::ChainTabs(const forms::TFrame& frame) {
-  if (FChained == FViews.size()) return;
-  FChained = FViews.size();
-  QWidget* before = nullptr;
-  for (const auto& control : frame.Controls()) {
-    const TControlView* view = Find(*control);
-    if (view == nullptr) continue;
-    if (before != nullptr) setTabOrder(before, &view->Input());
-    before = &view->Input();
+  std::vector<QWidget*> chain;
+  for (const forms::TControl* control : frame.Layout().TabOrder()) {
+    if (const TControlView* view = Find(*control)) chain.push_back(&view->Input());
   }
+  if (FTabChain == chain) return;
+  FTabChain = std::move(chain);
+  for (std::size_t i = 1; i < FTabChain.size(); ++i) setTabOrder(FTabChain[i - 1], FTabChain[i]);
 }
 
 void TFrameView::ShowAll(const forms::TFrame& frame) {
@@ -134,7 +136,7 @@ void TFrameView::FocusChanged() {
   }
 }
 
-void TFrameView::FrameGone() {
+void TFrameView::FrameDestroyed() {
   for (const auto& [input, view] : FByInput) const_cast<QObject*>(input)->removeEventFilter(this);
   FByInput.clear();
   FViews.clear();
@@ -151,7 +153,7 @@ void TFrameView::DesktopFocusChanged(QWidget* before, QWidget* now) {
   if (!frame) return;
   if (now != nullptr && isAncestorOf(now)) {
     if (TControlView* view = ViewOf(now); view != nullptr && frame->Focused() != &view->Control()) {
-      FInput.Focus(view->Control());
+      FInput.Focus(view->Control(), FFocusCause);
     }
     return;
   }
@@ -169,6 +171,7 @@ TControlView* TFrameView::ViewOf(const QObject* watched) const {
 bool TFrameView::eventFilter(QObject* watched, QEvent* event) {
   TControlView* view = FInput.Frame() ? ViewOf(watched) : nullptr;
   if (view == nullptr) return false;
+  if (event->type() == QEvent::FocusIn) FFocusCause = CauseOf(static_cast<const QFocusEvent&>(*event));
   if (event->type() == QEvent::KeyPress) return FilterKey(*view, *event);
   if (watched->isWidgetType()) FilterMouse(*view, *event);
   return false;
@@ -177,6 +180,10 @@ bool TFrameView::eventFilter(QObject* watched, QEvent* event) {
 bool TFrameView::FilterKey(TControlView& view, const QEvent& event) {
   const auto& key = static_cast<const QKeyEvent&>(event);
   const bool isEnter = key.key() == Qt::Key_Return || key.key() == Qt::Key_Enter;
+  // From here on it is for the keys to say what of the line is selected.
+  if (auto* editor = dynamic_cast<forms::TEditor*>(&view.Control()); editor != nullptr && !isEnter) {
+    editor->MoveCaretToEnd();
+  }
   if (!isEnter || (key.modifiers() & ~Qt::KeypadModifier) != Qt::NoModifier) return false;
   if (auto* line = qobject_cast<QLineEdit*>(&view.Input()); line != nullptr && EnterMeansCompletion(*line)) {
     return false;

@@ -7,6 +7,7 @@
 #include <QWidget>
 #include <memory>
 #include <unordered_map>
+#include <vector>
 
 #include "forms/frame.h"
 #include "terminal/render/control_view.h"
@@ -40,7 +41,7 @@ class TFrameView final : public QWidget, private forms::TFrameObserver {
   void ControlChanged(const forms::TControl& control) override;
   void LayoutChanged() override;
   void FocusChanged() override;
-  void FrameGone() override;
+  void FrameDestroyed() override;
 
   QWidget& MakeControl(forms::TControl& control, QWidget& parent);
   void ChainTabs(const forms::TFrame& frame);
@@ -58,7 +59,8 @@ class TFrameView final : public QWidget, private forms::TFrameObserver {
   std::unique_ptr<TLayoutView> FLayout;
   std::unordered_map<const forms::TControl*, std::unique_ptr<TControlView>> FViews;
   std::unordered_map<const QObject*, TControlView*> FByInput;
-  std::size_t FChained = 0;  ///< the number of views when the tab order was last set
+  std::vector<QWidget*> FTabChain;  ///< the widgets in the order in which Tab goes through them now
+  forms::TFocusCause FFocusCause = forms::TFocusCause::Other;  ///< how the focus came last
 };
 
 }  // namespace algo::terminal::render

@@ -11,8 +11,7 @@ namespace algo::terminal::render {
 
 class TSpinView final : public TControlView {
  public:
-  TSpinView(forms::TSpinEdit& control, const TFrameInput& input, const TEditorAssist& assist,
-            QWidget& parent);
+  TSpinView(forms::TSpinEdit& control, const TFrameInput& input, QWidget& parent);
 
   QWidget& Widget() const override;
   QString ShownText() const override;

@@ -10,7 +10,7 @@ struct TPlayedForm final : TDialogForm {
   void RunModal() override { play(*this); }
   void Shown() override { notes->push_back("shown"); }
   void Hidden() override { notes->push_back("hidden"); }
-  void CalledToFront() override { notes->push_back("front"); }
+  void BroughtToFront() override { notes->push_back("front"); }
   void Freed() override { notes->push_back("freed"); }
 
   std::function<void(TPlayedForm&)> play = [](TPlayedForm& form) { form.SetModalResult(ModalOk); };

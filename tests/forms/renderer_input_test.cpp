@@ -62,40 +62,43 @@ TEST_F(TRendererInput, TypingNeedsAnEditorThatTakesInput) {
   EXPECT_EQ(line.Text(), "");
 }
 
-TEST_F(TRendererInput, TheFocusComesByKeyWithoutAClick) {
-  frame->InputFocus(line);
+TEST_F(TRendererInput, TheFocusComesWithoutAClick) {
+  frame->InputFocus(line, TFocusCause::Other);
   notes.clear();
-  EXPECT_EQ(frame->InputFocus(number), TInputResult::Taken);
+  EXPECT_EQ(frame->InputFocus(number, TFocusCause::Other), TInputResult::Taken);
   EXPECT_TRUE(number.Focused());
   EXPECT_EQ(notes, (TNotes{"line left"}));
   number.SetEnabled(false);
-  EXPECT_EQ(frame->InputFocus(number), TInputResult::Disabled);
+  EXPECT_EQ(frame->InputFocus(number, TFocusCause::Other), TInputResult::Disabled);
 }
 
-struct TGoneNote final : TFrameObserver {
-  void ControlChanged(const TControl& /*control*/) override {}
+struct TCounts final : TFrameObserver {
+  void ControlChanged(const TControl& /*control*/) override { ++changes; }
   void LayoutChanged() override {}
   void FocusChanged() override {}
-  void FrameGone() override { ++gone; }
+  void FrameDestroyed() override { ++gone; }
+  int changes = 0;
   int gone = 0;
 };
 
-TEST_F(TRendererInput, AnObserverIsToldWhenTheFrameGoes) {
-  TGoneNote stays;
-  TGoneNote left;
+TEST_F(TRendererInput, ATypedNumberIsShownOnceHoweverLongItIs) {
+  frame->InputFocus(number, TFocusCause::Other);
+  TCounts counts;
+  frame->AddObserver(counts);
+  frame->InputText(number, std::string(160000, '1'));
+  EXPECT_EQ(counts.changes, 1);
+  frame->RemoveObserver(counts);
+}
+
+TEST_F(TRendererInput, AnObserverIsNotifiedWhenTheFrameIsDestroyed) {
+  TCounts stays;
+  TCounts left;
   frame->AddObserver(stays);
   frame->AddObserver(left);
   frame->RemoveObserver(left);
   frame.reset();
   EXPECT_EQ(stays.gone, 1);
   EXPECT_EQ(left.gone, 0);
-}
-
-TEST_F(TRendererInput, ADateKeepsTheTimeOfAPickedDayWhereItIsToldTo) {
-  auto& date = frame->Place<TDateEdit>("date");
-  EXPECT_FALSE(date.PickKeepsTime());
-  date.SetPickKeepsTime(true);
-  EXPECT_TRUE(date.PickKeepsTime());
 }
 
 }  // namespace

@@ -3,6 +3,8 @@
 // A small form for the tests of the form model: a top group with one item for each control, and helpers that
 // note what happens to them.
 
+#include <cstdint>
+#include <limits>
 #include <memory>
 #include <string>
 #include <vector>
@@ -14,6 +16,10 @@ namespace algo::forms::tests {
 
 /// What happened, in order.
 using TNotes = std::vector<std::string>;
+
+/// More steps than any trader takes at once.
+inline constexpr auto MostSteps = std::numeric_limits<std::int32_t>::max();
+inline constexpr auto LeastSteps = std::numeric_limits<std::int32_t>::min();
 
 class TSampleFrame : public TFrame {
  public:

@@ -22,6 +22,14 @@ TEST_F(TTextEditTest, ChangesWithEachKey) {
   EXPECT_EQ(texts, (TNotes{"a", "ab"}));
 }
 
+TEST_F(TTextEditTest, ATextIsTypedOntoWhatAHandlerMadeOfTheKeysBefore) {
+  edit.OnChange = [&] {
+    if (edit.Text() == "ab") edit.SetText("AB");
+  };
+  frame.InputText(edit, "abc");
+  EXPECT_EQ(edit.Text(), "ABc");
+}
+
 TEST_F(TTextEditTest, TypingReplacesWhatWasThere) {
   edit.SetText("old");
   frame.InputText(edit, "new");

@@ -136,7 +136,7 @@ TEST(AlgoRules, LookAtNoOtherField) {
   for (const TAlgoRow& row : AlgoRows()) {
     TParamValues values;
     for (const TParamRow& param : ParamRows()) {
-      if (param.kind == TValueKind::Number) values.SetNumber(param.param, -1e9);
+      if (IsNumber(param.kind)) values.SetNumber(param.param, -1e9);
     }
     for (const TCase& field : AllCases) {
       if (field.code == row.code) values.SetNumber(field.param, std::nullopt);
@@ -161,7 +161,7 @@ TEST(AlgoRules, AreNoneForTheSimplestAlgorithms) {
   for (const std::string_view code : {"CLOSE", "OPEN", "SHORT SELL"}) {
     TParamValues values;
     for (const TParamRow& param : ParamRows()) {
-      if (param.kind == TValueKind::Number) values.SetNumber(param.param, -1);
+      if (IsNumber(param.kind)) values.SetNumber(param.param, -1);
     }
     EXPECT_EQ(Check(code, values), std::nullopt) << code;
   }
@@ -252,6 +252,23 @@ TEST(AlgoRules, TellTheFirstBrokenRuleAlone) {
     }
     EXPECT_EQ(Check(sequence.code, values), std::nullopt) << sequence.code;
   }
+}
+
+TEST(AlgoRules, CanIncludeTheirUpperLimit) {
+  const TAlgoRow row{
+      .code = "SAMPLE",
+      .resourceId = "Res_Sample",
+      .rules = {{VolPct, {TComparison::AtMost, 0}, TTest{TComparison::Above, 50}, "Res_Refused"}}};
+  const auto refuses = [&row](std::optional<double> value) {
+    TParamValues values;
+    values.SetNumber(VolPct, value);
+    return CheckAlgoRules(row, values).has_value();
+  };
+  EXPECT_TRUE(refuses(0));
+  EXPECT_FALSE(refuses(0.01));
+  EXPECT_FALSE(refuses(50));
+  EXPECT_TRUE(refuses(50.01));
+  EXPECT_FALSE(refuses(std::nullopt));
 }
 
 TEST(AlgoRules, AreAllTestedHere) {

@@ -182,7 +182,7 @@ TEST(Composing, HasRoomForTheLongestNumberInEveryPiece) {
     TParamValues values = EverythingGiven();
     for (const TPiece& piece : row.pieces) {
       const bool open = piece.below > 1e300;
-      if (ParamRow(piece.param).kind == TValueKind::Number) {
+      if (IsNumber(ParamRow(piece.param).kind)) {
         values.SetNumber(piece.param, open ? 1.7976931348623157e308 : 4.9406564584124654e-324);
       }
     }

@@ -63,7 +63,7 @@ TEST(Locale, ChangesNothingInWhatIsRead) {
   EXPECT_EQ(DecodeValue(TParam::WPx, "10.5").number, 10.5);
   EXPECT_EQ(DecodeValue(TParam::WPx, "10,5").number, 0);
   EXPECT_EQ(DecodeValue(TParam::STime, "20240115-09:30:00").time, At(9, 30));
-  EXPECT_EQ(FindAlgoByCode("iceberg")->algo, TAlgo::ICEBERG);
+  EXPECT_EQ(FindAlgoByCode("iceberg")->code, "ICEBERG");
   EXPECT_EQ(AutoTriggerBits(0x800, 10.5, "10.5", "1", ""), 0x800U);
 }
 

@@ -6,21 +6,36 @@
 #include <string_view>
 #include <vector>
 
+#include "plugin/host_contract/flags/order_flags.h"
+
 namespace algo::model {
 namespace {
 
 TEST(OrderTypes, StandInTheCatalogueWithRightFlagsAndPrice) {
-  const std::vector<TOrderTypeRow> expected{
-      {"LO", "", "Res_OrderType_Limit", true, TFlagWord::None, 0, false},
-      {"MO", "OEMarketOrder", "Res_OrderType_Market", false, TFlagWord::OrderType, 1, false},
-      {"StopMarket", "OEStopM", "Res_OrderType_StopMarket", false, TFlagWord::OrderType, 4, true},
-      {"StopLimit", "OEStopL", "Res_OrderType_StopLimit", true, TFlagWord::OrderType, 0x800, true},
-      {"AO", "OEAO", "Res_OrderType_AO", false, TFlagWord::OrderType, 0x200, false},
-      {"ALO", "OEALO", "Res_OrderType_ALO", true, TFlagWord::OrderType, 0x200, false},
-      {"ELO", "OEEnhanced", "Res_OrderType_ELO", true, TFlagWord::OrderType, 0x400, false},
-      {"MOO", "OEMarketOnOpen", "Res_OrderType_MOO", false, TFlagWord::Auction, 0x4000, false},
-      {"MOC", "OEMarketOnClose", "Res_OrderType_MOC", false, TFlagWord::Auction, 0x8000, false},
-      {"LOC", "OELOC", "Res_OrderType_LOC", true, TFlagWord::Auction, 0x1000, false},
+  using enum TPriceTold;
+  struct TExpected {
+    std::string_view code;
+    std::string_view right;
+    std::string_view resourceId;
+    bool keepsPrice;
+    TFlagWord word;
+    std::uint32_t bits;
+    TPriceTold priceTold;
+    bool autoTrigger;
+    bool marketChildren;
+  };
+  const std::vector<TExpected> expected{
+      {"LO", "", "Res_OrderType_Limit", true, TFlagWord::None, 0, Any, false, false},
+      {"MO", "OEMarketOrder", "Res_OrderType_Market", false, TFlagWord::OrderType, 1, Any, false, true},
+      {"StopMarket", "OEStopM", "Res_OrderType_StopMarket", false, TFlagWord::OrderType, 4, Any, true, false},
+      {"StopLimit", "OEStopL", "Res_OrderType_StopLimit", true, TFlagWord::OrderType, 0x800, Any, true,
+       false},
+      {"AO", "OEAO", "Res_OrderType_AO", false, TFlagWord::OrderType, 0x200, WithoutPrice, false, false},
+      {"ALO", "OEALO", "Res_OrderType_ALO", true, TFlagWord::OrderType, 0x200, WithPrice, false, false},
+      {"ELO", "OEEnhanced", "Res_OrderType_ELO", true, TFlagWord::OrderType, 0x400, Any, false, false},
+      {"MOO", "OEMarketOnOpen", "Res_OrderType_MOO", false, TFlagWord::Auction, 0x4000, Any, false, false},
+      {"MOC", "OEMarketOnClose", "Res_OrderType_MOC", false, TFlagWord::Auction, 0x8000, Any, false, false},
+      {"LOC", "OELOC", "Res_OrderType_LOC", true, TFlagWord::Auction, 0x1000, Any, false, false},
   };
   ASSERT_EQ(OrderTypeRows().size(), expected.size());
   for (std::size_t i = 0; i < expected.size(); ++i) {
@@ -31,7 +46,9 @@ TEST(OrderTypes, StandInTheCatalogueWithRightFlagsAndPrice) {
     EXPECT_EQ(row.keepsPrice, expected[i].keepsPrice) << row.code;
     EXPECT_EQ(row.word, expected[i].word) << row.code;
     EXPECT_EQ(row.bits, expected[i].bits) << row.code;
+    EXPECT_EQ(row.priceTold, expected[i].priceTold) << row.code;
     EXPECT_EQ(row.autoTrigger, expected[i].autoTrigger) << row.code;
+    EXPECT_EQ(row.marketChildren, expected[i].marketChildren) << row.code;
   }
 }
 
@@ -44,7 +61,7 @@ TEST(OrderTypes, AreFoundWhateverTheLetterCase) {
   EXPECT_EQ(FindOrderTypeById("LO"), nullptr);
 }
 
-TEST(OrderTypes, MarkANativeAlgoOrderByOneBit) { EXPECT_EQ(NativeAlgoBit, 0x8000U); }
+TEST(OrderTypes, MarkANativeAlgoOrderByOneBit) { EXPECT_EQ(host::flags::NativeAlgo, 0x8000U); }
 
 TEST(AutoTrigger, ComparesTheTriggerWithTheReferencePrice) {
   EXPECT_EQ(AutoTriggerBits(0x800, 10.5, "10", "9", ""), 0x800000U);

@@ -98,7 +98,7 @@ TEST(ParameterText, KeepsWhatFollowsTheFirstEqualsSignOfAPiece) {
 
 TEST(ParameterText, IsLoadedKeyByKeyInAFixedOrder) {
   TTexts keys;
-  for (const TParam param : LoadSteps()) keys.push_back(ParamRow(param).key);
+  for (const TParamRow& row : ParamRows()) keys.push_back(row.key);
   EXPECT_EQ(keys, (TTexts{"STime",      "ETime",       "Timeout",    "VolPct",    "AccuVol",   "Opening",
                           "Closing",    "MinOrdAmt",   "Style",      "WPx",       "ThrPx1",    "ThrPx2",
                           "ThrVolPct1", "ThrVolPct2",  "Waves",      "MaxVolPct", "OpenPct",   "ClosePct",

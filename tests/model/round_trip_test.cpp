@@ -20,7 +20,7 @@ class TRandomValues {
     TParamValues values;
     for (const TParamRow& row : ParamRows()) {
       if (Below(4) == 0) continue;
-      if (row.kind == TValueKind::Number) values.SetNumber(row.param, Number());
+      if (IsNumber(row.kind)) values.SetNumber(row.param, Number());
       if (row.kind == TValueKind::Choice)
         values.SetChoice(row.param, static_cast<std::int32_t>(Below(20)) - 1);
       if (row.kind == TValueKind::Time) values.SetTime(row.param, Time());
@@ -60,7 +60,8 @@ class TRandomValues {
 
 TParamValues Load(const TSplitText& split) {
   TParamValues values;
-  for (const TParam param : LoadSteps()) {
+  for (const TParamRow& row : ParamRows()) {
+    const TParam param = row.param;
     const auto value = PieceValue(split.pieces, ParamRow(param).key);
     if (!value) continue;
     const TDecoded decoded = DecodeValue(param, *value);

@@ -1,4 +1,5 @@
-// A host that does things of its own while it is called: it closes forms, drops the provider and sends news.
+// A host that does things of its own while it is called: it closes forms, destroys the provider and sends
+// notifications.
 
 #include <utility>
 
@@ -72,7 +73,7 @@ TEST_F(BusyHost, AFormMayBeClosedWhileItsOwnActionIsTaken) {
       auto& frame = FrameIn(*form);
       Shown().clear();
       actions->meanwhile = [&] {
-        withProvider ? DropProvider() : form->Close();
+        withProvider ? DestroyProvider() : form->Close();
         if (!kept) form.reset();
       };
       frame.InputClick(Named(frame, "btnBuy"));
@@ -87,13 +88,13 @@ TEST_F(BusyHost, AFormMayBeClosedWhileItsOwnActionIsTaken) {
 TEST_F(BusyHost, TheProviderMayGoWhileAnActionIsTaken) {
   for (const TOrderAction action : AllActions) {
     host::TInstalledService<TBusyActions> actions;
-    actions->meanwhile = [this] { DropProvider(); };
+    actions->meanwhile = [this] { DestroyProvider(); };
     TCustomClientOrder order = ParentOrder();
     Provider();
     InDialogs({[](forms::TDialogForm& form) { form.SetModalResult(forms::ModalOk); }});
     EXPECT_EQ(Post(&order, action), action == TOrderAction::New);
     EXPECT_EQ(actions->keys, std::vector<std::string>{"P1"});
-    EXPECT_EQ(LeftBehind(), host::TLeftBehind());
+    EXPECT_EQ(LeftBehind(), host::checks::TLeftBehind());
   }
 }
 
@@ -129,11 +130,11 @@ TEST_F(BusyHost, AFormMayBeClosedByAnEditorOfItsOwn) {
   EXPECT_EQ(LeftBehind().forms, 0U);
 }
 
-TEST_F(BusyHost, AFormThatGoesHearsNoMoreNews) {
+TEST_F(BusyHost, AFormThatGoesTakesNoMoreNotifications) {
   TCustomClientOrder order = OrderWith("TMLO:AlgoId=TVOL;");
   const auto form = OpenChange(order);
   auto& frame = FrameIn(*form);
-  EXPECT_TRUE(frame.Check(views::TField::cbPopup).Checked());
+  EXPECT_TRUE(frame.Check(views::entry::TField::cbPopup).Checked());
   Data().config["USER"]["ConfirmationPlaceOrd"] = "Y";
   Forget();
   int removed = 0;
@@ -153,7 +154,7 @@ TEST_F(BusyHost, AFormThatGoesHearsNoMoreNews) {
   form->Close();
   FOnEditorRemoved = nullptr;
   EXPECT_EQ(removed, 13);
-  EXPECT_TRUE(frame.Check(views::TField::cbPopup).Checked());
+  EXPECT_TRUE(frame.Check(views::entry::TField::cbPopup).Checked());
   EXPECT_EQ(Named(frame, "edtSymbol").Text(), "0005");
   EXPECT_TRUE(Seen("view_notify").empty());
   EXPECT_TRUE(Seen("take_action").empty());

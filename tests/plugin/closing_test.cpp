@@ -1,5 +1,5 @@
-// Views that are closed at odd moments: from inside a notification, by a host that fails at it, and with news
-// still to come.
+// Views that are closed at odd moments: from inside a notification, by a host that fails at it, and with
+// notifications still to come.
 
 #include <functional>
 #include <string>
@@ -13,11 +13,11 @@ namespace algo::tests {
 namespace {
 
 using TTexts = std::vector<std::string>;
-using views::TField;
+using views::entry::TField;
 
 class ClosingTest : public TTerminalTest {
  protected:
-  std::function<void()> OnNotice;  ///< what the host does when it is told that a view changed, once
+  std::function<void()> OnNotice;  ///< what the host does when it is notified that a view changed, once
   int Notices = 0;
 
  private:
@@ -39,7 +39,7 @@ TEST_F(ClosingTest, AViewMayBeClosedWhileItTellsTheHostOfItsSkin) {
   EXPECT_TRUE(provider.ContainView(second));
 }
 
-TEST_F(ClosingTest, AViewThatAnotherOneHasClosedMeanwhileIsToldNothing) {
+TEST_F(ClosingTest, AViewThatAnotherOneHasClosedMeanwhileIsNotNotified) {
   auto& provider = Provider();
   provider.OpenNewInstance();
   const auto second = provider.OpenNewInstance();
@@ -54,10 +54,10 @@ TEST_F(ClosingTest, AViewMayBeClosedByThePickThatChangesIt) {
   auto& frame = OpenFilled();
   OnNotice = [&] { Provider().CloseInstance(host::HandleOf(frame)); };
   Pick(frame, "cmbOrderType", "Res_Algo_OrderType_PEG");
-  EXPECT_EQ(LeftBehind(), host::TLeftBehind{.channels = 1});
+  EXPECT_EQ(LeftBehind(), host::checks::TLeftBehind{.channels = 1});
 }
 
-TEST_F(ClosingTest, AViewThatWasClosedHearsNothingAnyMore) {
+TEST_F(ClosingTest, AViewThatWasClosedTakesNoMoreNotifications) {
   auto& provider = Provider();
   const auto handle = host::HandleOf(OpenFilled());
   const auto frame = provider.FindView(handle);  // held on to, as a handler that runs would
@@ -76,13 +76,13 @@ TEST_F(ClosingTest, AViewThatWasClosedHearsNothingAnyMore) {
   EXPECT_EQ(Notices, 0);
 }
 
-TEST_F(ClosingTest, AFailureToLeaveOneServiceIsToldOnceAndSparesNoOther) {
+TEST_F(ClosingTest, AFailureToLeaveOneServiceIsReportedOnceAndSparesNoOther) {
   const auto handle = host::HandleOf(OpenFilled());
   Data().faults.Set({"subscribe.remove"});
   Provider().CloseInstance(handle);
   EXPECT_EQ(Told(), TTexts{"The host fails at subscribe.remove"});
   EXPECT_FALSE(Provider().ContainView(handle));
-  EXPECT_EQ(LeftBehind(), (host::TLeftBehind{.channels = 1, .subscriptions = 1}));
+  EXPECT_EQ(LeftBehind(), (host::checks::TLeftBehind{.channels = 1, .subscriptions = 1}));
   // The host still has the listener of a frame that is gone.
   Data().faults.Set({});
   Forget();

@@ -64,19 +64,19 @@ TEST_F(CyclesTest, ManyViewsOpenedUsedAndClosedLeaveNothingBehind) {
     Forget();
   });
   EXPECT_EQ(opened, WarmUp + Views);
-  EXPECT_EQ(LeftBehind(), host::TLeftBehind{.channels = 1});
-  DropProvider();
-  EXPECT_EQ(LeftBehind(), host::TLeftBehind());
+  EXPECT_EQ(LeftBehind(), host::checks::TLeftBehind{.channels = 1});
+  DestroyProvider();
+  EXPECT_EQ(LeftBehind(), host::checks::TLeftBehind());
 }
 
 TEST_F(CyclesTest, ProvidersThatComeAndGoWithOpenViewsLeaveNothingBehind) {
   ExpectNoGrowth(Providers, [&] {
     OpenFilled();
     Open();
-    DropProvider();
+    DestroyProvider();
     Forget();
   });
-  EXPECT_EQ(LeftBehind(), host::TLeftBehind());
+  EXPECT_EQ(LeftBehind(), host::checks::TLeftBehind());
 }
 
 }  // namespace

@@ -51,51 +51,44 @@ TEST_F(HostFaults, LeaveNothingOfAViewThatDidNotOpen) {
   }
 }
 
-TEST_F(HostFaults, SendNoOrderWhereSubmittingRunsIntoThem) {
-  const TTexts fails{"orders.new", "account.known", "action.take"};
-  for (const char* fault : Faults) {
-    SCOPED_TRACE(fault);
-    Prepare();
-    auto& frame = OpenFilled();
-    Data().faults.Set({fault});
-    Click(frame, "btnSubmit");
-    const bool failed = std::find(fails.begin(), fails.end(), fault) != fails.end();
-    EXPECT_EQ(Told(), failed ? TTexts{"The host fails at " + std::string(fault)} : TTexts{});
-    EXPECT_EQ(Seen("take_action").size(), failed ? 0U : 1U);
-    EXPECT_EQ(LeftBehind().orders, 0U);
-    Data().faults.Set({});
-    ExpectUsable(frame);
-    ExpectNothingLeft();
+class FaultySubmits : public HostFaults {
+ protected:
+  /// Submits a filled form at each fault. `fails` are the faults that keep the order from being sent.
+  void SubmitAtEachFault(const TTexts& fails, const std::string& confirmed) {
+    for (const char* fault : Faults) {
+      SCOPED_TRACE(fault);
+      Prepare();
+      Data().config["USER"]["ConfirmationPlaceOrd"] = confirmed;
+      auto& frame = OpenFilled();
+      InDialogs({[this](forms::TDialogForm& form) { Click(*form.Frame(), "btnBuy"); }});
+      Data().faults.Set({fault});
+      Click(frame, "btnSubmit");
+      const bool failed = std::find(fails.begin(), fails.end(), fault) != fails.end();
+      EXPECT_EQ(Told(), failed ? TTexts{"The host fails at " + std::string(fault)} : TTexts{});
+      EXPECT_EQ(Seen("take_action").size(), failed ? 0U : 1U);
+      EXPECT_EQ(LeftBehind().orders, 0U);
+      Data().faults.Set({});
+      InDialogs({});
+      ExpectUsable(frame);
+      ExpectNothingLeft();
+    }
   }
+};
+
+TEST_F(FaultySubmits, SendNoOrderThatRunsIntoAFault) {
+  SubmitAtEachFault({"orders.new", "account.known", "action.take"}, "N");
 }
 
-TEST_F(HostFaults, SendNoOrderWhoseConfirmationRunsIntoThem) {
-  const TTexts fails{"config.read",   "language.text",   "profile.right",     "profile.data",
-                     "orders.list",   "orders.new",      "action.take",       "channel.post",
-                     "skin.color",    "account.known",   "channel.subscribe", "market.listen",
-                     "subscribe.add", "editor.register", "editor.symbol",     "form.make",
-                     "view.notify"};
-  for (const char* fault : Faults) {
-    SCOPED_TRACE(fault);
-    Prepare();
-    Data().config["USER"]["ConfirmationPlaceOrd"] = "Y";
-    auto& frame = OpenFilled();
-    Data().faults.Set({fault});
-    InDialogs({[this](forms::TDialogForm& form) { Click(*form.Frame(), "btnBuy"); }});
-    Click(frame, "btnSubmit");
-    const bool failed = std::find(fails.begin(), fails.end(), fault) != fails.end();
-    EXPECT_EQ(Told(), failed ? TTexts{"The host fails at " + std::string(fault)} : TTexts{});
-    EXPECT_EQ(Seen("take_action").size(), failed ? 0U : 1U);
-    EXPECT_EQ(LeftBehind().orders, 0U);
-    Data().faults.Set({});
-    InDialogs({});
-    ExpectUsable(frame);
-    ExpectNothingLeft();
-  }
+TEST_F(FaultySubmits, SendNoOrderWhoseConfirmationRunsIntoAFault) {
+  SubmitAtEachFault(
+      {"config.read", "language.text", "profile.right", "profile.data", "orders.list", "orders.new",
+       "action.take", "channel.post", "skin.color", "account.known", "channel.subscribe", "market.listen",
+       "subscribe.add", "editor.register", "editor.symbol", "form.make", "view.notify"},
+      "Y");
 }
 
-TEST_F(HostFaults, TellARefusedOrderAtMostOnce) {
-  // The message box itself may fail: then the failure is told through what is left of it, or not at all.
+TEST_F(HostFaults, ReportARefusedOrderAtMostOnce) {
+  // The message box itself may fail: then the failure is reported through what is left of it, or not at all.
   struct TRow {
     const char* fault;
     const char* quantity;
@@ -135,11 +128,11 @@ TEST_F(HostFaults, LetAViewGoAllTheSame) {
     EXPECT_FALSE(Provider().ContainView(handle));
     const bool refused = fault == std::string("subscribe.remove");
     EXPECT_EQ(Told(), refused ? TTexts{"The host fails at subscribe.remove"} : TTexts{});
-    host::TLeftBehind expected;
+    host::checks::TLeftBehind expected;
     expected.channels = 1;  // the provider's own
     expected.subscriptions = refused ? 1 : 0;
     EXPECT_TRUE(LeftBehind() == expected);
-    // News for the view that is gone, where the host still has its listener.
+    // A notification for the view that is gone, where the host still has its listener.
     Host().SetMarket("0005", 1, {{3, "61"}}, terminal::TMarketNotice::Item);
     Data().faults.Set({});
     ExpectNothingLeft(refused);
@@ -152,7 +145,7 @@ TEST_F(HostFaults, LetAProviderGoAllTheSame) {
     Prepare();
     OpenFilled();
     Data().faults.Set({fault});
-    DropProvider();
+    DestroyProvider();
     EXPECT_LE(Told().size(), 1U);
     Data().faults.Set({});
     ExpectNothingLeft(fault == std::string("subscribe.remove"));

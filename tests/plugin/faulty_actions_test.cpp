@@ -1,5 +1,5 @@
 // What the trader and the host do with an open form while one of the host's services fails. Each failure is
-// told once.
+// reported once.
 
 #include <array>
 #include <string>
@@ -12,54 +12,54 @@ namespace {
 
 class FaultyActions : public HostFaults {};
 
-TEST_F(FaultyActions, AreToldOnceWhenTheFormIsCleared) {
+TEST_F(FaultyActions, AreReportedOnceWhenTheFormIsCleared) {
   const TTexts fails{"profile.data", "editor.symbol", "subscribe.remove", "language.text"};
   AtEachFault(fails, [this](auto& frame) { Click(frame, "btnClear"); }, {"subscribe.remove"});
 }
 
-TEST_F(FaultyActions, AreToldOnceWhenTheLanguageChanges) {
+TEST_F(FaultyActions, AreReportedOnceWhenTheLanguageChanges) {
   AtEachFault({"language.text", "orders.list", "profile.right"},
               [this](auto& frame) { Provider().SetLanguage(host::HandleOf(frame), 1); });
 }
 
-TEST_F(FaultyActions, AreToldOnceWhenTheSkinChanges) {
+TEST_F(FaultyActions, AreReportedOnceWhenTheSkinChanges) {
   AtEachFault({"skin.color", "view.notify"},
               [this](auto& frame) { Provider().SetSkin(host::HandleOf(frame), "dark"); });
   AtEachFault({"skin.color", "view.notify"}, [this](auto&) { Host().NotifySkinChanged("dark"); });
 }
 
-TEST_F(FaultyActions, AreToldOnceWhenTheGroupChanges) {
+TEST_F(FaultyActions, AreReportedOnceWhenTheGroupChanges) {
   AtEachFault({"profile.data", "editor.register", "editor.symbol"},
               [this](auto& frame) { Provider().SetGroupID(host::HandleOf(frame), "G1"); });
 }
 
-TEST_F(FaultyActions, AreToldOnceWhenTheMarketMoves) {
+TEST_F(FaultyActions, AreReportedOnceWhenTheMarketMoves) {
   AtEachFault({}, [this](auto&) {
     Host().SetMarket("0005", 1, {{3, "61"}}, terminal::TMarketNotice::Item);
     Host().NotifySpreadChanged(std::array<std::string, 1>{"01"});
   });
 }
 
-TEST_F(FaultyActions, AreToldOnceWhenTheSettingsChange) {
+TEST_F(FaultyActions, AreReportedOnceWhenTheSettingsChange) {
   AtEachFault({"config.read"}, [this](auto&) { Host().NotifyConfigChanged(); });
 }
 
-TEST_F(FaultyActions, AreToldOnceWhenABoxIsClicked) {
+TEST_F(FaultyActions, AreReportedOnceWhenABoxIsClicked) {
   AtEachFault({"config.store"}, [this](auto& frame) { Click(frame, "cbClear"); });
 }
 
-TEST_F(FaultyActions, AreToldOnceWhenAnOrderIsCopied) {
+TEST_F(FaultyActions, AreReportedOnceWhenAnOrderIsCopied) {
   AtEachFault({"profile.data", "profile.right", "editor.symbol", "subscribe.add", "subscribe.remove",
                "orders.list", "language.text", "view.notify"},
               [this](auto&) { PostCopy(18010); }, {"subscribe.remove"});
 }
 
-TEST_F(FaultyActions, AreToldOnceWhenAPriceIsCopied) {
+TEST_F(FaultyActions, AreReportedOnceWhenAPriceIsCopied) {
   AtEachFault({"editor.symbol", "subscribe.add", "subscribe.remove"}, [this](auto&) { PostCopy(18016); },
               {"subscribe.remove"});
 }
 
-TEST_F(FaultyActions, AreToldOnceWhenASymbolIsEntered) {
+TEST_F(FaultyActions, AreReportedOnceWhenASymbolIsEntered) {
   AtEachFault({"editor.symbol", "subscribe.add", "subscribe.remove"},
               [this](auto& frame) {
                 Type(frame, "edtSymbol", "0700");
@@ -68,7 +68,7 @@ TEST_F(FaultyActions, AreToldOnceWhenASymbolIsEntered) {
               {"subscribe.remove"});
 }
 
-TEST_F(FaultyActions, AreToldOnceWhenAChoiceChanges) {
+TEST_F(FaultyActions, AreReportedOnceWhenAChoiceChanges) {
   AtEachFault({"view.notify", "language.text"},
               [this](auto& frame) { Pick(frame, "cmbOrderType", "Res_Algo_OrderType_VWAP"); });
   AtEachFault({"orders.list", "profile.right", "language.text", "view.notify"},

@@ -77,7 +77,7 @@ TEST_F(Lifetimes, NothingPickedElsewhereReachesAFormWithAnOrder) {
   };
   Change(order, [&](forms::TDialogForm&, TChangeFrame& frame) { look(frame); });
   Confirm(order, [&](forms::TDialogForm&, TChangeFrame& frame) { look(frame); });
-  DropProvider();
+  DestroyProvider();
   look(FrameIn(*OpenChange(order)));
 }
 
@@ -88,7 +88,7 @@ TEST_F(Lifetimes, AnEntryViewMayBeClosedWhileItsConfirmationShows) {
     for (const bool kept : {false, true}) {
       auto& entry = OpenFilled();
       const auto handle = host::HandleOf(entry);
-      const auto keeper = kept ? Provider().FindView(handle) : nullptr;
+      const auto held = kept ? Provider().FindView(handle) : nullptr;
       InDialogs({[&](forms::TDialogForm& form) {
         Provider().CloseInstance(handle);
         EXPECT_FALSE(Provider().ContainView(handle));
@@ -100,7 +100,7 @@ TEST_F(Lifetimes, AnEntryViewMayBeClosedWhileItsConfirmationShows) {
       EXPECT_EQ(LeftBehind().subscriptions, 0U);
       EXPECT_EQ(LeftBehind().configListeners, 1U);
       if (kept) {
-        EXPECT_EQ(Named(*keeper, "edtQty").Text(), "800");
+        EXPECT_EQ(Named(*held, "edtQty").Text(), "800");
       }
     }
   }
@@ -148,14 +148,14 @@ TEST_F(Lifetimes, TheProviderMayGoWhileADialogShows) {
       Provider();
       Forget();
       InDialogs({[&](forms::TDialogForm& form) {
-        DropProvider();
+        DestroyProvider();
         FrameIn(form).InputClick(Named(FrameIn(form), "btnBuy"));
         EXPECT_EQ(form.ModalResult(), forms::ModalNone);
         if (confirmed) form.SetModalResult(forms::ModalOk);
       }});
       Post(&order, action);
       EXPECT_EQ(Seen("take_action").size(), confirmed ? 1U : 0U);
-      EXPECT_EQ(LeftBehind(), host::TLeftBehind());
+      EXPECT_EQ(LeftBehind(), host::checks::TLeftBehind());
     }
   }
 }
@@ -174,9 +174,9 @@ TEST_F(Lifetimes, TheProviderLeavesNothingBehind) {
   EXPECT_EQ(LeftBehind().configListeners, 5U);
   const auto kept = Shown().front();
   Shown().clear();
-  DropProvider();
+  DestroyProvider();
   EXPECT_EQ(Closed(), 2);
-  host::TLeftBehind left;
+  host::checks::TLeftBehind left;
   left.forms = 1;
   EXPECT_EQ(LeftBehind(), left);
   NotifyAll();

@@ -35,6 +35,13 @@ class OpenChangesTest : public TTerminalTest {
   /// Asks for a change of the order; the form that shows for it is the last of Forms().
   void Change(host::TCustomClientOrder& order) { Post(&order, TOrderAction::Change); }
 
+  void OpenBoth(host::TCustomClientOrder& first, host::TCustomClientOrder& second) {
+    Provider();
+    Change(first);
+    Change(second);
+    ASSERT_EQ(Forms().size(), 2U);
+  }
+
   const std::vector<forms::TDialogForm*>& Forms() const { return FForms; }
 
  private:
@@ -64,12 +71,9 @@ TEST_F(OpenChangesTest, AChangeOpensAFormOnTopThatFitsItsFrame) {
 }
 
 TEST_F(OpenChangesTest, ASecondRequestForAnOrderBringsItsFormToTheFront) {
-  Provider();
   auto& first = Made("K1");
   auto& second = Made("K2");
-  Change(first);
-  Change(second);
-  ASSERT_EQ(Forms().size(), 2U);
+  OpenBoth(first, second);
   EXPECT_EQ(LeftBehind().forms, 2U);
   Change(first);
   EXPECT_EQ(Forms().size(), 2U);
@@ -94,12 +98,9 @@ TEST_F(OpenChangesTest, AFormThatWasClosedIsFreedAndTheNextRequestMakesANewOne) 
 }
 
 TEST_F(OpenChangesTest, ClosingOneFormLeavesTheOthersListed) {
-  Provider();
   auto& first = Made("K1");
   auto& second = Made("K2");
-  Change(first);
-  Change(second);
-  ASSERT_EQ(Forms().size(), 2U);
+  OpenBoth(first, second);
   Forms()[0]->Close();
   ASSERT_EQ(Forms().size(), 1U);
   Change(second);
@@ -130,12 +131,12 @@ TEST_F(OpenChangesTest, AProviderThatGoesClosesItsFormsAndGivesTheirOrdersBack) 
   Change(Made("K2"));
   EXPECT_EQ(LeftBehind().forms, 2U);
   EXPECT_EQ(LeftBehind().orders, 2U);
-  DropProvider();
+  DestroyProvider();
   EXPECT_TRUE(Forms().empty());
-  EXPECT_EQ(LeftBehind(), host::TLeftBehind());
+  EXPECT_EQ(LeftBehind(), host::checks::TLeftBehind());
 }
 
-TEST_F(OpenChangesTest, AFormThatTheHostCannotMakeIsToldOnceAndLeavesNothingBehind) {
+TEST_F(OpenChangesTest, AFormThatTheHostCannotMakeIsReportedOnceAndLeavesNothingBehind) {
   Provider();
   auto& order = Made("K1");
   const auto untouched = LeftBehind();

@@ -201,8 +201,8 @@ TEST_F(OrderActionTest, TheModalFormsAreMadeOnFirstUseAndUsedAgain) {
   for (const std::size_t again : {1U, 3U, 5U}) EXPECT_EQ(shown[again], shown[0]);
   EXPECT_EQ(shown[4], shown[2]);
   EXPECT_NE(shown[2], shown[0]);
-  DropProvider();
-  EXPECT_EQ(LeftBehind(), host::TLeftBehind());
+  DestroyProvider();
+  EXPECT_EQ(LeftBehind(), host::checks::TLeftBehind());
 }
 
 TEST_F(OrderActionTest, OnlyALeadingNMakesChangesNonModal) {
@@ -230,8 +230,8 @@ TEST_F(OrderActionTest, OnlyALeadingNMakesChangesNonModal) {
     PostWith(&order, 2, false);
     EXPECT_EQ(Seen("show_modal").size(), row.modal ? 1U : 0U) << row.setting;
     EXPECT_EQ(Seen("show").size(), row.modal ? 0U : 1U) << row.setting;
-    DropProvider();
-    EXPECT_EQ(LeftBehind(), host::TLeftBehind()) << row.setting;
+    DestroyProvider();
+    EXPECT_EQ(LeftBehind(), host::checks::TLeftBehind()) << row.setting;
   }
   Data().config.clear();
   Forget();
@@ -261,7 +261,7 @@ TEST_F(OrderActionTest, NewOrdersAreConfirmedModallyWhateverTheSettingSays) {
 TEST_F(OrderActionTest, ALaterActionFindsTheProviderGone) {
   auto& order = Made("K1");
   Provider();
-  DropProvider();
+  DestroyProvider();
   EXPECT_TRUE(PostWith(&order, 1, true));
   ExpectNothingHappened("after the provider went");
 }

@@ -10,7 +10,7 @@ namespace {
 
 using host::TCustomClientOrder;
 using host::TOrderAction;
-using TMessageSource = std::vector<std::string>;
+using TTexts = std::vector<std::string>;
 
 class OrderFailures : public TOrderDialogTest {
  protected:
@@ -20,6 +20,16 @@ class OrderFailures : public TOrderDialogTest {
     order.flags = 0x10000000;
     order.SetTextProperty(440, std::string(algoText));
     return order;
+  }
+
+  /// A new provider, which shows changes beside the other windows or in its dialog, before an instrument
+  /// without data.
+  void StartAnew(bool beside) {
+    DestroyProvider();
+    Data().config["USER"]["ChangeOrderShowModel"] = beside ? "N" : "Y";
+    Host().SetMarket("0005", 0, {}, terminal::TMarketNotice::None);
+    Provider();
+    Forget();
   }
 };
 
@@ -46,10 +56,10 @@ TEST_F(OrderFailures, AnOrderWithATimeThatCannotBeReadOpensNoDialog) {
 TEST_F(OrderFailures, AnOrderWithATimeThatCannotBeReadOpensNoForm) {
   Data().config["USER"]["ChangeOrderShowModel"] = "N";
   Provider();
-  const host::TLeftBehind before = LeftBehind();
+  const host::checks::TLeftBehind before = LeftBehind();
   TCustomClientOrder order = AnyOrder("TMLO:AlgoId=TVOL,STime=tomorrow;");
   EXPECT_FALSE(Post(&order, TOrderAction::Change));
-  EXPECT_EQ(Told(), TMessageSource{"'tomorrow' is not a date and time"});
+  EXPECT_EQ(Told(), TTexts{"'tomorrow' is not a date and time"});
   EXPECT_TRUE(Shown().empty());
   EXPECT_EQ(LeftBehind(), before);
   order.SetTextProperty(440, "TMLO:AlgoId=TVOL;");
@@ -57,27 +67,23 @@ TEST_F(OrderFailures, AnOrderWithATimeThatCannotBeReadOpensNoForm) {
   EXPECT_EQ(Shown().size(), 1U);
 }
 
-TEST_F(OrderFailures, AHostThatFailsWhileADialogIsMadeIsToldOnce) {
+TEST_F(OrderFailures, AHostThatFailsWhileADialogIsMadeIsReportedOnce) {
   for (const TOrderAction action : AllActions) {
     for (const bool beside : {false, true}) {
       for (const char* fault :
            {"form.make", "editor.register", "editor.symbol", "channel.subscribe", "market.listen",
             "market.instrument", "subscribe.add", "language.text", "orders.list", "profile.right",
             "profile.data", "config.read", "skin.color", "view.notify"}) {
-        DropProvider();
-        Data().config["USER"]["ChangeOrderShowModel"] = beside ? "N" : "Y";
-        Host().SetMarket("0005", 0, {}, terminal::TMarketNotice::None);
-        Provider();
-        const host::TLeftBehind before = LeftBehind();
+        StartAnew(beside);
+        const std::size_t ordersBefore = LeftBehind().orders;
         TCustomClientOrder order = AnyOrder();
-        Forget();
         Data().faults.Set({fault});
         EXPECT_FALSE(Post(&order, action));
         Data().faults.Set({});
-        EXPECT_EQ(Told(), TMessageSource{"The host fails at " + std::string(fault)});
+        EXPECT_EQ(Told(), TTexts{"The host fails at " + std::string(fault)});
         EXPECT_TRUE(Seen("show_modal").empty()) << fault;
         EXPECT_TRUE(Shown().empty()) << fault;
-        EXPECT_EQ(LeftBehind().orders, before.orders) << fault;
+        EXPECT_EQ(LeftBehind().orders, ordersBefore) << fault;
         Forget();
         Post(&order, action);
         EXPECT_EQ(Seen("show_modal").size() + Shown().size(), 1U) << fault;
@@ -91,13 +97,9 @@ TEST_F(OrderFailures, AHostThatFailsWhileADialogIsMadeIsToldOnce) {
 TEST_F(OrderFailures, AFormWhoseOrderCannotBeCopiedLeavesNothingBehind) {
   for (const char* fault :
        {"orders.new", "form.make", "editor.symbol", "language.text", "market.instrument"}) {
-    DropProvider();
-    Data().config["USER"]["ChangeOrderShowModel"] = "N";
-    Host().SetMarket("0005", 0, {}, terminal::TMarketNotice::None);
-    Provider();
-    const host::TLeftBehind before = LeftBehind();
+    StartAnew(true);
+    const host::checks::TLeftBehind before = LeftBehind();
     TCustomClientOrder order = AnyOrder();
-    Forget();
     Data().faults.Set({fault});
     Post(&order, TOrderAction::Change);
     Data().faults.Set({});
@@ -114,7 +116,7 @@ TEST_F(OrderFailures, AChangeThatTheHostFailsAtKeepsFormAndCopy) {
   for (int attempt = 0; attempt < 2; ++attempt) {
     Forget();
     Click(FrameIn(*form), "btnBuy");
-    EXPECT_EQ(Told(), TMessageSource{"The host fails at action.take"});
+    EXPECT_EQ(Told(), TTexts{"The host fails at action.take"});
     EXPECT_TRUE(form->Showing());
     EXPECT_EQ(LeftBehind().orders, 1U);
   }
@@ -125,7 +127,7 @@ TEST_F(OrderFailures, AChangeThatTheHostFailsAtKeepsFormAndCopy) {
   EXPECT_EQ(LeftBehind().orders, 0U);
 }
 
-TEST_F(OrderFailures, AnAcceptedDialogWhoseActionFailsIsToldOnceAndHidden) {
+TEST_F(OrderFailures, AnAcceptedDialogWhoseActionFailsIsReportedOnceAndHidden) {
   Provider();
   for (const TOrderAction action : AllActions) {
     TCustomClientOrder order = AnyOrder();
@@ -138,20 +140,20 @@ TEST_F(OrderFailures, AnAcceptedDialogWhoseActionFailsIsToldOnceAndHidden) {
     }});
     EXPECT_FALSE(Post(&order, action));
     Data().faults.Set({});
-    EXPECT_EQ(Told(), TMessageSource{"The host fails at action.take"});
+    EXPECT_EQ(Told(), TTexts{"The host fails at action.take"});
     ASSERT_NE(dialog, nullptr);
     EXPECT_FALSE(dialog->Showing());
   }
 }
 
-TEST_F(OrderFailures, ADialogThatBreaksDownIsToldOnceAndShowsAgain) {
+TEST_F(OrderFailures, ADialogThatBreaksDownIsReportedOnceAndShowsAgain) {
   Provider();
   for (const TOrderAction action : AllActions) {
     TCustomClientOrder order = AnyOrder();
     Forget();
     InDialogs({[](forms::TDialogForm&) { throw std::runtime_error("The window is lost"); }});
     EXPECT_FALSE(Post(&order, action));
-    EXPECT_EQ(Told(), TMessageSource{"The window is lost"});
+    EXPECT_EQ(Told(), TTexts{"The window is lost"});
     Post(&order, action);
     EXPECT_EQ(Seen("show_modal").size(), 2U);
     EXPECT_TRUE(Seen("take_action").empty());
@@ -173,7 +175,7 @@ TEST_F(OrderFailures, AChildIsNotCutWhileTheHostFails) {
       Data().faults.Set({fault});
       Click(frame, "btnSubmit");
       Data().faults.Set({});
-      EXPECT_EQ(Told(), TMessageSource{"The host fails at " + std::string(fault)});
+      EXPECT_EQ(Told(), TTexts{"The host fails at " + std::string(fault)});
       EXPECT_EQ(form.ModalResult(), forms::ModalNone) << fault;
       EXPECT_EQ(parent.quantity, 10000) << fault;
       EXPECT_EQ(parent.user, "") << fault;
@@ -183,7 +185,7 @@ TEST_F(OrderFailures, AChildIsNotCutWhileTheHostFails) {
     Type(frame, "sedtPecentage", "10");
     Leave(frame);
     Data().faults.Set({});
-    EXPECT_EQ(Told(), TMessageSource{"The host fails at subscribe.add"});
+    EXPECT_EQ(Told(), TTexts{"The host fails at subscribe.add"});
     Type(frame, "sedtPecentage", "20");
     Leave(frame);
     EXPECT_EQ(Spin(frame, "edtQty").Value(), 2000.0);

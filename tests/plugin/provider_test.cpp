@@ -58,6 +58,24 @@ TEST_F(ProviderTest, GivesNewInstancesACaptionAndLeavesTheirSizeToTheHost) {
   EXPECT_FALSE(Provider().GetIsWindow());
 }
 
+TEST_F(ProviderTest, OpensPanelsWithoutDecorationsAndHasNoShortcuts) {
+  auto& provider = Provider();
+  const auto instance = provider.OpenNewInstance();
+  provider.InitializeShortcut();
+  EXPECT_FALSE(provider.GetIsDialog());
+  EXPECT_TRUE(provider.GetIsSizeable());
+  EXPECT_TRUE(provider.GetCanDock());
+  EXPECT_EQ(provider.GetDockPosition(), host::TDockPosition::HostsChoice);
+  EXPECT_EQ(provider.GetPreferenceView(), nullptr);
+  EXPECT_FALSE(provider.GetIsDialogViewAfterMainShow());
+  EXPECT_TRUE(provider.GetShortCutList().empty());
+  EXPECT_EQ(provider.GetViewCaption(instance), "");
+  EXPECT_TRUE(provider.GetViewCaptionButtons(instance).empty());
+  EXPECT_EQ(provider.GetViewIcon(instance), host::TImage());
+  EXPECT_FALSE(provider.SetCustomData(instance, "data"));
+  EXPECT_FALSE(provider.SendMessage(instance, 1, "text"));
+}
+
 TEST_F(ProviderTest, IsVisibleToUsersWithTheRightAlone) {
   EXPECT_TRUE(Provider().GetIsVisible());
   Data().rights.erase("AlgoTabOrderEntry");
@@ -77,11 +95,11 @@ TEST_F(ProviderTest, AnswersAndTellsTheTraderWhenTheHostFails) {
 }
 
 TEST_F(ProviderTest, ListensToTheOrderActionsFromItsMakingToItsEnd) {
-  EXPECT_EQ(LeftBehind(), host::TLeftBehind());
+  EXPECT_EQ(LeftBehind(), host::checks::TLeftBehind());
   Provider();
-  EXPECT_EQ(LeftBehind(), host::TLeftBehind{.channels = 1});
-  DropProvider();
-  EXPECT_EQ(LeftBehind(), host::TLeftBehind());
+  EXPECT_EQ(LeftBehind(), host::checks::TLeftBehind{.channels = 1});
+  DestroyProvider();
+  EXPECT_EQ(LeftBehind(), host::checks::TLeftBehind());
 }
 
 TEST_F(ProviderTest, OpensAFrameOfItsOwnForEachInstance) {
@@ -144,7 +162,7 @@ TEST_F(ProviderTest, AChangeOfLanguageIsDoneWhateverTheHandleNames) {
   EXPECT_TRUE(Provider().SetLanguage(0, 1));
 }
 
-TEST_F(ProviderTest, AnInstanceThatFailsToOpenIsToldOnceAndLeavesNothingBehind) {
+TEST_F(ProviderTest, AnInstanceThatFailsToOpenIsReportedOnceAndLeavesNothingBehind) {
   for (const std::string operation :
        {"config.read", "language.text", "profile.right", "profile.data", "orders.list", "channel.subscribe",
         "market.listen", "skin.color", "editor.register", "view.notify"}) {
@@ -153,20 +171,20 @@ TEST_F(ProviderTest, AnInstanceThatFailsToOpenIsToldOnceAndLeavesNothingBehind) 
     Data().faults.Set({operation});
     EXPECT_EQ(provider.OpenNewInstance(), 0) << operation;
     EXPECT_EQ(Told(), TTexts{"The host fails at " + operation});
-    EXPECT_EQ(LeftBehind(), host::TLeftBehind{.channels = 1}) << operation;
+    EXPECT_EQ(LeftBehind(), host::checks::TLeftBehind{.channels = 1}) << operation;
     Data().faults.Set({});
     EXPECT_NE(provider.OpenNewInstance(), 0) << operation;
-    DropProvider();
+    DestroyProvider();
   }
 }
 
-TEST_F(ProviderTest, AFailureThatCannotBeToldIsDropped) {
+TEST_F(ProviderTest, AFailureThatCannotBeReportedIsDropped) {
   auto& provider = Provider();
   Data().faults.Set({"language.text", "message.text"});
   EXPECT_EQ(provider.OpenNewInstance(), 0);
   EXPECT_EQ(provider.GetMenuCaption(0), "");
   EXPECT_EQ(Told(), TTexts());
-  EXPECT_EQ(LeftBehind(), host::TLeftBehind{.channels = 1});
+  EXPECT_EQ(LeftBehind(), host::checks::TLeftBehind{.channels = 1});
 }
 
 TEST_F(ProviderTest, AProviderThatCannotListenIsNotMadeAndLeavesNothingBehind) {
@@ -175,7 +193,7 @@ TEST_F(ProviderTest, AProviderThatCannotListenIsNotMadeAndLeavesNothingBehind) {
   Data().faults.Set({"config.read"});
   EXPECT_THROW(Provider(), terminal::EHostFault);
   Data().faults.Set({});
-  EXPECT_EQ(LeftBehind(), host::TLeftBehind());
+  EXPECT_EQ(LeftBehind(), host::checks::TLeftBehind());
 }
 
 TEST_F(ProviderTest, ClosesWhatIsOpenWhenItGoes) {
@@ -183,8 +201,8 @@ TEST_F(ProviderTest, ClosesWhatIsOpenWhenItGoes) {
   Open();
   Open();
   EXPECT_EQ(LeftBehind().editors, 39U);
-  DropProvider();
-  EXPECT_EQ(LeftBehind(), host::TLeftBehind());
+  DestroyProvider();
+  EXPECT_EQ(LeftBehind(), host::checks::TLeftBehind());
 }
 
 TEST_F(ProviderTest, TheModuleMakesItsClassKnownForAsLongAsItIsStarted) {
@@ -200,7 +218,7 @@ TEST_F(ProviderTest, TheModuleMakesItsClassKnownForAsLongAsItIsStarted) {
     EXPECT_EQ(provider->GetViewID(), 426);
     EXPECT_NE(provider->OpenNewInstance(), 0);
   }
-  EXPECT_EQ(LeftBehind(), host::TLeftBehind());
+  EXPECT_EQ(LeftBehind(), host::checks::TLeftBehind());
   module->stop();
   EXPECT_NE(registry.Find("TIAlgoEntryOrder"), nullptr);
   module->stop();

@@ -26,7 +26,7 @@ inline constexpr std::array Faults{"config.read",   "config.store",      "langua
 class HostFaults : public TTerminalTest {
  protected:
   using TTexts = std::vector<std::string>;
-  using TAct = std::function<void(views::TAlgoOrderEntryFrame&)>;
+  using TAct = std::function<void(views::entry::TAlgoOrderEntryFrame&)>;
 
   /// Opens a filled form, lets the host fail and runs `act`, once for each fault; then checks what must hold
   /// whatever was asked. `fails` are the faults that the act runs into, each of which is told once.
@@ -55,7 +55,7 @@ class HostFaults : public TTerminalTest {
   }
 
   /// A trader can still enter an order of 0700 from scratch and send it.
-  void ExpectUsable(views::TAlgoOrderEntryFrame& frame) {
+  void ExpectUsable(views::entry::TAlgoOrderEntryFrame& frame) {
     Forget();
     Pick(frame, "cmbExch", "US");
     Pick(frame, "cmbExch", "HK");
@@ -82,8 +82,8 @@ class HostFaults : public TTerminalTest {
   }
 
   void ExpectNothingLeft(bool exceptSubscription = false) {
-    DropProvider();
-    host::TLeftBehind expected;
+    DestroyProvider();
+    host::checks::TLeftBehind expected;
     if (exceptSubscription) expected.subscriptions = 1;
     EXPECT_TRUE(LeftBehind() == expected);
   }

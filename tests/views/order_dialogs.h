@@ -62,7 +62,7 @@ inline std::string Facts(const host::TCustomClientOrder& order) {
 
 class TOrderDialogTest : public TTerminalTest {
  protected:
-  using TChangeFrame = views::TAlgoOrderChangeFrame;
+  using TChangeFrame = views::change::TAlgoOrderChangeFrame;
   /// What the trader does while a dialog shows.
   using TScript = std::function<void(forms::TDialogForm& form, TChangeFrame& frame)>;
 

@@ -28,7 +28,8 @@ std::string KindName(TEditorKind kind) {
 }  // namespace
 
 TTerminalTest::TTerminalTest()
-    : FHost(std::make_unique<terminal::TMemoryHost>(*this)), FStrict(std::make_unique<host::TStrictHost>()) {
+    : FHost(std::make_unique<terminal::TMemoryHost>(*this)),
+      FStrict(std::make_unique<host::checks::TStrictHost>()) {
   FStrict->OnViolation([this](const std::string& what) {
     FViolations.push_back(what);
     throw std::logic_error("contract violated: " + what);
@@ -60,13 +61,13 @@ plugin::TIAlgoEntryOrder& TTerminalTest::Provider() {
   return *FProvider;
 }
 
-views::TAlgoOrderEntryFrame& TTerminalTest::Open() {
+views::entry::TAlgoOrderEntryFrame& TTerminalTest::Open() {
   const auto frame = Provider().FindView(Provider().OpenNewInstance());
   if (!frame) throw std::runtime_error("the view did not open");
-  return static_cast<views::TAlgoOrderEntryFrame&>(*frame);
+  return static_cast<views::entry::TAlgoOrderEntryFrame&>(*frame);
 }
 
-views::TAlgoOrderEntryFrame& TTerminalTest::OpenFilled() {
+views::entry::TAlgoOrderEntryFrame& TTerminalTest::OpenFilled() {
   auto& frame = Open();
   Type(frame, "edtAccount", "A1");
   Type(frame, "edtSymbol", "0005");
@@ -118,7 +119,7 @@ std::string TTerminalTest::Enter(forms::TFrame& frame, std::string_view control)
   return frame.Focused() == nullptr ? std::string() : frame.Focused()->Name();
 }
 
-void TTerminalTest::ChooseAlgo(views::TAlgoOrderEntryFrame& frame, std::string_view code) {
+void TTerminalTest::ChooseAlgo(views::entry::TAlgoOrderEntryFrame& frame, std::string_view code) {
   const auto& offered = Data().lists["ALGO/ALGOType/HK"];
   const auto found = std::find(offered.begin(), offered.end(), code);
   ASSERT_NE(found, offered.end()) << code;

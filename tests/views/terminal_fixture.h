@@ -34,11 +34,11 @@ class TTerminalTest : public testing::Test, public terminal::THostEvents {
   ~TTerminalTest() override;
 
   /// Makes the provider, if there is none, and opens a view; the frame is the provider's.
-  views::TAlgoOrderEntryFrame& Open();
+  views::entry::TAlgoOrderEntryFrame& Open();
   /// The same view with the order's own fields filled in: buy 800 of 0005 at 60.5 for A1.
-  views::TAlgoOrderEntryFrame& OpenFilled();
+  views::entry::TAlgoOrderEntryFrame& OpenFilled();
   plugin::TIAlgoEntryOrder& Provider();
-  void DropProvider() { FProvider.reset(); }
+  void DestroyProvider() { FProvider.reset(); }
 
   // The trader. Each checks that the input was taken.
   void Type(forms::TFrame& frame, std::string_view control, std::string_view text);
@@ -48,7 +48,7 @@ class TTerminalTest : public testing::Test, public terminal::THostEvents {
   /// Presses Enter and gives the name of the control that has the focus then; empty for none.
   std::string Enter(forms::TFrame& frame, std::string_view control);
   /// Chooses the algorithm with that code.
-  void ChooseAlgo(views::TAlgoOrderEntryFrame& frame, std::string_view code);
+  void ChooseAlgo(views::entry::TAlgoOrderEntryFrame& frame, std::string_view code);
 
   /// A control by name; the test ends when there is none.
   forms::TControl& Named(forms::TFrame& frame, std::string_view control) const;
@@ -75,7 +75,7 @@ class TTerminalTest : public testing::Test, public terminal::THostEvents {
 
   terminal::TMemoryHost& Host() { return *FHost; }
   terminal::THostData& Data() { return FHost->Data(); }
-  host::TLeftBehind LeftBehind() const { return FStrict->LeftBehind(); }
+  host::checks::TLeftBehind LeftBehind() const { return FStrict->LeftBehind(); }
   const std::vector<std::string>& Violations() const { return FViolations; }
 
  private:
@@ -104,7 +104,7 @@ class TTerminalTest : public testing::Test, public terminal::THostEvents {
   std::vector<std::string> FViolations;
   std::vector<std::function<void(forms::TDialogForm&)>> FDialogScripts;
   std::unique_ptr<terminal::TMemoryHost> FHost;
-  std::unique_ptr<host::TStrictHost> FStrict;
+  std::unique_ptr<host::checks::TStrictHost> FStrict;
   std::unique_ptr<plugin::TIAlgoEntryOrder> FProvider;
 };
 

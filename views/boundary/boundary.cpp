@@ -21,8 +21,7 @@ void ReportCurrentError() noexcept {
     } catch (...) {
       ShowMessage("Unknown error");
     }
-  } catch (...) {  // NOLINT(bugprone-empty-catch): the message box is the last resort; when it fails nobody
-                   // is left
+  } catch (...) {  // NOLINT(bugprone-empty-catch): the message box is the last resort
   }
 }
 

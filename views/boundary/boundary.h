@@ -1,7 +1,7 @@
 #pragma once
 
 // Where the outside calls in. Behind a boundary errors are exceptions that run up through ordinary RAII; at
-// the boundary everything is caught, told to the trader once, and answered with the operation's failing
+// the boundary everything is caught, reported to the trader once, and answered with the operation's failing
 // answer. What a handler sets off while such a call runs belongs to that call: only the outermost boundary
 // catches. A loop in which the host plays the trader's input (a modal dialog, a message box) starts afresh,
 // because what happens in it is not the caller's doing.
@@ -41,8 +41,8 @@ class TNestedLoopScope {
   int FOuter;
 };
 
-/// Shows the text of the exception in flight through the host's text message; a host that fails at that is
-/// let be.
+/// Shows the text of the exception in flight through the host's text message; a failure of the
+/// message itself is dropped.
 void ReportCurrentError() noexcept;
 
 /// Shows a text to the trader through the host's message box.

@@ -8,11 +8,12 @@
 #include "forms/dialog_form.h"
 #include "plugin/host_contract/order_action_manager.h"
 #include "text/number_text.h"
+#include "views/entry/price_multiplier.h"
 
-namespace algo::views {
+namespace algo::views::change {
 
-TAlgoOrderChangeFrame::TAlgoOrderChangeFrame(std::string className)
-    : TAlgoOrderEntryFrame(std::move(className)) {
+TAlgoOrderChangeFrame::TAlgoOrderChangeFrame(const entry::TFramePurpose& purpose)
+    : TAlgoOrderEntryFrame(purpose) {
   for (const model::TAlgoRow& row : model::AlgoRows()) FOrderConstList.emplace_back(row.code);
 }
 
@@ -33,20 +34,20 @@ void TAlgoOrderChangeFrame::ChangeOrder(host::TCustomClientOrder* order) {
   if (FMyOrder != nullptr) InitializeViewbyOrder(*FMyOrder);
 }
 
-void TAlgoOrderChangeFrame::LetGoOfOrder() {
+void TAlgoOrderChangeFrame::ReleaseOrder() {
   FMyOrder = nullptr;
   FOwnOrder.reset();
 }
 
 void TAlgoOrderChangeFrame::Detach() {
-  LetGoOfOrder();
+  ReleaseOrder();
   TAlgoOrderEntryFrame::Detach();
 }
 
 bool TAlgoOrderChangeFrame::CheckOrderValid() const {
-  const auto complaint = CheckAlgoFields();
-  if (complaint) Tell(*complaint);
-  return !complaint;
+  const auto failure = CheckAlgoFields();
+  if (failure) Tell(*failure);
+  return !failure;
 }
 
 bool TAlgoOrderChangeFrame::CheckOrder(std::string_view text) const {
@@ -72,7 +73,7 @@ void TAlgoOrderChangeFrame::SubmitChange() {
   const auto quantity = static_cast<double>(text::TruncateToWhole(Spin(TField::edtQty).Value().value_or(0)));
   const host::TMarketDataItem* item =
       host::TCustomSubscribeAdapter::GetInstance().Subscribe(FMyOrder->symbol, host::PriceDataSet, false);
-  const double price = PriceForOrder(Spin(TField::edtPrice).Value().value_or(0), item);
+  const double price = entry::PriceForOrder(Spin(TField::edtPrice).Value().value_or(0), item);
   if (!GetWorkOrder(*FMyOrder)) SetOrderAlgo(*FMyOrder);
   SetOrderType(*FMyOrder);
   FMyOrder->quantity = quantity;
@@ -80,7 +81,7 @@ void TAlgoOrderChangeFrame::SubmitChange() {
   if (!FIsChangeOrderShowModalView && FOrderOperatorMode == TOperatorMode::Change && Form() != nullptr) {
     host::TCustomOrderActionManager::GetInstance().TakeAction(nullptr, FMyOrder, host::TOrderAction::Change,
                                                               1);
-    LetGoOfOrder();
+    ReleaseOrder();
     // The host may have closed the form while it took the action.
     if (Form() != nullptr) Form()->Close();
   }
@@ -92,10 +93,4 @@ void TAlgoOrderChangeFrame::cbPopupClick() {
   if (FOrderOperatorMode == TOperatorMode::Add) TAlgoOrderEntryFrame::cbPopupClick();
 }
 
-void TAlgoOrderChangeFrame::AlgoNotOffered() {
-  // Better no algorithm than another one: the order can be looked at, and an attempt to send it fails.
-  FAlgoNotOffered = true;
-  Combo(TField::cmbOrderType).SetIndex(-1);
-}
-
-}  // namespace algo::views
+}  // namespace algo::views::change

@@ -10,27 +10,32 @@
 #include "plugin/host_contract/order_adapter.h"
 #include "views/entry/entry_frame.h"
 
-namespace algo::views {
+namespace algo::views::change {
+
+// The frame speaks of the entry form's own controls.
+using entry::TAlgoOrderEntryFrame;
+using entry::TField;
+using entry::TGroup;
 
 /// What the loaded order is to be used for.
 enum class TOperatorMode : std::int32_t { Add = 0, Change = 1, Work = 2 };
 
 class TAlgoOrderChangeFrame : public TAlgoOrderEntryFrame {
  public:
-  explicit TAlgoOrderChangeFrame(std::string className = "TAlgoOrderChangeFrame");
+  explicit TAlgoOrderChangeFrame(const entry::TFramePurpose& purpose = entry::ChangePurpose);
 
   /// Says whether the frame sits in a dialog that waits for the answer. If it does not, the frame owns a copy
   /// of the order that it changes, sends the change itself and closes its form.
   void SetShownModally(bool modal) { FIsChangeOrderShowModalView = modal; }
 
-  /// Loads a new order for confirmation. Throws what loading throws; the order is used until LetGoOfOrder.
+  /// Loads a new order for confirmation. Throws what loading throws; the order is used until ReleaseOrder.
   void AddOrder(host::TCustomClientOrder* order);
 
   /// Loads a working order to be changed; a frame that is not shown modally takes a copy.
   void ChangeOrder(host::TCustomClientOrder* order);
 
   /// Forgets the order; a copy of the frame's own is given back.
-  void LetGoOfOrder();
+  void ReleaseOrder();
 
   /// Checks the times and the chosen algorithm's fields; false when a rule failed, whose message has then
   /// been shown. With no effect on the form and the order.
@@ -53,9 +58,6 @@ class TAlgoOrderChangeFrame : public TAlgoOrderEntryFrame {
   void btnBuyClick() override;
   void btnSellClick() override;
   void cbPopupClick() override;
-  void AlgoNotOffered() override;
-  bool FirstAlgoStandsIn() const override { return !FAlgoNotOffered; }
-  bool TakesCopies() const override { return false; }
 
   host::TCustomClientOrder* FMyOrder = nullptr;
   TOperatorMode FOrderOperatorMode = TOperatorMode::Add;
@@ -73,15 +75,14 @@ class TAlgoOrderChangeFrame : public TAlgoOrderEntryFrame {
 
   std::vector<std::string> FOrderConstList;  ///< the algorithms' codes
   bool FIsChangeOrderShowModalView = false;
-  bool FAlgoNotOffered = false;
   host::TOwnedOrder FOwnOrder;  ///< the copy that a non-modal change works on
 };
 
-/// Has a frame let go of its order at the end of the block, however it ends.
+/// Has a frame release its order at the end of the block, however it ends.
 class TOrderLoad {
  public:
   explicit TOrderLoad(TAlgoOrderChangeFrame& frame) : FFrame(frame) {}
-  ~TOrderLoad() { FFrame.LetGoOfOrder(); }
+  ~TOrderLoad() { FFrame.ReleaseOrder(); }
   TOrderLoad(const TOrderLoad&) = delete;
   TOrderLoad& operator=(const TOrderLoad&) = delete;
 
@@ -89,4 +90,4 @@ class TOrderLoad {
   TAlgoOrderChangeFrame& FFrame;
 };
 
-}  // namespace algo::views
+}  // namespace algo::views::change

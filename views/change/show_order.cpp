@@ -1,38 +1,16 @@
 // An order shown in the form, with its identity locked and the fields that may be changed open.
 
-#include <array>
-#include <cmath>
+#include <algorithm>
 
 #include "model/order_types.h"
 #include "model/parameter_text.h"
 #include "plugin/host_contract/editor_manager.h"
 #include "text/number_text.h"
-#include "text/text.h"
 #include "views/change/change_frame.h"
+#include "views/entry/field_lists.h"
+#include "views/entry/price_multiplier.h"
 
-namespace algo::views {
-
-namespace {
-
-constexpr std::array PriceFields{TField::edtPrice, TField::edtThrPx1, TField::edtThrPx2,
-                                 TField::edtStopLossPx, TField::edtWPx};
-
-constexpr std::array LotFields{TField::edtQty,     TField::edtStopQty, TField::edtMinQty,
-                               TField::edtShowQty, TField::edtJoinQty, TField::edtMaxShowQty};
-
-// What may be changed of an order, and of one that is about to be sent.
-constexpr std::array Amendable{
-    TField::deSTime,    TField::edtJoinThr,     TField::cmbJoin,   TField::edtJoinQty, TField::cmbIceberg,
-    TField::edtTimeOut, TField::edtRandTimeOut, TField::cmbRef,    TField::edtDiffPct, TField::edtTickDiff,
-    TField::edtShowQty, TField::edtStopLossPx,  TField::cmbFunc,   TField::cmbOpening, TField::edtOpenPct,
-    TField::cmbClosing, TField::cmbAccuVol,     TField::edtThrPx1, TField::edtThrPx2,
-};
-
-constexpr std::array Identity{TField::cmbExch,      TField::cmbOrderType, TField::cbLockAcct,
-                              TField::cbLockSymbol, TField::cbLockExch,   TField::cbLockOrderType,
-                              TField::cbLockPrice,  TField::cbLockQty};
-
-}  // namespace
+namespace algo::views::change {
 
 bool TAlgoOrderChangeFrame::PriceMayBeSet(const host::TCustomOrder& order) {
   return model::PriceMayBeSet(order.orderTypeFlags, order.auctionFlags, order.price);
@@ -41,12 +19,12 @@ bool TAlgoOrderChangeFrame::PriceMayBeSet(const host::TCustomOrder& order) {
 void TAlgoOrderChangeFrame::InitializeViewbyOrder(host::TCustomClientOrder& order) {
   const forms::TLayoutUpdate update(Layout());
   auto& editors = host::TEditorManager::GetInstance();
-  for (const TField field : PriceFields) editors.SetPriceSymbol(Spin(field), order.symbol);
+  for (const TField field : entry::PriceEditors) editors.SetPriceSymbol(Spin(field), order.symbol);
   // Only looked at: the frame follows no symbol of its own.
   const host::TMarketDataItem* item =
       host::TCustomSubscribeAdapter::GetInstance().Subscribe(order.symbol, host::PriceDataSet, false);
-  FAlgoNotOffered = false;
-  SelectExchange(order.exchange);
+  Lists().LetAlgoStandIn();
+  Lists().SelectExchange(order.exchange);
   const std::string algoText = order.TextProperty(host::AlgoTextProperty);
   const model::TSplitText split = model::SplitText(algoText);
   ShowIdentity(order, item);
@@ -72,7 +50,7 @@ void TAlgoOrderChangeFrame::ShowIdentity(const host::TCustomClientOrder& order,
   Control(TField::cbLockMOrder).SetEnabled(false);
   // After the order type, whose choice decides about the price too.
   auto& price = Spin(TField::edtPrice);
-  price.SetValue(PriceToShow(order.price, item));
+  price.SetValue(entry::PriceToShow(order.price, item));
   price.SetEnabled(PriceMayBeSet(order));
   auto& quantity = Spin(TField::edtQty);
   quantity.SetStep(1);
@@ -83,7 +61,7 @@ void TAlgoOrderChangeFrame::ShowIdentity(const host::TCustomClientOrder& order,
 
 void TAlgoOrderChangeFrame::LockIdentity() {
   Group(TGroup::lgSubmit).SetVisible(false);
-  for (const TField field : Identity) Control(field).SetEnabled(false);
+  for (const TField field : entry::ClosedInChange) Control(field).SetEnabled(false);
 }
 
 void TAlgoOrderChangeFrame::StepByLot(const host::TMarketDataItem* item, std::string_view symbol) {
@@ -95,7 +73,7 @@ void TAlgoOrderChangeFrame::StepByLot(const host::TMarketDataItem* item, std::st
     if (instrument != nullptr && !instrument->lotText.empty())
       lot = text::ParseWhole(instrument->lotText).value_or(0);
   }
-  for (const TField field : LotFields) {
+  for (const TField field : entry::QuantityEditors) {
     Spin(field).SetStep(static_cast<double>(std::max<std::int64_t>(lot, 1)));
     Spin(field).SetMin(0);
   }
@@ -105,8 +83,9 @@ void TAlgoOrderChangeFrame::SetChangeViewVisible(std::string_view algoId) {
   Item(TField::cbClear).SetVisible(false);
   Item(TField::cbPopup).SetVisible(false);
   EnableAmendable();
-  // A working iceberg keeps the way in which it is shown.
-  if (text::EqualNoCase(algoId, "ICEBERG")) Control(TField::cmbFunc).SetEnabled(false);
+  const model::TAlgoRow* algo = model::FindAlgoByCode(algoId);
+  if (algo == nullptr) return;
+  for (const model::TParam param : algo->fixedWhileWorking) Control(entry::FieldOf(param)).SetEnabled(false);
 }
 
 void TAlgoOrderChangeFrame::SetConfirmViewVisible() {
@@ -116,7 +95,7 @@ void TAlgoOrderChangeFrame::SetConfirmViewVisible() {
 }
 
 void TAlgoOrderChangeFrame::EnableAmendable() {
-  for (const TField field : Amendable) Control(field).SetEnabled(true);
+  for (const TField field : entry::OpenInChange) Control(field).SetEnabled(true);
 }
 
 void TAlgoOrderChangeFrame::ShowAlgoPart(host::TCustomClientOrder& order) {
@@ -130,4 +109,4 @@ void TAlgoOrderChangeFrame::ShowAlgoPart(host::TCustomClientOrder& order) {
   Item(TField::cbPopup).SetVisible(false);
 }
 
-}  // namespace algo::views
+}  // namespace algo::views::change

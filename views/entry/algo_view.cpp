@@ -1,78 +1,81 @@
 // What an algorithm shows of the form, and what its fields hold before the trader fills them in.
 
-#include <array>
-#include <iterator>
+#include "views/entry/entry_form.h"
+#include "views/entry/field_lists.h"
 
-#include "model/algos.h"
-#include "text/errors.h"
-#include "views/entry/entry_frame.h"
-
-namespace algo::views {
+namespace algo::views::entry {
 
 namespace {
 
-// In the order in which they are put behind the algorithm's own groups.
-constexpr std::array SharedGroups{TGroup::lgMinOrder, TGroup::lgWOrder, TGroup::lgAuc, TGroup::lgStyle,
-                                  TGroup::lgTrading};
-
-// The items whose captions stand out as an algorithm's key inputs.
-constexpr std::array KeyInputs{TField::edtVolPct, TField::edtThrPx1, TField::edtThrVolPct1,
-                               TField::edtStopLossPx};
-
-constexpr std::array ChoicesResetToLast{TField::cmbJoin,     TField::cmbAccuVol, TField::cmbAllInAuc,
-                                        TField::cmbCloseSim, TField::cmbIceberg, TField::cmbOpening};
-constexpr std::array ChoicesResetToFirst{TField::cmbClosing, TField::cmbFunc};
-
-constexpr std::array NumbersReset{
-    TField::edtThrPx1,     TField::edtThrPx2,      TField::edtStopLossPx, TField::edtWPx,
-    TField::edtClosePct,   TField::edtDiffPct,     TField::edtJoinQty,    TField::edtJoinThr,
-    TField::edtMaxShowQty, TField::edtMaxVolPct,   TField::edtMinOrdAmt,  TField::edtMinQty,
-    TField::edtOpenPct,    TField::edtRandTimeOut, TField::edtServePct,   TField::edtShowQty,
-    TField::edtSlices,     TField::edtStopQty,     TField::edtThrVolPct1, TField::edtThrVolPct2,
-    TField::edtTickDiff,   TField::edtTimeOut,     TField::edtVolPct,     TField::edtRandPct,
-    TField::edtReloadPct,
+// What the row of an algorithm names, looked up once while it is compiled.
+struct TAlgoView {
+  model::TInlineList<TGroup, model::MaxGroups> groups;
+  model::TInlineList<TGroup, model::MaxHiddenItems> hiddenGroups;
+  model::TInlineList<TField, model::MaxHiddenItems> hiddenItems;
 };
+
+constexpr auto Views = [] {
+  std::array<TAlgoView, model::AlgoTable.size()> views{};
+  for (std::size_t i = 0; i < views.size(); ++i) {
+    for (const std::string_view name : model::AlgoTable[i].groups) {
+      views[i].groups.Add(*field_lists::FindGroup(name));
+    }
+    for (const std::string_view name : model::AlgoTable[i].hiddenItems) {
+      if (const auto group = field_lists::FindGroup(name)) {
+        views[i].hiddenGroups.Add(*group);
+      } else {
+        views[i].hiddenItems.Add(*field_lists::FindItem(name));
+      }
+    }
+  }
+  return views;
+}();
+
+const TAlgoView& ViewOf(const model::TAlgoRow& algo) {
+  return Views[static_cast<std::size_t>(&algo - model::AlgoTable.data())];
+}
 
 }  // namespace
 
-const model::TAlgoRow* TAlgoOrderEntryFrame::ChosenAlgo() const {
-  const std::int32_t index = Combo(TField::cmbOrderType).Index();
-  if (index < 0 || index > std::ssize(FAlgoTypeList)) return nullptr;
-  // An index just behind the list is let through to the list, which answers with its own error.
-  if (index == std::ssize(FAlgoTypeList)) throw EListIndexError(index);
-  return model::FindAlgoById(FAlgoTypeList[static_cast<std::size_t>(index)]);
+void TEntryForm::HideAlgo() {
+  for (const TGroup group : AllAlgoGroups) Group(group).SetVisible(false);
+  for (const TGroup group : GroupsShownAgain) Group(group).SetVisible(true);
+  for (const TField field : ItemsShownAgain) Item(field).SetVisible(true);
 }
 
-void TAlgoOrderEntryFrame::ResetView() {
-  for (const std::string_view group : model::AllAlgoGroups) Layout().Find(group)->SetVisible(false);
-  for (const std::string_view element : model::ItemsShownAgain) Layout().Find(element)->SetVisible(true);
-}
-
-void TAlgoOrderEntryFrame::InitializeView() {
-  const model::TAlgoRow* algo = ChosenAlgo();
-  if (algo == nullptr) return;
+void TEntryForm::ShowAlgo(const model::TAlgoRow& algo) {
   const auto moveShared = [this](TGroup column) {
-    for (const TGroup group : SharedGroups) Layout().Move(Group(group), Group(column));
+    for (const TGroup group : GroupsThatMove) Layout().Move(Group(group), Group(column));
   };
   moveShared(TGroup::lgAlgo);
-  for (const std::string_view group : algo->groups) Layout().Find(group)->SetVisible(true);
-  for (const std::string_view item : algo->hiddenItems) Layout().Find(item)->SetVisible(false);
-  if (algo->maxVolPctMaximum) Spin(TField::edtMaxVolPct).SetMax(algo->maxVolPctMaximum);
-  if (algo->closingNotSet) Combo(TField::cmbClosing).SelectLast();
-  if (algo->groupsInRightColumn) moveShared(TGroup::lgAlgoRight);
-  FBoldStyle->SetBold(true);
-  for (const TField field : KeyInputs) Item(field).SetStyle(FBoldStyle);
+  const TAlgoView& view = ViewOf(algo);
+  for (const TGroup group : view.groups) Group(group).SetVisible(true);
+  for (const TGroup group : view.hiddenGroups) Group(group).SetVisible(false);
+  for (const TField field : view.hiddenItems) Item(field).SetVisible(false);
+  for (const auto& [param, maximum] : algo.maximums) Spin(FieldOf(param)).SetMax(maximum);
+  for (const model::TParam param : algo.notSetAtFirst) Combo(FieldOf(param)).SelectLast();
+  if (algo.groupsInRightColumn) moveShared(TGroup::lgAlgoRight);
+  FKeyCaptions->SetBold(true);
+  for (const TField field : KeyInputs) Item(field).SetStyle(FKeyCaptions);
 }
 
-void TAlgoOrderEntryFrame::ResetInputUI() {
-  Date(TField::deSTime).SetText({});
-  Date(TField::deETime).SetText({});
-  for (const TField choice : ChoicesResetToLast) Combo(choice).SelectLast();
-  for (const TField choice : ChoicesResetToFirst) Combo(choice).SelectFirst();
-  Combo(TField::cmbRef).SelectLast();
-  for (const TField number : NumbersReset) Spin(number).SetValue(std::nullopt);
-  const model::TAlgoRow* algo = ChosenAlgo();
-  if (algo != nullptr && algo->refillsStyle) FillStyleList();
+void TEntryForm::EmptyAlgoFields() {
+  for (const model::TParamRow& row : model::ParamRows()) {
+    const TField field = FieldOf(row.param);
+    switch (row.reset) {
+      case model::TReset::Empty:
+        static_cast<forms::TEditor&>(Control(field)).SetText({});
+        break;
+      case model::TReset::FirstItem:
+        Combo(field).SelectFirst();
+        break;
+      case model::TReset::LastItem:
+        Combo(field).SelectLast();
+        break;
+      case model::TReset::Refilled:
+        break;
+    }
+  }
 }
 
-}  // namespace algo::views
+}  // namespace algo::views::entry

@@ -2,29 +2,20 @@
 
 #include "model/parameter_text.h"
 #include "text/number_text.h"
+#include "views/boundary/flag_scope.h"
 #include "views/entry/entry_frame.h"
+#include "views/entry/price_multiplier.h"
 
-namespace algo::views {
-
-class TAlgoOrderEntryFrame::TCopying {
- public:
-  explicit TCopying(bool& copying) : FCopying(copying) { FCopying = true; }
-  ~TCopying() { FCopying = false; }
-  TCopying(const TCopying&) = delete;
-  TCopying& operator=(const TCopying&) = delete;
-
- private:
-  bool& FCopying;
-};
+namespace algo::views::entry {
 
 const host::TCustomClientOrder* TAlgoOrderEntryFrame::OrderForThisView(
     const host::TChannelRecord* record) const {
   const auto* copied = dynamic_cast<const host::TOrderCopyRecord*>(record);
-  if (copied == nullptr || !TakesCopies()) return nullptr;
+  if (copied == nullptr || !FPurpose.takesCopies) return nullptr;
   const auto* order = dynamic_cast<const host::TCustomClientOrder*>(copied->object);
   if (order == nullptr) return nullptr;
   const bool otherGroup = FGlobalValueUpdateMode >= 0 && !FGroupID.empty() && copied->groupId != FGroupID;
-  const bool symbolLocked = !Control(TField::edtSymbol).Enabled() && order->symbol != FCurrentSymbol;
+  const bool symbolLocked = !Control(TField::edtSymbol).Enabled() && order->symbol != FSymbol.Symbol();
   return otherGroup || symbolLocked ? nullptr : order;
 }
 
@@ -45,7 +36,7 @@ void TAlgoOrderEntryFrame::CopySymbol(const std::string& symbol) {
 
 void TAlgoOrderEntryFrame::DoCopyOrder(const host::TCustomClientOrder& order) {
   ClearOrder();
-  const TCopying copying(FCopying);
+  const TFlagScope copying(FSymbol.Copying());
   if (Control(TField::edtSymbol).Enabled()) CopySymbol(order.symbol);
   auto& account = Edit(TField::edtAccount);
   if (account.Enabled()) {
@@ -55,12 +46,12 @@ void TAlgoOrderEntryFrame::DoCopyOrder(const host::TCustomClientOrder& order) {
   }
   auto& quantity = Spin(TField::edtQty);
   if (quantity.Enabled()) quantity.SetValue(static_cast<double>(text::TruncateToWhole(order.quantity)));
-  SelectExchange(order.exchange);
+  FLists.SelectExchange(order.exchange);
   SetDisplayOrderType(order);
   auto& price = Spin(TField::edtPrice);
-  if (price.Enabled()) price.SetValue(PriceToShow(order.price, FCurrentItem));
-  FPriceSet = true;
-  FQtySet = true;
+  if (price.Enabled()) price.SetValue(PriceToShow(order.price, FSymbol.Item()));
+  FSymbol.SetPriceFilled(true);
+  FSymbol.SetQuantityFilled(true);
   const std::string algoText = order.TextProperty(host::AlgoTextProperty);
   const model::TSplitText split = model::SplitText(algoText);
   InitializeConfirmView(split.algoId, split.pieces);
@@ -68,21 +59,21 @@ void TAlgoOrderEntryFrame::DoCopyOrder(const host::TCustomClientOrder& order) {
 
 void TAlgoOrderEntryFrame::DoCopyPrice(const host::TCustomClientOrder& order) {
   {
-    const TCopying copying(FCopying);
-    const std::string previousSymbol = FCurrentSymbol;
+    const TFlagScope copying(FSymbol.Copying());
+    const std::string previousSymbol = FSymbol.Symbol();
     if (!order.symbol.empty() && Control(TField::edtSymbol).Enabled()) CopySymbol(order.symbol);
     auto& price = Spin(TField::edtPrice);
-    if (order.price != 0 && price.Enabled()) price.SetValue(PriceToShow(order.price, FCurrentItem));
+    if (order.price != 0 && price.Enabled()) price.SetValue(PriceToShow(order.price, FSymbol.Item()));
     auto& quantity = Spin(TField::edtQty);
     if (order.quantity != 0) {
       if (quantity.Enabled()) quantity.SetValue(static_cast<double>(text::TruncateToWhole(order.quantity)));
-      FQtySet = true;
+      FSymbol.SetQuantityFilled(true);
     } else {
-      FQtySet = order.symbol == previousSymbol;
+      FSymbol.SetQuantityFilled(order.symbol == previousSymbol);
     }
-    FPriceSet = true;
+    FSymbol.SetPriceFilled(true);
   }
   UpdateSymbolInfo();
 }
 
-}  // namespace algo::views
+}  // namespace algo::views::entry

@@ -1,21 +1,15 @@
 #pragma once
 
-// Where Enter leads from each field. A field's candidates stand in two runs, tried one after the other; the
-// first candidate that can take the focus gets it.
+// Where Enter leads from each field.
 
-#include <span>
+#include <vector>
 
 #include "views/entry/fields.h"
 
-namespace algo::views {
+namespace algo::views::entry {
 
-struct TEnterRow {
-  TField field;
-  std::span<const TField> first;
-  std::span<const TField> then = {};
-};
+/// The candidates in the order in which they are tried; the first that can take the focus gets it. Empty for
+/// a field in which Enter moves nothing.
+std::vector<TField> EnterPath(TField field);
 
-/// The row of the field; nullptr for a field in which Enter moves nothing.
-const TEnterRow* FindEnterRow(TField field);
-
-}  // namespace algo::views
+}  // namespace algo::views::entry

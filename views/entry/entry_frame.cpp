@@ -1,57 +1,32 @@
-// How an entry frame comes to life, follows the configuration, and goes.
+// How an entry frame comes to life, and what the host asks of an open view.
 
 #include "views/entry/entry_frame.h"
 
-#include <array>
-#include <utility>
-
-#include "plugin/host_contract/config_manager.h"
-#include "plugin/host_contract/editor_manager.h"
 #include "plugin/host_contract/look_and_feel_service.h"
 #include "plugin/host_contract/user_app_profile.h"
 #include "plugin/host_contract/view_functions.h"
-#include "text/number_text.h"
 #include "text/text.h"
 
-namespace algo::views {
+namespace algo::views::entry {
 
 namespace {
 
 constexpr std::int32_t StartLanguage = 3;
 constexpr std::int32_t SideFontSize = 36;
-constexpr std::string_view PlatformSection = "VANTORIX_PLATFORM";
-
-// The trailing arguments with which look-up editors are registered.
-constexpr std::int32_t LookUpMode = 0;
-constexpr std::int32_t LookUpOptions = 1;
-
-// A user of this kind without the flag works on the profile's account and sees no account field.
-constexpr std::int32_t SingleAccountKind = 2;
-
-// The scale settings up to which each caption size holds; the edges are not even on purpose.
-struct TScaleStep {
-  std::int32_t upTo;
-  std::int32_t fontSize;
-};
-constexpr std::array ScaleSteps{TScaleStep{100, 8}, TScaleStep{114, 10}, TScaleStep{125, 11},
-                                TScaleStep{134, 12}};
-constexpr std::int32_t LargestFontSize = 13;
-
-// Editors that the host steps by lot or tick, in the order in which they are registered.
-constexpr std::array QuantityFields{TField::edtQty,     TField::edtMinQty,  TField::edtStopQty,
-                                    TField::edtShowQty, TField::edtJoinQty, TField::edtMaxShowQty};
-constexpr std::array AlgoPriceFields{TField::edtThrPx1, TField::edtThrPx2, TField::edtStopLossPx,
-                                     TField::edtWPx};
-
-host::TEditorManager& Editors() { return host::TEditorManager::GetInstance(); }
 
 }  // namespace
 
-TAlgoOrderEntryFrame::TAlgoOrderEntryFrame(std::string className)
-    : TViewFrame(std::move(className), "lcAlgoOrder") {
+TAlgoOrderEntryFrame::TAlgoOrderEntryFrame(const TFramePurpose& purpose)
+    : TGuardedFrame(std::string(purpose.className), "lcAlgoOrder"),
+      FPurpose(purpose),
+      FForm(*this),
+      FLists(FForm, {.exchangeChanged = [this] { cmbExchChange(); },
+                     .algoChanged = [this] { cmbOrderTypeChange(); },
+                     .orderTypeChanged = [this] { cmbMOrderTypeChange(); }}),
+      FSymbol(FForm, this, Handler(&TAlgoOrderEntryFrame::SymbolUpdate)),
+      FLayoutText(FForm, FLists, FSymbol) {
   // Making the form is one call from outside: what its handlers set off fails, if it fails, as a whole.
   const TBoundary making;
-  MakeForm();
   WireEvents();
   if (WorksOnProfileAccount()) {
     Group(TGroup::lgAcct).SetVisible(false);
@@ -72,102 +47,6 @@ TAlgoOrderEntryFrame::TAlgoOrderEntryFrame(std::string className)
   if (!startSymbol.empty()) SetSymbol(startSymbol);
 }
 
-TAlgoOrderEntryFrame::~TAlgoOrderEntryFrame() { FAlive.reset(); }
-
-void TAlgoOrderEntryFrame::Detach() {
-  FAlive.reset();
-  FRegistrations.ReleaseAll();
-}
-
-void TAlgoOrderEntryFrame::RunInput(const std::function<void()>& input) {
-  if (Detached()) return;
-  const TNestedLoopScope fresh;
-  AtBoundary(input);
-}
-
-bool TAlgoOrderEntryFrame::WorksOnProfileAccount() const {
-  auto& profile = host::TCustomUserAppProfile::GetInstance();
-  return profile.UserKind() == SingleAccountKind && !profile.UserFlag();
-}
-
-void TAlgoOrderEntryFrame::RegisterQuantityEditor(forms::TSpinEdit& control) {
-  FRegistrations.Add([&] { Editors().RegisterQuantityEditor(control, FGroupID); },
-                     [&control] { Editors().RemoveQuantityEditor(control); });
-}
-
-void TAlgoOrderEntryFrame::RegisterWithHost() {
-  const auto registerPrice = [this](TField field) {
-    forms::TSpinEdit& control = Spin(field);
-    FRegistrations.Add([&] { Editors().RegisterPriceEditor(control, FGroupID); },
-                       [&control] { Editors().RemovePriceEditor(control); });
-  };
-  forms::TTextEdit& account = Edit(TField::edtAccount);
-  FRegistrations.Add([&] { Editors().RegisterAccountEditor(account, FGroupID, LookUpMode, LookUpOptions); },
-                     [&account] { Editors().RemoveAccountEditor(account); });
-  forms::TTextEdit& symbol = Edit(TField::edtSymbol);
-  FRegistrations.Add([&] { Editors().RegisterSymbolEditor(symbol, FGroupID, LookUpMode, LookUpOptions); },
-                     [&symbol] { Editors().RemoveSymbolEditor(symbol); });
-  registerPrice(TField::edtPrice);
-  for (const TField field : QuantityFields) RegisterQuantityEditor(Spin(field));
-  for (const TField field : AlgoPriceFields) registerPrice(field);
-
-  auto& config = host::TCustomConfigManager::GetInstance();
-  FRegistrations.Add([&] { config.AddListener(Handler(&TAlgoOrderEntryFrame::ConfigUpdate), this); },
-                     [this] { host::TCustomConfigManager::GetInstance().RemoveListener(this); });
-  const auto subscribe = [this](std::int32_t channel, host::TCustomGlobalChannelManager::THandler handler) {
-    FRegistrations.Add(
-        [&] {
-          host::TCustomGlobalChannelManager::GetInstance().Subscribe(channel, std::move(handler), this);
-        },
-        [this, channel] { host::TCustomGlobalChannelManager::GetInstance().Unsubscribe(channel, this); });
-  };
-  subscribe(host::CopyPriceChannel, Handler(&TAlgoOrderEntryFrame::CopyPrice));
-  subscribe(host::CopyOrderChannel, Handler(&TAlgoOrderEntryFrame::CopyOrder));
-  FRegistrations.Add(
-      [&] {
-        host::TCustomMarketAdapter::GetInstance().AddSpreadListener(
-            Handler(&TAlgoOrderEntryFrame::SpreadUpdate), this);
-      },
-      [this] { host::TCustomMarketAdapter::GetInstance().RemoveSpreadListener(this); });
-  FRegistrations.Add(
-      [&] {
-        host::TCustomLookAndFeelService::GetInstance().AddListener(
-            Handler(&TAlgoOrderEntryFrame::SkinChanged), this);
-      },
-      [this] { host::TCustomLookAndFeelService::GetInstance().RemoveListener(this); });
-  FRegistrations.Add([] {}, [this] { UnfollowSymbol(); });
-}
-
-bool TAlgoOrderEntryFrame::SetGroupID(std::string_view id) {
-  return AtBoundary(false, [&] {
-    if (id == FGroupID) return true;
-    FGroupID = id;
-    if (!WorksOnProfileAccount()) {
-      Editors().RegisterAccountEditor(Edit(TField::edtAccount), FGroupID, LookUpMode, LookUpOptions);
-    }
-    Editors().RegisterPriceEditor(Spin(TField::edtPrice), FGroupID);
-    Editors().RegisterQuantityEditor(Spin(TField::edtQty), FGroupID);
-    Editors().RegisterSymbolEditor(Edit(TField::edtSymbol), FGroupID, LookUpMode, LookUpOptions);
-    for (const TField field : QuantityFields) {
-      if (field != TField::edtQty) Editors().RegisterQuantityEditor(Spin(field), FGroupID);
-    }
-    for (const TField field : AlgoPriceFields) Editors().RegisterPriceEditor(Spin(field), FGroupID);
-    TellEditorsOfGroup();
-    return true;
-  });
-}
-
-void TAlgoOrderEntryFrame::TellEditorsOfGroup() {
-  for (const TField field :
-       {TField::edtPrice, TField::edtThrPx1, TField::edtThrPx2, TField::edtStopLossPx, TField::edtWPx}) {
-    Editors().SetPriceSymbol(Spin(field), FCurrentSymbol);
-  }
-  for (const TField field : {TField::edtQty, TField::edtStopQty, TField::edtMinQty, TField::edtShowQty,
-                             TField::edtJoinQty, TField::edtMaxShowQty}) {
-    Editors().SetQuantitySymbol(Spin(field), FCurrentSymbol);
-  }
-}
-
 void TAlgoOrderEntryFrame::SetSkin(std::string_view /*name*/) {
   AtBoundary([this] {
     auto& skin = host::TCustomLookAndFeelService::GetInstance();
@@ -177,26 +56,16 @@ void TAlgoOrderEntryFrame::SetSkin(std::string_view /*name*/) {
   });
 }
 
-void TAlgoOrderEntryFrame::SkinChanged(std::string_view name) { SetSkin(name); }
-
-void TAlgoOrderEntryFrame::ConfigUpdate() {
-  auto& config = host::TCustomConfigManager::GetInstance();
-  const std::string section = config.CurrentSection();
-  Check(TField::cbPopup).SetChecked(!config.ReadBoolean(section, "ConfirmationPlaceOrd"));
-  Check(TField::cbPopup).SetEnabled(!config.ReadBoolean(section, "ForceConfirmBox"));
-  Check(TField::cbClear).SetChecked(config.ReadBoolean(section, "ClearOrd"));
-  const auto mode = text::ParseWhole(config.ReadText(PlatformSection, "DefaultGroupDataMode"));
-  FGlobalValueUpdateMode = mode && std::in_range<std::int32_t>(*mode) ? static_cast<std::int32_t>(*mode) : -1;
-  UpdateScale();
+std::string TAlgoOrderEntryFrame::GetLayoutData() {
+  return AtBoundary(std::string(), [this] { return FLayoutText.Write(FCurrentAccount); });
 }
 
-void TAlgoOrderEntryFrame::UpdateScale() {
-  const std::int32_t scale =
-      host::TCustomConfigManager::GetInstance().ReadInteger(PlatformSection, "ScaleSize");
-  for (const TScaleStep& step : ScaleSteps) {
-    if (scale <= step.upTo) return FBoldStyle->SetSize(step.fontSize);
-  }
-  FBoldStyle->SetSize(LargestFontSize);
+bool TAlgoOrderEntryFrame::SetLayoutData(std::string_view text) {
+  return AtBoundary(false, [&] {
+    FLayoutText.Read(text);
+    host::SendViewNotify(*this, host::ViewChanged);
+    return true;
+  });
 }
 
-}  // namespace algo::views
+}  // namespace algo::views::entry

@@ -4,36 +4,30 @@
 // instance stands in each open view. The change frame and the work order frame derive from it and use the
 // same form.
 //
-// One source per concern: entry_frame.cpp (making, unmaking, configuration), form.cpp (the form from its
-// tables), pick_lists.cpp (exchanges, algorithms, order types), algo_view.cpp (what an algorithm shows and
-// resets), captions.cpp, field_rules.cpp (exit, click and Enter), tracking.cpp (symbol and prices),
-// order_type.cpp, submit.cpp, load_parameters.cpp, copying.cpp, layout_text.cpp and work_parent.cpp.
+// What the frame knows stands in members of their own: the form from its tables (entry_form.h), the pick
+// lists, the followed symbol and the layout text. Its own sources: entry_frame.cpp (making, unmaking, what
+// the host asks of a view), host_link.cpp (what is registered with the host), events.cpp (what the controls
+// set off), captions.cpp, choosing.cpp (what follows from a choice), submit.cpp (from the click to the host),
+// order_type.cpp, work_parent.cpp and copying.cpp.
 
-#include <array>
 #include <cstdint>
-#include <functional>
-#include <memory>
 #include <optional>
-#include <span>
 #include <string>
 #include <string_view>
 #include <vector>
 
-#include "forms/frame.h"
-#include "model/algos.h"
 #include "model/rules.h"
-#include "model/values.h"
 #include "plugin/host_contract/channel_manager.h"
-#include "plugin/host_contract/market_data.h"
+#include "plugin/host_contract/language_manager.h"
 #include "plugin/host_contract/orders.h"
-#include "plugin/host_contract/view_frame.h"
-#include "views/boundary/boundary.h"
-#include "views/boundary/registrations.h"
-#include "views/entry/fields.h"
+#include "views/boundary/guarded_frame.h"
+#include "views/entry/entry_form.h"
+#include "views/entry/followed_symbol.h"
+#include "views/entry/frame_purpose.h"
+#include "views/entry/layout_text.h"
+#include "views/entry/pick_lists.h"
 
-namespace algo::views {
-
-struct TLayoutRow;
+namespace algo::views::entry {
 
 /// The view id under which the entry view posts its orders.
 inline constexpr std::int32_t AlgoEntryViewID = 426;
@@ -44,10 +38,9 @@ inline constexpr std::string_view AlgoEntryOrigin = "AlgoEntry";
 /// A side that is not chosen.
 inline constexpr std::int32_t SideNotChosen = 3;
 
-class TAlgoOrderEntryFrame : public host::TViewFrame {
+class TAlgoOrderEntryFrame : public TGuardedFrame {
  public:
-  explicit TAlgoOrderEntryFrame(std::string className = "TAlgoOrderEntryFrame");
-  ~TAlgoOrderEntryFrame() override;
+  explicit TAlgoOrderEntryFrame(const TFramePurpose& purpose = EntryPurpose);
 
   // What the host asks of an open view. All of these are boundaries: they report errors and let none out.
 
@@ -57,21 +50,18 @@ class TAlgoOrderEntryFrame : public host::TViewFrame {
   std::string GetGroupID() const override { return FGroupID; }
   std::string GetLayoutData() override;
   bool SetLayoutData(std::string_view text) override;
-  void Detach() override;
 
   // Controls and layout by name on the form.
 
-  forms::TTextEdit& Edit(TField field) const { return static_cast<forms::TTextEdit&>(Control(field)); }
-  forms::TSpinEdit& Spin(TField field) const { return static_cast<forms::TSpinEdit&>(Control(field)); }
-  forms::TComboBox& Combo(TField field) const { return static_cast<forms::TComboBox&>(Control(field)); }
-  forms::TDateEdit& Date(TField field) const { return static_cast<forms::TDateEdit&>(Control(field)); }
-  forms::TCheckBox& Check(TField field) const { return static_cast<forms::TCheckBox&>(Control(field)); }
-  forms::TSpeedButton& SideButton(TField field) const {
-    return static_cast<forms::TSpeedButton&>(Control(field));
-  }
-  forms::TControl& Control(TField field) const { return *FControls[IndexOf(field)]; }
-  forms::TLayoutItem& Item(TField field) const { return *Control(field).Item(); }
-  forms::TLayoutGroup& Group(TGroup group) const { return *FGroups[IndexOf(group)]; }
+  forms::TTextEdit& Edit(TField field) const { return FForm.Edit(field); }
+  forms::TSpinEdit& Spin(TField field) const { return FForm.Spin(field); }
+  forms::TComboBox& Combo(TField field) const { return FForm.Combo(field); }
+  forms::TDateEdit& Date(TField field) const { return FForm.Date(field); }
+  forms::TCheckBox& Check(TField field) const { return FForm.Check(field); }
+  forms::TSpeedButton& SideButton(TField field) const { return FForm.SideButton(field); }
+  forms::TControl& Control(TField field) const { return FForm.Control(field); }
+  forms::TLayoutItem& Item(TField field) const { return FForm.Item(field); }
+  forms::TLayoutGroup& Group(TGroup group) const { return FForm.Group(group); }
 
   // Orders.
 
@@ -123,47 +113,37 @@ class TAlgoOrderEntryFrame : public host::TViewFrame {
   void ResetInputUI();
 
   /// Follows the symbol (empty for none) and prefills quantity and price from its market data anew.
-  void SetSymbol(std::string_view symbol);
+  void SetSymbol(std::string_view symbol) { FSymbol.SetSymbol(symbol); }
 
   /// Fills quantity and price from the market, each once for a symbol; with no effect without usable data or
   /// while something is being copied into the form.
-  void UpdateSymbolInfo();
+  void UpdateSymbolInfo() { FSymbol.UpdateSymbolInfo(); }
 
-  /// Enables the price editor and its lock by the chosen host order type; with no effect for a type without a
-  /// rule.
+  /// Enables the price editor and its lock by the chosen host order type; with no effect when none is chosen.
   void UpdatePriceEditorState();
 
   /// Puts the market price into the price editors of the algo fields, whatever they hold.
-  void UpdatePrice();
+  void UpdatePrice() { FSymbol.UpdatePrice(); }
 
  protected:
   /// The resource text of the id, in the user's language.
-  std::string GetResource(std::string_view id) const;
+  std::string GetResource(std::string_view id) const { return host::ResourceText(id); }
 
-  /// The chosen algorithm's row: nullptr when none is chosen or its id is not in the catalogue. Throws
-  /// EListIndexError when the choice lies just behind the list.
-  const model::TAlgoRow* ChosenAlgo() const;
-
-  /// The entries of the algo fields as values.
-  model::TParamValues Values() const;
-
-  /// What the first failed rule of the times and of the chosen algorithm complains of.
+  /// What the first failed rule of the times and of the chosen algorithm says.
   std::optional<model::TRuleFailure> CheckAlgoFields() const;
 
-  /// A text to be shown names an algorithm that is not offered. The entry frame keeps its own choice.
-  virtual void AlgoNotOffered() {}
+  /// Tells the trader what a failed rule says.
+  void Tell(const model::TRuleFailure& failure) const;
 
-  /// Whether a refill of the algorithms chooses the first one where none was chosen before.
-  virtual bool FirstAlgoStandsIn() const { return true; }
+  /// Registers a quantity editor of its own with the host for the life of the frame.
+  void RegisterQuantityEditor(forms::TSpinEdit& control);
 
-  /// Whether orders and prices picked in other views may be copied into the form.
-  virtual bool TakesCopies() const { return true; }
+  TPickLists& Lists() { return FLists; }
+  const TPickLists& Lists() const { return FLists; }
 
-  /// Chooses the exchange of that code; the first one when it is not there.
-  void SelectExchange(const std::string& code);
+  /// Run after the algorithm was changed, and with it the size of the form.
+  std::function<void()> FOnAlgoTypeChange;
 
-  /// The algorithm was changed: shows its fields, emptied.
-  virtual void cmbOrderTypeChange();
   virtual void cbLockPriceChange();
   virtual void cbPopupClick();
   virtual void btnBuyClick();
@@ -171,125 +151,43 @@ class TAlgoOrderEntryFrame : public host::TViewFrame {
   virtual void btnSubmitClick();
   virtual void btnClearClick();
 
-  /// Tells the trader what a rule complains of.
-  void Tell(const model::TRuleFailure& complaint) const;
-
-  /// The price to write into an order for a price as shown: divided by `item`'s multiplier where it has one.
-  /// Throws EConversionError when that gives no finite number.
-  static double PriceForOrder(double shown, const host::TMarketDataItem* item);
-
-  /// The price to show for a price as the market has it.
-  static double PriceToShow(double raw, const host::TMarketDataItem* item);
-
-  /// The item's price multiplier; nothing when the item is not live or has none.
-  static std::optional<double> PriceMultiplier(const host::TMarketDataItem* item);
-
-  /// A handler for control events and host notifications: a boundary around the method, dead once the frame
-  /// is detached.
-  template <class TFrameClass, class... TArguments>
-  std::function<void(TArguments...)> Handler(void (TFrameClass::*method)(TArguments...)) {
-    return [this, method, alive = std::weak_ptr<const bool>(FAlive)](TArguments... arguments) {
-      if (alive.expired()) return;
-      const auto kept = KeepAlive();
-      AtBoundary([&] { (static_cast<TFrameClass*>(this)->*method)(arguments...); });
-    };
-  }
-
-  /// Whether the frame has given everything back and lives on only because a handler of it runs.
-  bool Detached() const { return !FAlive; }
-
-  void RunInput(const std::function<void()>& input) override;
-
-  /// Registers an editor with the host for the life of the frame.
-  void RegisterQuantityEditor(forms::TSpinEdit& control);
-
-  /// Moves the focus to the first of the controls that can take it; it stays where none can.
-  void FocusNext(std::span<const TField> candidates, std::span<const TField> then = {});
-
-  std::vector<std::string> FAlgoExchList;        ///< exchange codes, parallel to cmbExch
-  std::vector<std::string> FAlgoTypeList;        ///< algorithm resource ids, parallel to cmbOrderType
-  std::vector<std::string> FOrderTypeConstList;  ///< algorithm codes, parallel to cmbOrderType
-  std::vector<std::string> FOrderTypeList;       ///< host order type resource ids, parallel to cmbMType
-  std::string FCurrentAccount;
-  std::string FCurrentSymbol;
-  host::TMarketDataItem* FCurrentItem = nullptr;  ///< the followed symbol's, owned by the host
-
  private:
-  /// While refills last, choices change silently; at the end of the outermost one the change handler of each
-  /// list whose chosen entry is another than before runs once.
-  class TRefill;
-  /// Marks a copy into the frame for the life of the object.
-  class TCopying;
-  /// The entries for which the change handlers ran last.
-  struct TChosen {
-    std::string exchange;
-    std::string algoType;
-    std::string orderType;
-  };
-
-  /// What a refill puts into a combo box and the lists beside it.
-  struct TPickList {
-    std::vector<std::string> ids;
-    std::vector<std::string> codes;
-    std::vector<std::string> texts;
-  };
-
-  // form.cpp
-  void MakeForm();
-  void WireEvents();
-
-  // entry_frame.cpp
+  // host_link.cpp
   void RegisterWithHost();
   void TellEditorsOfGroup();
+  void SymbolUpdate(const void* sender, const host::TItemDictionary* data);
+  void SpreadUpdate(const void* sender, const host::TSpreadDictionary* data);
   void SkinChanged(std::string_view name);
   void ConfigUpdate();
-  bool WorksOnProfileAccount() const;
   void UpdateScale();
+  bool WorksOnProfileAccount() const;
 
-  // pick_lists.cpp
+  // choosing.cpp
   void InitializeList();
-  void InitExchangeList();
-  void InitializeOrderType(std::int32_t exchangeIndex);
-  void OfferNothing();
-  void RefillOrderLists();
-  TPickList AlgoTypesOf(const std::string& exchange) const;
-  TPickList OrderTypesOf(const std::string& exchange) const;
-  void FillPickLists();
-  void FillStyleList();
-  void FillRefList();
-  const std::vector<std::string>& ListOf(TField combo) const;
-  TChosen Chosen() const;
-  void cmbExchChange();
-  void cmbMOrderTypeChange();
-
-  // algo_view.cpp
-  void ResetView();
+  void InitExchangeList() { FLists.InitExchangeList(); }
+  void InitializeOrderType(std::int32_t exchangeIndex) { FLists.InitializeOrderType(exchangeIndex); }
+  void ResetView() { FForm.HideAlgo(); }
   void InitializeView();
+  void cmbExchChange();
+  void cmbOrderTypeChange();
+  void cmbMOrderTypeChange();
 
   // captions.cpp
   void SetCaptions();
   void FitSideButtons();
 
-  // field_rules.cpp
-  void ApplyExitRule(TField field);
-  void FocusAfter(TField field);
+  // events.cpp
+  void WireEvents();
+  void FieldLeft(TField field) { FForm.ApplyExitRule(field); }
+  void EnterPressed(TField field);
   void edtAccountExit();
   void edtSymbolExit();
-
-  // load_parameters.cpp
-  void ChooseAlgo(std::string_view algoName);
-  void LoadParameter(model::TParam param, const std::vector<std::string_view>& pieces);
-
-  // submit.cpp
   void cbClearClick();
   void StoreSetting(std::string_view key, bool value) const;
 
-  // tracking.cpp
-  void SymbolUpdate(const void* sender, const host::TItemDictionary* data);
-  void SpreadUpdate(const void* sender, const host::TSpreadDictionary* data);
-  void UnfollowSymbol();
-  void PrefillQuantity();
-  void PrefillPrice();
+  // submit.cpp
+  std::optional<model::TRuleFailure> CheckCommon() const;
+  void FillCommonFields(host::TCustomClientOrder& order) const;
 
   // copying.cpp
   void CopyOrder(const void* sender, host::TChannelRecord* record);
@@ -299,38 +197,20 @@ class TAlgoOrderEntryFrame : public host::TViewFrame {
   void DoCopyOrder(const host::TCustomClientOrder& order);
   void DoCopyPrice(const host::TCustomClientOrder& order);
 
-  // layout_text.cpp
-  std::optional<std::string> LayoutValue(const TLayoutRow& row) const;
-  void ApplyLayoutValue(const TLayoutRow& row, const std::string& value);
-
   // work_parent.cpp
   void btnWorkClick();
   bool GetWorkOrder(host::TCustomClientOrder& order);
   void WorkOrder(host::TCustomClientOrder& order) const;
 
-  std::optional<model::TRuleFailure> CheckCommon() const;
-  void FillCommonFields(host::TCustomClientOrder& order) const;
-
+  const TFramePurpose& FPurpose;
   std::string FGroupID;
   std::int32_t FOrderType = SideNotChosen;  ///< the side, despite its name
-  std::vector<std::string> FOpenCloseList;
-  std::vector<std::string> FStyleList;
-  std::vector<std::string> FFuncList;
-  std::vector<std::string> FRefList;
-  std::vector<std::int32_t> FRefValList;  ///< codes, parallel to FRefList without its last entry
-  bool FPriceSet = false;  ///< the price was filled for this symbol; market data leaves it alone
-  bool FQtySet = false;    ///< the lot size was taken for this symbol
-  std::int32_t FLotSize = 0;
-  bool FCopying = false;
+  std::string FCurrentAccount;
   std::int32_t FGlobalValueUpdateMode = -1;
-
-  std::array<forms::TControl*, FieldCount> FControls{};
-  std::array<forms::TLayoutGroup*, GroupCount> FGroups{};
-  forms::TCaptionStyle* FBoldStyle = nullptr;
-  TChosen FAnnounced;
-  std::int32_t FRefillDepth = 0;
-  std::shared_ptr<const bool> FAlive = std::make_shared<const bool>(true);
-  TRegistrations FRegistrations;
+  TEntryForm FForm;
+  TPickLists FLists;
+  TFollowedSymbol FSymbol;
+  TLayoutText FLayoutText;
 };
 
-}  // namespace algo::views
+}  // namespace algo::views::entry

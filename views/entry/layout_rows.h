@@ -1,102 +1,72 @@
 #pragma once
 
-// The items of the layout text, one row each, in the order in which they are written.
+// The items of the layout text, one row each in the order in which they are written, as the rows of the
+// fields give them.
 
+#include <algorithm>
 #include <array>
-#include <cstdint>
 #include <string_view>
 
-#include "views/entry/fields.h"
+#include "views/entry/field_table.h"
 
-namespace algo::views {
-
-enum class TLayoutKind : std::uint8_t {
-  Account,   ///< the frame's account; always written and always read
-  Symbol,    ///< the frame's symbol; always written and always read
-  Check,     ///< 0 or 1; always written
-  Quantity,  ///< a whole number above 0
-  Price,     ///< a number other than 0, read only into a price that may be typed
-  Choice,    ///< the chosen entry of the list behind the combo box
-  Time,      ///< the text as shown
-  Number,    ///< a number; 0 is written and not read back
-};
+namespace algo::views::entry {
 
 struct TLayoutRow {
   std::string_view key;
-  TLayoutKind kind;
+  TSaved::TKind kind;
   TField field;     ///< the control that decides whether the item is written, and into which it is read
   TField textFrom;  ///< the control whose text is written
 };
 
-constexpr TLayoutRow LayoutRow(std::string_view key, TLayoutKind kind, TField field) {
-  return {key, kind, field, field};
+namespace layout_rows {
+
+consteval std::size_t Count() {
+  std::size_t count = 0;
+  for (const TFieldRow& row : field_rows::Fields) {
+    count += (row.saved.place > 0 ? 1U : 0U) + (row.saved.placeAgain > 0 ? 1U : 0U);
+  }
+  return count;
 }
 
-inline constexpr std::array LayoutRows{
-    LayoutRow("Account", TLayoutKind::Account, TField::edtAccount),
-    LayoutRow("Account-Lock", TLayoutKind::Check, TField::cbLockAcct),
-    LayoutRow("Symbol", TLayoutKind::Symbol, TField::edtSymbol),
-    LayoutRow("Symbol-Lock", TLayoutKind::Check, TField::cbLockSymbol),
-    LayoutRow("Quantity", TLayoutKind::Quantity, TField::edtQty),
-    LayoutRow("Quantity-Lock", TLayoutKind::Check, TField::cbLockQty),
-    LayoutRow("Price", TLayoutKind::Price, TField::edtPrice),
-    LayoutRow("Price-Lock", TLayoutKind::Check, TField::cbLockPrice),
-    LayoutRow("OrderType", TLayoutKind::Choice, TField::cmbOrderType),
-    LayoutRow("Type", TLayoutKind::Choice, TField::cmbMType),
-    LayoutRow("OrderType-Lock", TLayoutKind::Check, TField::cbLockOrderType),
-    LayoutRow("Exchange", TLayoutKind::Choice, TField::cmbExch),
-    LayoutRow("Exchange-Lock", TLayoutKind::Check, TField::cbLockExch),
-    LayoutRow("Popup", TLayoutKind::Check, TField::cbPopup),
-    LayoutRow("Clear", TLayoutKind::Check, TField::cbClear),
-    LayoutRow("Style", TLayoutKind::Choice, TField::cmbStyle),
-    LayoutRow("AccuVol", TLayoutKind::Choice, TField::cmbAccuVol),
-    LayoutRow("Opening", TLayoutKind::Choice, TField::cmbOpening),
-    LayoutRow("Closing", TLayoutKind::Choice, TField::cmbClosing),
-    LayoutRow("CloseSim", TLayoutKind::Choice, TField::cmbCloseSim),
-    LayoutRow("Func", TLayoutKind::Choice, TField::cmbFunc),
-    LayoutRow("AllInAuc", TLayoutKind::Choice, TField::cmbAllInAuc),
-    LayoutRow("Iceberg", TLayoutKind::Choice, TField::cmbIceberg),
-    LayoutRow("Ref", TLayoutKind::Choice, TField::cmbRef),
-    LayoutRow("Join", TLayoutKind::Choice, TField::cmbJoin),
-    LayoutRow("STime", TLayoutKind::Time, TField::deSTime),
-    LayoutRow("ETime", TLayoutKind::Time, TField::deETime),
-    // Saved workspaces hold the order's quantity under this key, and readers have come to expect it.
-    TLayoutRow{"MinQty", TLayoutKind::Number, TField::edtMinQty, TField::edtQty},
-    LayoutRow("ServePct", TLayoutKind::Number, TField::edtServePct),
-    LayoutRow("ShowQty", TLayoutKind::Number, TField::edtShowQty),
-    LayoutRow("Timeout", TLayoutKind::Number, TField::edtTimeOut),
-    LayoutRow("TickDiff", TLayoutKind::Number, TField::edtTickDiff),
-    LayoutRow("JoinThr", TLayoutKind::Number, TField::edtJoinThr),
-    LayoutRow("JoinQty", TLayoutKind::Number, TField::edtJoinQty),
-    LayoutRow("RandTimeout", TLayoutKind::Number, TField::edtRandTimeOut),
-    LayoutRow("DiffPct", TLayoutKind::Number, TField::edtDiffPct),
-    // Written a second time, with the same value: whichever of the two a reader takes, it gets the same.
-    LayoutRow("JoinQty", TLayoutKind::Number, TField::edtJoinQty),
-    LayoutRow("MaxShowQty", TLayoutKind::Number, TField::edtMaxShowQty),
-    LayoutRow("RandPct", TLayoutKind::Number, TField::edtRandPct),
-    LayoutRow("ReloadPct", TLayoutKind::Number, TField::edtReloadPct),
-    LayoutRow("VolPct", TLayoutKind::Number, TField::edtVolPct),
-    LayoutRow("MaxVolPct", TLayoutKind::Number, TField::edtMaxVolPct),
-    LayoutRow("MinOrdAmt", TLayoutKind::Number, TField::edtMinOrdAmt),
-    LayoutRow("WPx", TLayoutKind::Number, TField::edtWPx),
-    LayoutRow("ThrPx1", TLayoutKind::Number, TField::edtThrPx1),
-    LayoutRow("ThrPx2", TLayoutKind::Number, TField::edtThrPx2),
-    LayoutRow("ThrVolPct1", TLayoutKind::Number, TField::edtThrVolPct1),
-    LayoutRow("ThrVolPct2", TLayoutKind::Number, TField::edtThrVolPct2),
-    LayoutRow("Waves", TLayoutKind::Number, TField::edtSlices),
-    LayoutRow("OpenPct", TLayoutKind::Number, TField::edtOpenPct),
-    LayoutRow("ClosePct", TLayoutKind::Number, TField::edtClosePct),
-    LayoutRow("StopLossPx", TLayoutKind::Number, TField::edtStopLossPx),
-    LayoutRow("StopQty", TLayoutKind::Number, TField::edtStopQty),
-};
-static_assert(LayoutRows.size() == 53);
+// A place that is free or taken twice does not compile.
+consteval auto Rows() {
+  std::array<TLayoutRow, Count()> rows{};
+  std::array<bool, Count()> taken{};
+  const auto put = [&](std::size_t place, const TFieldRow& row) {
+    if (place == 0) return;
+    if (taken.at(place - 1)) throw "two items of the layout text claim one place";
+    taken[place - 1] = true;
+    rows[place - 1] = {row.saved.key, row.saved.kind, row.field, row.saved.textFrom.value_or(row.field)};
+  };
+  for (const TFieldRow& row : field_rows::Fields) {
+    put(row.saved.place, row);
+    put(row.saved.placeAgain, row);
+  }
+  return rows;
+}
 
-/// The keys that are read first, because what they choose decides what the others find. The rest follows in
-/// the order in which it is written.
-inline constexpr std::array<std::string_view, 15> ReadFirst{
-    "Account",       "Account-Lock",  "Symbol",         "Symbol-Lock", "Quantity",
-    "Quantity-Lock", "Exchange",      "OrderType",      "Type",        "Price",
-    "Price-Lock",    "Exchange-Lock", "OrderType-Lock", "Popup",       "Clear",
-};
+consteval auto ReadOrder() {
+  const auto written = Rows();
+  std::array<std::size_t, Count()> order{};
+  for (std::size_t i = 0; i < order.size(); ++i) order[i] = i;
+  const auto place = [&written](std::size_t index) -> std::size_t {
+    const std::size_t first = field_rows::Fields[IndexOf(written[index].field)].saved.placeRead;
+    return first > 0 ? first : 1000 + index;
+  };
+  std::sort(order.begin(), order.end(),
+            [&](std::size_t left, std::size_t right) { return place(left) < place(right); });
+  for (std::size_t i = 1; i < order.size(); ++i) {
+    if (place(order[i - 1]) == place(order[i])) throw "two items of the layout text are read in one place";
+  }
+  return order;
+}
 
-}  // namespace algo::views
+}  // namespace layout_rows
+
+inline constexpr auto LayoutRows = layout_rows::Rows();
+
+/// The rows by index in the order in which they are read: first those whose choice decides what the others
+/// find.
+inline constexpr auto LayoutReadOrder = layout_rows::ReadOrder();
+
+}  // namespace algo::views::entry

@@ -1,297 +1,137 @@
-// The pick lists: exchanges, the algorithms and host order types that the chosen exchange offers, and the
-// fixed choices. Each list of codes or resource ids stands beside the combo box that shows its texts; the
-// index is the same in both.
+// The fixed choices, and what is chosen.
+
+#include "views/entry/pick_lists.h"
 
 #include <algorithm>
-#include <array>
-#include <iterator>
-#include <span>
+#include <type_traits>
+#include <utility>
 
-#include "model/algos.h"
-#include "model/choices.h"
-#include "model/order_types.h"
 #include "plugin/host_contract/language_manager.h"
-#include "plugin/host_contract/order_adapter.h"
-#include "plugin/host_contract/user_app_profile.h"
-#include "plugin/host_contract/view_functions.h"
-#include "views/entry/entry_frame.h"
+#include "text/errors.h"
+#include "text/text.h"
 
-namespace algo::views {
+namespace algo::views::entry {
 
 namespace {
 
-constexpr std::array YesNoCombos{TField::cmbAccuVol,  TField::cmbOpening,  TField::cmbClosing,
-                                 TField::cmbCloseSim, TField::cmbAllInAuc, TField::cmbJoin,
-                                 TField::cmbIceberg};
-
-std::vector<std::string> Texts(std::span<const std::string_view> ids) { return {ids.begin(), ids.end()}; }
-
-std::string EntryOf(const std::vector<std::string>& list, std::int32_t index) {
-  const bool inRange = index >= 0 && index < std::ssize(list);
-  return inRange ? list[static_cast<std::size_t>(index)] : std::string();
+std::string ItemText(const model::TChoiceItem& item) {
+  std::string text = host::ResourceText(item.textId.empty() ? item.entry : item.textId);
+  if (!item.levelId.empty()) text += host::ResourceText(item.levelId);
+  return text;
 }
 
-// Where the entry stands in the list; the first place when it is not there, -1 in an empty list.
-std::int32_t IndexOrFirst(const std::vector<std::string>& list, const std::string& entry) {
-  if (list.empty()) return -1;
-  const auto found = std::find(list.begin(), list.end(), entry);
-  const bool known = !entry.empty() && found != list.end();
-  return known ? static_cast<std::int32_t>(found - list.begin()) : 0;
-}
-
-std::vector<std::string> ConfiguredList(const std::string& key) {
-  std::vector<std::string> values;
-  if (!host::TCustomOrderAdapter::GetInstance().GetListSetting(key, values)) values.clear();
-  return values;
+// What a reset gives a choice.
+std::int32_t ResetIndex(const model::TParamRow& param) {
+  return param.reset == model::TReset::FirstItem ? 0 : static_cast<std::int32_t>(param.choices.size()) - 1;
 }
 
 }  // namespace
 
-class TAlgoOrderEntryFrame::TRefill {
- public:
-  explicit TRefill(TAlgoOrderEntryFrame& frame) : FFrame(frame) { ++FFrame.FRefillDepth; }
-  ~TRefill() { --FFrame.FRefillDepth; }
-  TRefill(const TRefill&) = delete;
-  TRefill& operator=(const TRefill&) = delete;
+TPickLists::TPickLists(TEntryForm& form, THandlers handlers) : FForm(form), FHandlers(std::move(handlers)) {}
 
-  /// Ends the refill: at the outermost end the handlers of the changed choices run. Not in the destructor,
-  /// because they may throw.
-  void Announce() {
-    if (FFrame.FRefillDepth > 1) return;
-    const auto announce = [this](std::string TChosen::*entry, void (TAlgoOrderEntryFrame::*changed)()) {
-      if (FFrame.Chosen().*entry != FFrame.FAnnounced.*entry) (FFrame.*changed)();
-    };
-    announce(&TChosen::exchange, &TAlgoOrderEntryFrame::cmbExchChange);
-    announce(&TChosen::algoType, &TAlgoOrderEntryFrame::cmbOrderTypeChange);
-    announce(&TChosen::orderType, &TAlgoOrderEntryFrame::cmbMOrderTypeChange);
-  }
-
- private:
-  TAlgoOrderEntryFrame& FFrame;
-};
-
-std::string TAlgoOrderEntryFrame::GetResource(std::string_view id) const {
-  return host::TCustomLanguageManager::GetInstance().GetText(host::Const_ResourceStringTag, id, 3, 0, 0);
+auto TPickLists::Chosen() const -> TChosen {
+  return {std::string(ChosenEntry(TField::cmbExch)), std::string(ChosenEntry(TField::cmbOrderType)),
+          std::string(ChosenEntry(TField::cmbMType))};
 }
 
-auto TAlgoOrderEntryFrame::Chosen() const -> TChosen {
-  return {EntryOf(FAlgoExchList, Combo(TField::cmbExch).Index()),
-          EntryOf(FAlgoTypeList, Combo(TField::cmbOrderType).Index()),
-          EntryOf(FOrderTypeList, Combo(TField::cmbMType).Index())};
+std::string_view TPickLists::ChosenEntry(TField combo) const {
+  return EntryAt(combo, FForm.Combo(combo).Index());
 }
 
-const std::vector<std::string>& TAlgoOrderEntryFrame::ListOf(TField combo) const {
-  switch (combo) {
-    case TField::cmbExch:
-      return FAlgoExchList;
-    case TField::cmbOrderType:
-      return FAlgoTypeList;
-    case TField::cmbMType:
-      return FOrderTypeList;
-    case TField::cmbStyle:
-      return FStyleList;
-    case TField::cmbFunc:
-      return FFuncList;
-    case TField::cmbRef:
-      return FRefList;
-    default:
-      return FOpenCloseList;
-  }
-}
-
-void TAlgoOrderEntryFrame::InitializeList() {
-  FOpenCloseList = Texts(model::OpenCloseList);
-  FFuncList = Texts(model::FuncList);
-  FRefList = Texts(model::RefList);
-  FRefValList.assign(model::RefValues.begin(), model::RefValues.end());
-  FillPickLists();
-  ResetView();
-  ResetInputUI();
-}
-
-void TAlgoOrderEntryFrame::FillPickLists() {
-  const auto fill = [this](TField combo) {
-    std::vector<std::string> items;
-    std::ranges::transform(ListOf(combo), std::back_inserter(items),
-                           [this](const std::string& id) { return GetResource(id); });
-    Combo(combo).Refill(std::move(items), Combo(combo).Index());
-  };
-  std::ranges::for_each(YesNoCombos, fill);
-  fill(TField::cmbFunc);
-  fill(TField::cmbOrderType);
-  FillRefList();
-}
-
-void TAlgoOrderEntryFrame::FillRefList() {
-  // Levels behind the best are shown as the side's text followed by that of the level.
-  struct TRefText {
-    std::string_view id;
-    std::string_view level;
-  };
-  static constexpr std::array<TRefText, model::RefList.size()> RefTexts{{
-      {"Res_OrderSide", ""},
-      {"Res_Opposite", ""},
-      {"Res_Last", ""},
-      {"Res_Bid", ""},
-      {"Res_Ask", ""},
-      {"Res_LowPrice", ""},
-      {"Res_HighPrice", ""},
-      {"Res_Algo_VWAP", ""},
-      {"Res_Mid", ""},
-      {"Res_Bid", "Res_Num2"},
-      {"Res_Bid", "Res_Num3"},
-      {"Res_Bid", "Res_Num4"},
-      {"Res_Bid", "Res_Num5"},
-      {"Res_Ask", "Res_Num2"},
-      {"Res_Ask", "Res_Num3"},
-      {"Res_Ask", "Res_Num4"},
-      {"Res_Ask", "Res_Num5"},
-      {"Res_NA", ""},
-  }};
-  std::vector<std::string> items;
-  for (const TRefText& text : RefTexts) {
-    items.push_back(GetResource(text.id));
-    if (!text.level.empty()) items.back() += GetResource(text.level);
-  }
-  auto& combo = Combo(TField::cmbRef);
-  const std::int32_t last = static_cast<std::int32_t>(items.size()) - 1;
-  combo.Refill(std::move(items), combo.Index() < 0 ? last : combo.Index());
-}
-
-void TAlgoOrderEntryFrame::FillStyleList() {
-  std::vector<std::string> items;
-  items.reserve(model::StyleList.size());
-  for (const std::string_view id : model::StyleList) items.push_back(GetResource(id));
-  FStyleList = Texts(model::StyleList);
-  const std::int32_t last = static_cast<std::int32_t>(items.size()) - 1;
-  Combo(TField::cmbStyle).Refill(std::move(items), last);
-}
-
-void TAlgoOrderEntryFrame::InitExchangeList() {
-  TRefill refill(*this);
-  auto& combo = Combo(TField::cmbExch);
-  std::string remembered = EntryOf(FAlgoExchList, combo.Index());
-  if (remembered.empty()) remembered = combo.Text();
-
-  std::vector<std::string> codes = ConfiguredList("ALGO/Exchange");
-  std::erase(codes, std::string());
-  std::vector<std::string> items;
-  for (const std::string& code : codes) {
-    const std::string name =
-        host::TCustomLanguageManager::GetInstance().GetText(host::ExchangeTag, code, 3, 0, 0);
-    items.push_back(code);
-    if (!name.empty()) items.back().append("(").append(name).append(")");
-  }
-  const std::int32_t index = IndexOrFirst(codes, remembered);
-  FAlgoExchList = std::move(codes);
-  combo.Refill(std::move(items), index);
-  refill.Announce();
-}
-
-void TAlgoOrderEntryFrame::InitializeOrderType(std::int32_t exchangeIndex) {
-  TRefill refill(*this);
-  const TChosen remembered = Chosen();
-  const std::string exchange = EntryOf(FAlgoExchList, exchangeIndex);
-  // Both lists are complete before either is shown: a host that fails half-way must not leave a combo box
-  // whose items stand for other entries.
-  TPickList algoTypes = AlgoTypesOf(exchange);
-  TPickList orderTypes = OrderTypesOf(exchange);
-  FAlgoTypeList = std::move(algoTypes.ids);
-  FOrderTypeConstList = std::move(algoTypes.codes);
-  FOrderTypeList = std::move(orderTypes.ids);
-  const bool noneStays = remembered.algoType.empty() && !FirstAlgoStandsIn();
-  Combo(TField::cmbOrderType)
-      .Refill(std::move(algoTypes.texts), noneStays ? -1 : IndexOrFirst(FAlgoTypeList, remembered.algoType));
-  Combo(TField::cmbMType)
-      .Refill(std::move(orderTypes.texts), IndexOrFirst(FOrderTypeList, remembered.orderType));
-  refill.Announce();
-}
-
-void TAlgoOrderEntryFrame::OfferNothing() {
-  for (auto* list : {&FAlgoTypeList, &FOrderTypeConstList, &FOrderTypeList}) list->clear();
-  for (const TField combo : {TField::cmbOrderType, TField::cmbMType}) Combo(combo).Refill({}, -1);
-  ResetView();
-}
-
-void TAlgoOrderEntryFrame::RefillOrderLists() {
-  TRefill refill(*this);
-  InitExchangeList();
-  InitializeOrderType(Combo(TField::cmbExch).Index());
-  refill.Announce();
-}
-
-auto TAlgoOrderEntryFrame::AlgoTypesOf(const std::string& exchange) const -> TPickList {
-  TPickList list;
-  if (exchange.empty()) return list;
-  for (const std::string& code : ConfiguredList("ALGO/ALGOType/" + exchange)) {
-    const model::TAlgoRow* row = model::FindAlgoByCode(code);
-    if (row == nullptr) continue;
-    list.ids.emplace_back(row->resourceId);
-    list.codes.emplace_back(row->code);
-    list.texts.push_back(GetResource(row->resourceId));
-  }
-  return list;
-}
-
-auto TAlgoOrderEntryFrame::OrderTypesOf(const std::string& exchange) const -> TPickList {
-  TPickList list;
-  if (exchange.empty()) return list;
-  auto& profile = host::TCustomUserAppProfile::GetInstance();
-  for (const std::string& code : ConfiguredList("ALGO/OrderType/" + exchange)) {
-    const model::TOrderTypeRow* row = model::FindOrderTypeByCode(code);
-    if (row == nullptr || (!row->right.empty() && !profile.HasRight(row->right))) continue;
-    list.ids.emplace_back(row->resourceId);
-    list.codes.emplace_back(row->code);
-    list.texts.push_back(GetResource(row->resourceId));
-  }
-  return list;
-}
-
-void TAlgoOrderEntryFrame::SelectExchange(const std::string& code) {
-  Combo(TField::cmbExch).SetIndex(IndexOrFirst(FAlgoExchList, code));
-}
-
-void TAlgoOrderEntryFrame::cmbExchChange() {
-  FAnnounced.exchange = Chosen().exchange;
-  const std::int32_t index = Combo(TField::cmbExch).Index();
-  if (index < 0) return;
-  Check(TField::cbLockMOrder).SetChecked(false);
-  Check(TField::cbLockOrderType).SetChecked(false);
-  try {
-    InitializeOrderType(index);
-  } catch (...) {
-    // Better nothing to choose from than what another exchange offers.
-    OfferNothing();
-    throw;
-  }
-}
-
-void TAlgoOrderEntryFrame::cmbOrderTypeChange() {
-  FAnnounced.algoType = Chosen().algoType;
-  {
-    const forms::TLayoutUpdate update(Layout());
-    ResetView();
-    if (Combo(TField::cmbOrderType).Index() >= 0) {
-      ResetInputUI();
-      InitializeView();
+std::string_view TPickLists::EntryAt(TField combo, std::int32_t index) const {
+  const auto at = [index](const auto& list) -> std::string_view {
+    const bool inRange = index >= 0 && static_cast<std::size_t>(index) < list.size();
+    if (!inRange) return {};
+    const auto& entry = list[static_cast<std::size_t>(index)];
+    if constexpr (std::is_same_v<std::decay_t<decltype(entry)>, model::TChoiceItem>) {
+      return entry.entry;
+    } else {
+      return entry;
     }
-  }
-  host::SendViewNotify(*this, host::ViewChanged);
+  };
+  if (combo == TField::cmbExch) return at(FAlgoExchList);
+  if (combo == TField::cmbOrderType) return at(FAlgoTypeList);
+  if (combo == TField::cmbMType) return at(FOrderTypeList);
+  const model::TParamRow& param = model::ParamRow(*Row(combo).param);
+  if (param.reset == model::TReset::Refilled && !FStylesListed) return {};
+  return at(param.choices);
 }
 
-void TAlgoOrderEntryFrame::cmbMOrderTypeChange() {
-  const std::string id = Chosen().orderType;
-  FAnnounced.orderType = id;
-  if (id.empty()) return;
-  UpdatePriceEditorState();
-  const model::TOrderTypeRow* row = model::FindOrderTypeById(id);
-  auto& price = Spin(TField::edtPrice);
-  if (!row->keepsPrice) {
-    price.SetValue(0);
-  } else if (!price.Value() || *price.Value() < model::PriceEpsilon) {
-    FPriceSet = false;
-    UpdateSymbolInfo();
+void TPickLists::SelectEntry(TField combo, std::string_view entry) {
+  for (std::int32_t index = 0; index < FForm.Combo(combo).Count(); ++index) {
+    if (EntryAt(combo, index) == entry) return FForm.Combo(combo).SetIndex(index);
   }
 }
 
-}  // namespace algo::views
+const model::TAlgoRow* TPickLists::ChosenAlgo() const {
+  const std::int32_t index = FForm.Combo(TField::cmbOrderType).Index();
+  if (index < 0 || index > std::ssize(FAlgoTypeList)) return nullptr;
+  // An index just behind the list is let through to the list, which answers with its own error.
+  if (index == std::ssize(FAlgoTypeList)) throw EListIndexError(index);
+  return model::FindAlgoById(FAlgoTypeList[static_cast<std::size_t>(index)]);
+}
+
+const std::string& TPickLists::ChosenAlgoCode() const {
+  const std::int32_t index = FForm.Combo(TField::cmbOrderType).Index();
+  if (index < 0 || index >= std::ssize(FOrderTypeConstList)) throw EListIndexError(index);
+  return FOrderTypeConstList[static_cast<std::size_t>(index)];
+}
+
+const model::TOrderTypeRow* TPickLists::ChosenOrderType() const {
+  return model::FindOrderTypeById(Chosen().orderType);
+}
+
+void TPickLists::FillChoices(const model::TParamRow& param, std::int32_t index) {
+  std::vector<std::string> items;
+  items.reserve(param.choices.size());
+  for (const model::TChoiceItem& item : param.choices) items.push_back(ItemText(item));
+  FForm.Combo(FieldOf(param.param)).Refill(std::move(items), index);
+}
+
+void TPickLists::FillPickLists() {
+  for (const model::TParamRow& row : model::ParamRows()) {
+    if (row.kind != model::TValueKind::Choice || row.reset == model::TReset::Refilled) continue;
+    const std::int32_t index = FForm.Combo(FieldOf(row.param)).Index();
+    FillChoices(row, index < 0 ? ResetIndex(row) : index);
+  }
+  std::vector<std::string> algos;
+  algos.reserve(FAlgoTypeList.size());
+  for (const std::string& id : FAlgoTypeList) algos.push_back(host::ResourceText(id));
+  auto& combo = FForm.Combo(TField::cmbOrderType);
+  combo.Refill(std::move(algos), combo.Index());
+}
+
+void TPickLists::FillStyleList() {
+  const model::TParamRow& style = model::ParamRow(model::TParam::Style);
+  FStylesListed = true;
+  FillChoices(style, ResetIndex(style));
+}
+
+std::int32_t TPickLists::IndexOfAlgo(std::string_view code) const {
+  const auto found = std::find_if(FOrderTypeConstList.begin(), FOrderTypeConstList.end(),
+                                  [code](const std::string& each) { return text::EqualNoCase(each, code); });
+  return found == FOrderTypeConstList.end() ? -1
+                                            : static_cast<std::int32_t>(found - FOrderTypeConstList.begin());
+}
+
+void TPickLists::SelectAlgo(std::string_view code) {
+  FForm.Combo(TField::cmbOrderType).SetIndex(IndexOfAlgo(code));
+}
+
+void TPickLists::SelectNoAlgo() {
+  FAlgoMayStandIn = false;
+  FForm.Combo(TField::cmbOrderType).SetIndex(-1);
+}
+
+void TPickLists::SelectOrderType(std::string_view id) {
+  const auto found = std::find(FOrderTypeList.begin(), FOrderTypeList.end(), id);
+  auto& combo = FForm.Combo(TField::cmbMType);
+  const auto index = static_cast<std::int32_t>(found - FOrderTypeList.begin());
+  if (found != FOrderTypeList.end() && index < combo.Count()) {
+    combo.SetIndex(index);
+  } else {
+    combo.SelectFirst();
+  }
+}
+
+}  // namespace algo::views::entry

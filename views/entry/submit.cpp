@@ -1,107 +1,19 @@
-// From the buttons to the host: building an order of the entries and handing it over.
+// From the click on Submit to the host, step by step in their order: the entries are checked and written into
+// an order, the order is marked by its host order type and as an algo order, gets its parameter text and its
+// origin, and is handed over.
 
 #include <cstdint>
 
 #include "model/parameter_text.h"
 #include "plugin/host_contract/account_adapter.h"
-#include "plugin/host_contract/config_manager.h"
-#include "plugin/host_contract/message_box.h"
+#include "plugin/host_contract/flags/order_flags.h"
 #include "plugin/host_contract/order_action_manager.h"
 #include "plugin/host_contract/order_adapter.h"
-#include "plugin/host_contract/user_app_profile.h"
-#include "text/errors.h"
 #include "text/number_text.h"
-#include "text/text.h"
 #include "views/entry/entry_frame.h"
+#include "views/entry/price_multiplier.h"
 
-namespace algo::views {
-
-void TAlgoOrderEntryFrame::PopupMsg(std::string_view resourceId) const {
-  ShowMessage(GetResource(resourceId));
-}
-
-void TAlgoOrderEntryFrame::Tell(const model::TRuleFailure& complaint) const {
-  if (complaint.told == model::TMessageSource::Resource) return PopupMsg(complaint.id);
-  const TNestedLoopScope messageBox;
-  host::TCustomMessageBoxCtrl::GetInstance().ShowErrorCode(complaint.id);
-}
-
-model::TParamValues TAlgoOrderEntryFrame::Values() const {
-  model::TParamValues values;
-  for (const model::TParamRow& row : model::ParamRows()) {
-    const TField field = FieldOf(row.param);
-    switch (row.kind) {
-      case model::TValueKind::Number:
-        values.SetNumber(row.param, Spin(field).Value());
-        break;
-      case model::TValueKind::Choice:
-        values.SetChoice(row.param, Combo(field).Index());
-        break;
-      case model::TValueKind::Time:
-        values.SetTime(row.param, Date(field).Value());
-        break;
-    }
-  }
-  return values;
-}
-
-std::optional<model::TRuleFailure> TAlgoOrderEntryFrame::CheckCommon() const {
-  return model::CheckCommonRules({
-      .side = FOrderType,
-      .account = FCurrentAccount,
-      .accountKnown =
-          [](std::string_view account) {
-            return host::TCustomAccountAdapter::GetInstance().IsKnown(account);
-          },
-      .symbol = Edit(TField::edtSymbol).Hint(),
-      .hasInstrument = FCurrentItem != nullptr,
-      .quantity = text::TruncateToWhole(Spin(TField::edtQty).Value().value_or(0)),
-      .algoChosen = Combo(TField::cmbOrderType).Index() >= 0,
-  });
-}
-
-std::optional<model::TRuleFailure> TAlgoOrderEntryFrame::CheckAlgoFields() const {
-  const model::TParamValues values = Values();
-  if (const auto complaint = model::CheckTimes(values)) return complaint;
-  const model::TAlgoRow* algo = ChosenAlgo();
-  return algo == nullptr ? std::nullopt : model::CheckAlgoRules(*algo, values);
-}
-
-bool TAlgoOrderEntryFrame::GetOrder(host::TCustomClientOrder& order) {
-  auto complaint = CheckCommon();
-  if (!complaint) complaint = CheckAlgoFields();
-  if (complaint) {
-    Tell(*complaint);
-    return false;
-  }
-  FillCommonFields(order);
-  return true;
-}
-
-void TAlgoOrderEntryFrame::FillCommonFields(host::TCustomClientOrder& order) const {
-  // The price first: it is the one that may fail, and a failure leaves the order untouched.
-  const double price = PriceForOrder(Spin(TField::edtPrice).Value().value_or(0), FCurrentItem);
-  order.account = FCurrentAccount;
-  order.symbol = Edit(TField::edtSymbol).Hint();
-  const std::string exchange = Chosen().exchange;
-  if (!exchange.empty()) order.exchange = exchange;
-  order.quantity = static_cast<double>(text::TruncateToWhole(Spin(TField::edtQty).Value().value_or(0)));
-  order.side = FOrderType;
-  order.price = price;
-}
-
-void TAlgoOrderEntryFrame::SetOrderAlgo(host::TCustomClientOrder& order) const {
-  const std::int32_t index = Combo(TField::cmbOrderType).Index();
-  if (index < 0 || index >= std::ssize(FOrderTypeConstList)) throw EListIndexError(index);
-  if (index > std::ssize(FAlgoTypeList)) return;
-  // Child orders are market orders for this one type; the comparison is exact, as the lists hold the ids
-  // themselves.
-  const bool marketChildren = Chosen().orderType == "Res_OrderType_Market";
-  order.SetTextProperty(
-      host::AlgoTextProperty,
-      model::ComposeText(marketChildren, FOrderTypeConstList[static_cast<std::size_t>(index)], ChosenAlgo(),
-                         Values()));
-}
+namespace algo::views::entry {
 
 void TAlgoOrderEntryFrame::btnBuyClick() {
   FOrderType = host::SideBuy;
@@ -113,8 +25,6 @@ void TAlgoOrderEntryFrame::btnSellClick() {
   SideButton(TField::btnSell).SetPressed(true);
 }
 
-void TAlgoOrderEntryFrame::btnClearClick() { ClearOrder(); }
-
 void TAlgoOrderEntryFrame::btnSubmitClick() {
   const host::TOwnedOrder order = host::MakeClientOrder();
   if (!GetOrder(*order)) return;
@@ -124,6 +34,102 @@ void TAlgoOrderEntryFrame::btnSubmitClick() {
   SetAlgoOrder(*order);
   SubmitOrder(*order);
 }
+
+// The entries, checked and written into the order.
+
+bool TAlgoOrderEntryFrame::GetOrder(host::TCustomClientOrder& order) {
+  auto failure = CheckCommon();
+  if (!failure) failure = CheckAlgoFields();
+  if (failure) {
+    Tell(*failure);
+    return false;
+  }
+  FillCommonFields(order);
+  return true;
+}
+
+std::optional<model::TRuleFailure> TAlgoOrderEntryFrame::CheckCommon() const {
+  return model::CheckCommonRules({
+      .side = FOrderType,
+      .account = FCurrentAccount,
+      .accountKnown =
+          [](std::string_view account) {
+            return host::TCustomAccountAdapter::GetInstance().IsKnown(account);
+          },
+      .symbol = Edit(TField::edtSymbol).Hint(),
+      .hasInstrument = FSymbol.Item() != nullptr,
+      .quantity = text::TruncateToWhole(Spin(TField::edtQty).Value().value_or(0)),
+      .algoChosen = Combo(TField::cmbOrderType).Index() >= 0,
+  });
+}
+
+std::optional<model::TRuleFailure> TAlgoOrderEntryFrame::CheckAlgoFields() const {
+  const model::TParamValues values = FForm.Values();
+  if (const auto failure = model::CheckTimes(values)) return failure;
+  const model::TAlgoRow* algo = FLists.ChosenAlgo();
+  return algo == nullptr ? std::nullopt : model::CheckAlgoRules(*algo, values);
+}
+
+void TAlgoOrderEntryFrame::FillCommonFields(host::TCustomClientOrder& order) const {
+  // The price first: it is the one that may fail, and a failure leaves the order untouched.
+  const double price = PriceForOrder(Spin(TField::edtPrice).Value().value_or(0), FSymbol.Item());
+  order.account = FCurrentAccount;
+  order.symbol = Edit(TField::edtSymbol).Hint();
+  const std::string_view exchange = FLists.ChosenEntry(TField::cmbExch);
+  if (!exchange.empty()) order.exchange = exchange;
+  order.quantity = static_cast<double>(text::TruncateToWhole(Spin(TField::edtQty).Value().value_or(0)));
+  order.side = FOrderType;
+  order.price = price;
+}
+
+// The host order type. Bits are only ever added to an order.
+
+void TAlgoOrderEntryFrame::SetOrderType(host::TCustomClientOrder& order) const {
+  const model::TOrderTypeRow* row = FLists.ChosenOrderType();
+  if (row == nullptr) return;
+  if (!row->keepsPrice) order.price = 0;
+  switch (row->word) {
+    case model::TFlagWord::OrderType:
+      order.orderTypeFlags |= row->bits;
+      break;
+    case model::TFlagWord::Auction:
+      order.auctionFlags |= row->bits;
+      break;
+    case model::TFlagWord::None:
+      break;
+  }
+  if (row->autoTrigger) order.orderTypeFlags |= GetAutoTrigger(order);
+}
+
+std::uint32_t TAlgoOrderEntryFrame::GetAutoTrigger(const host::TCustomClientOrder& order) const {
+  const host::TMarketDataItem* item = FSymbol.Item();
+  if (item == nullptr) return 0;
+  return model::AutoTriggerBits(order.orderTypeFlags, order.stopPrice, item->FieldText(host::PriceField),
+                                item->FieldText(host::SecondPriceField),
+                                item->FieldText(host::ReferencePriceField));
+}
+
+// The algorithm.
+
+void TAlgoOrderEntryFrame::SetNativeAlgo(host::TCustomClientOrder* order) const {
+  if (order != nullptr) order->algoFlags |= host::flags::NativeAlgo;
+}
+
+void TAlgoOrderEntryFrame::SetOrderAlgo(host::TCustomClientOrder& order) const {
+  const std::string& code = FLists.ChosenAlgoCode();
+  const model::TOrderTypeRow* orderType = FLists.ChosenOrderType();
+  const bool marketChildren = orderType != nullptr && orderType->marketChildren;
+  order.SetTextProperty(host::AlgoTextProperty,
+                        model::ComposeText(marketChildren, code, FLists.ChosenAlgo(), FForm.Values()));
+}
+
+// The origin.
+
+void TAlgoOrderEntryFrame::SetAlgoOrder(host::TCustomClientOrder& order) const {
+  order.SetNamedText(host::OriginalProperty, std::string(AlgoEntryOrigin));
+}
+
+// The host.
 
 void TAlgoOrderEntryFrame::SubmitOrder(host::TCustomClientOrder& order) {
   const auto& popup = Check(TField::cbPopup);
@@ -144,45 +150,4 @@ void TAlgoOrderEntryFrame::SubmitOrder(host::TCustomClientOrder& order) {
   if (accepted && !Detached() && Check(TField::cbClear).Checked()) ClearOrder();
 }
 
-void TAlgoOrderEntryFrame::ClearOrder() {
-  // Choosing the first exchange unlocks the two lists that depend on it, so what is cleared is settled
-  // before.
-  const bool clearExchange = Control(TField::cmbExch).Enabled();
-  const bool clearMType = Control(TField::cmbMType).Enabled();
-  const bool clearOrderType = Control(TField::cmbOrderType).Enabled();
-  for (const TField field : {TField::edtAccount, TField::edtSymbol}) {
-    if (!Control(field).Enabled()) continue;
-    Edit(field).SetText({});
-    Edit(field).Commit();
-  }
-  for (const TField field : {TField::edtPrice, TField::edtQty}) {
-    if (Control(field).Enabled()) Spin(field).SetValue(std::nullopt);
-  }
-  if (clearExchange) Combo(TField::cmbExch).SelectFirst();
-  if (clearMType) Combo(TField::cmbMType).SelectFirst();
-  if (clearOrderType) Combo(TField::cmbOrderType).SelectFirst();
-  ResetInputUI();
-  if (WorksOnProfileAccount()) FCurrentAccount = host::TCustomUserAppProfile::GetInstance().AccountText();
-}
-
-void TAlgoOrderEntryFrame::StoreSetting(std::string_view key, bool value) const {
-  auto& config = host::TCustomConfigManager::GetInstance();
-  config.Store(config.CurrentSection(), key, value ? "Y" : "N", true);
-}
-
-void TAlgoOrderEntryFrame::cbPopupClick() {
-  // The setting says whether the confirmation is wanted, the box whether it is skipped.
-  StoreSetting("ConfirmationPlaceOrd", !Check(TField::cbPopup).Checked());
-}
-
-void TAlgoOrderEntryFrame::cbClearClick() { StoreSetting("ClearOrd", Check(TField::cbClear).Checked()); }
-
-bool TAlgoOrderEntryFrame::CheckTheOrder(std::string_view text) {
-  bool found = false;
-  text::ForEachPiece(text, ';', [&found](std::string_view piece) {
-    found = found || piece.find("Original") != std::string_view::npos;
-  });
-  return found;
-}
-
-}  // namespace algo::views
+}  // namespace algo::views::entry

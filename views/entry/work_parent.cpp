@@ -4,7 +4,7 @@
 #include "plugin/host_contract/order_adapter.h"
 #include "views/entry/entry_frame.h"
 
-namespace algo::views {
+namespace algo::views::entry {
 
 void TAlgoOrderEntryFrame::btnWorkClick() {
   const host::TOwnedOrder order = host::MakeClientOrder();
@@ -16,8 +16,8 @@ void TAlgoOrderEntryFrame::btnWorkClick() {
 }
 
 bool TAlgoOrderEntryFrame::GetWorkOrder(host::TCustomClientOrder& order) {
-  if (const auto complaint = CheckCommon()) {
-    Tell(*complaint);
+  if (const auto failure = CheckCommon()) {
+    Tell(*failure);
     return false;
   }
   FillCommonFields(order);
@@ -29,4 +29,4 @@ void TAlgoOrderEntryFrame::WorkOrder(host::TCustomClientOrder& order) const {
   order.flags |= host::WorkParentMark;
 }
 
-}  // namespace algo::views
+}  // namespace algo::views::entry

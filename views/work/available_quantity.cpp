@@ -4,7 +4,7 @@
 
 #include "plugin/host_contract/order_adapter.h"
 
-namespace algo::views {
+namespace algo::views::work {
 
 namespace {
 
@@ -43,4 +43,4 @@ double GetWorkParentOrderAvailableQty(const host::TCustomOrder* parent) {
   return std::max(parent->quantity - used, 0.0);
 }
 
-}  // namespace algo::views
+}  // namespace algo::views::work

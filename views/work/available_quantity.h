@@ -4,7 +4,7 @@
 
 #include "plugin/host_contract/orders.h"
 
-namespace algo::views {
+namespace algo::views::work {
 
 /// The quantity of `parent` that is free for new children, never negative; 0 for no order. A work parent's
 /// children are looked up in the whole order store at each call: a live child holds its whole quantity, one
@@ -12,4 +12,4 @@ namespace algo::views {
 /// count.
 double GetWorkParentOrderAvailableQty(const host::TCustomOrder* parent);
 
-}  // namespace algo::views
+}  // namespace algo::views::work

@@ -8,7 +8,7 @@
 #include "plugin/host_contract/user_app_profile.h"
 #include "views/work/work_order_frame.h"
 
-namespace algo::views {
+namespace algo::views::work {
 
 namespace {
 
@@ -123,4 +123,4 @@ void TAlgoWorkOrderFrame::FrameResize() {
   Form()->SetClientSize({static_cast<double>(GetWidth()), static_cast<double>(GetHeight())});
 }
 
-}  // namespace algo::views
+}  // namespace algo::views::work

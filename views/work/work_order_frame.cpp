@@ -9,12 +9,12 @@
 #include "plugin/host_contract/editor_manager.h"
 #include "plugin/host_contract/user_app_profile.h"
 #include "plugin/host_contract/view_functions.h"
+#include "views/boundary/flag_scope.h"
 #include "views/work/available_quantity.h"
-#include "views/work/updating.h"
 
-namespace algo::views {
+namespace algo::views::work {
 
-TAlgoWorkOrderFrame::TAlgoWorkOrderFrame() : TAlgoOrderChangeFrame("TAlgoWorkOrderFrame") {
+TAlgoWorkOrderFrame::TAlgoWorkOrderFrame() : TAlgoOrderChangeFrame(entry::WorkPurpose) {
   const TBoundary making;
   MakeWorkForm();
   ReadConfig();
@@ -24,7 +24,7 @@ TAlgoWorkOrderFrame::TAlgoWorkOrderFrame() : TAlgoOrderChangeFrame("TAlgoWorkOrd
 }
 
 void TAlgoWorkOrderFrame::WorkOrder(host::TCustomClientOrder* order) {
-  FOrderOperatorMode = TOperatorMode::Work;
+  FOrderOperatorMode = change::TOperatorMode::Work;
   FMyOrder = order;
   if (FMyOrder != nullptr) {
     InitializeViewbyOrder(*FMyOrder);
@@ -37,7 +37,7 @@ void TAlgoWorkOrderFrame::WorkOrder(host::TCustomClientOrder* order) {
 void TAlgoWorkOrderFrame::InitializeViewbyOrder(host::TCustomClientOrder& order) {
   // The frame serves one parent after the other: what the last one's range was must not bend this one's
   // figures.
-  const TUpdating updating(FIsUpdating);
+  const TFlagScope updating(FIsUpdating);
   TAlgoOrderChangeFrame::InitializeViewbyOrder(order);
   Control(TField::cmbOrderType).SetEnabled(true);
   Group(TGroup::lgOrd).SetVisible(true);
@@ -48,7 +48,7 @@ void TAlgoWorkOrderFrame::InitializeViewbyOrder(host::TCustomClientOrder& order)
 }
 
 void TAlgoWorkOrderFrame::AssignOrderInfo(const host::TCustomClientOrder& order) {
-  const TUpdating updating(FIsUpdating);
+  const TFlagScope updating(FIsUpdating);
   host::TEditorManager::GetInstance().SetQuantitySymbol(*sedtAvaliQty, order.symbol);
 
   for (forms::TControl* control :
@@ -98,7 +98,7 @@ void TAlgoWorkOrderFrame::UpdateOrder() {
 }
 
 void TAlgoWorkOrderFrame::btnClearClick() {
-  const TUpdating updating(FIsUpdating);
+  const TFlagScope updating(FIsUpdating);
   // The type first, because choosing one may fill the price. Whether there is a price to set was settled by
   // the parent.
   const bool priceMayBeSet = Control(TField::edtPrice).Enabled();
@@ -110,9 +110,4 @@ void TAlgoWorkOrderFrame::btnClearClick() {
   }
 }
 
-void TAlgoWorkOrderFrame::cmbOrderTypeChange() {
-  TAlgoOrderChangeFrame::cmbOrderTypeChange();
-  if (FOnAlgoTypeChange) FOnAlgoTypeChange();
-}
-
-}  // namespace algo::views
+}  // namespace algo::views::work

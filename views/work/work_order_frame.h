@@ -12,13 +12,18 @@
 
 #include "views/change/change_frame.h"
 
-namespace algo::views {
+namespace algo::views::work {
+
+// The frame speaks of the entry form's own controls.
+using change::TAlgoOrderChangeFrame;
+using entry::TField;
+using entry::TGroup;
 
 class TAlgoWorkOrderFrame : public TAlgoOrderChangeFrame {
  public:
   TAlgoWorkOrderFrame();
 
-  /// Loads the parent. Throws what loading throws; the order is used until LetGoOfOrder.
+  /// Loads the parent. Throws what loading throws; the order is used until ReleaseOrder.
   void WorkOrder(host::TCustomClientOrder* order);
 
   /// Runs after the algorithm was changed, and with it the size of the form.
@@ -34,7 +39,6 @@ class TAlgoWorkOrderFrame : public TAlgoOrderChangeFrame {
   void btnSubmitClick() override;
   void btnClearClick() override;
   void cbLockPriceChange() override;
-  void cmbOrderTypeChange() override;
 
  private:
   // work_form.cpp
@@ -55,7 +59,7 @@ class TAlgoWorkOrderFrame : public TAlgoOrderChangeFrame {
   double GetLotSize() const;
   double GetSpinEditValue(const forms::TSpinEdit* editor) const;
   bool CheckInput();
-  std::optional<model::TRuleFailure> FirstComplaint() const;
+  std::optional<model::TRuleFailure> FirstFailure() const;
   void UpdateOrder();
 
   forms::TTextEdit* tedtOrderNum = nullptr;
@@ -68,7 +72,6 @@ class TAlgoWorkOrderFrame : public TAlgoOrderChangeFrame {
   bool FAvailQtyAsQty = true;
   bool FConfirmWorkOrdPri = false;
   bool FIsUpdating = false;
-  std::function<void()> FOnAlgoTypeChange;
 };
 
-}  // namespace algo::views
+}  // namespace algo::views::work

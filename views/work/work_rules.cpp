@@ -6,11 +6,11 @@
 #include "model/order_types.h"
 #include "plugin/host_contract/account_adapter.h"
 #include "text/number_text.h"
+#include "views/boundary/flag_scope.h"
 #include "views/work/available_quantity.h"
-#include "views/work/updating.h"
 #include "views/work/work_order_frame.h"
 
-namespace algo::views {
+namespace algo::views::work {
 
 namespace {
 
@@ -64,26 +64,26 @@ double TAlgoWorkOrderFrame::GetLotSize() const {
 
 void TAlgoWorkOrderFrame::edtQtyPropertiesChange() {
   if (FIsUpdating || FMyOrder == nullptr) return;
-  const TUpdating updating(FIsUpdating);
+  const TFlagScope updating(FIsUpdating);
   if (FMyOrder->quantity == 0) return;
   sedtPecentage->SetValue(GetSpinEditValue(&Spin(TField::edtQty)) * 100 / FMyOrder->quantity);
 }
 
 void TAlgoWorkOrderFrame::edtPecentagePropertiesChange() {
   if (FIsUpdating || FMyOrder == nullptr) return;
-  const TUpdating updating(FIsUpdating);
+  const TFlagScope updating(FIsUpdating);
   const double lot = GetLotSize();
   const double quantity = std::floor(FMyOrder->quantity * GetSpinEditValue(sedtPecentage) / 100);
   Spin(TField::edtQty).SetValue(std::trunc(quantity / lot) * lot);
 }
 
 bool TAlgoWorkOrderFrame::CheckInput() {
-  const auto complaint = FirstComplaint();
-  if (complaint) Tell(*complaint);
-  return !complaint && CheckOrderValid();
+  const auto failure = FirstFailure();
+  if (failure) Tell(*failure);
+  return !failure && CheckOrderValid();
 }
 
-std::optional<model::TRuleFailure> TAlgoWorkOrderFrame::FirstComplaint() const {
+std::optional<model::TRuleFailure> TAlgoWorkOrderFrame::FirstFailure() const {
   using enum model::TMessageSource;
   using TRuleFailure = model::TRuleFailure;
   const std::string account = Edit(TField::edtAccount).Text();
@@ -110,4 +110,4 @@ std::optional<model::TRuleFailure> TAlgoWorkOrderFrame::FirstComplaint() const {
   return std::nullopt;
 }
 
-}  // namespace algo::views
+}  // namespace algo::views::work

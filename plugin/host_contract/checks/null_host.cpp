@@ -20,7 +20,7 @@
 #include "plugin/host_contract/user_app_profile.h"
 #include "plugin/host_contract/view_functions.h"
 
-namespace algo::host {
+namespace algo::host::checks {
 
 namespace {
 
@@ -35,7 +35,7 @@ class TNullConfig final : public TCustomConfigManager {
   bool ReadBoolean(std::string_view /*section*/, std::string_view /*key*/) override { return false; }
   void Store(std::string_view /*section*/, std::string_view /*key*/, std::string_view /*value*/,
              bool /*writeThrough*/) override {}
-  void AddListener(std::function<void()> /*listener*/, TOwner /*owner*/) override {}
+  void AddListener(TListener /*listener*/, TOwner /*owner*/) override {}
   void RemoveListener(TOwner /*owner*/) override {}
 };
 
@@ -70,7 +70,7 @@ class TNullMessages final : public TCustomMessageBoxCtrl {
 class TNullSkins final : public TCustomLookAndFeelService {
  public:
   forms::TColor ColorOf(std::int32_t /*index*/, std::int32_t /*variant*/) override { return 0; }
-  void AddListener(std::function<void(std::string_view skin)> /*listener*/, TOwner /*owner*/) override {}
+  void AddListener(TListener /*listener*/, TOwner /*owner*/) override {}
   void RemoveListener(TOwner /*owner*/) override {}
 };
 
@@ -183,7 +183,7 @@ class TNullViews final : public TCustomViewService {
   void Notify(TViewFrame& /*view*/, std::int32_t /*code*/) override {}
 
   // Out of the list first: a frame that goes with its form may close others.
-  void DropForms() { const TShownForms dropped = std::exchange(*FShown, {}); }
+  void ReleaseForms() { const TShownForms released = std::exchange(*FShown, {}); }
 
  private:
   std::shared_ptr<TShownForms> FShown = std::make_shared<TShownForms>();
@@ -209,6 +209,6 @@ struct TNullHost::TServices {
 
 TNullHost::TNullHost() : FServices(std::make_unique<TServices>()) {}
 
-TNullHost::~TNullHost() { FServices->views->DropForms(); }
+TNullHost::~TNullHost() { FServices->views->ReleaseForms(); }
 
-}  // namespace algo::host
+}  // namespace algo::host::checks

@@ -7,12 +7,12 @@
 
 #include "forms/export.h"
 
-namespace algo::host {
+namespace algo::host::checks {
 
 /// Installs a service of each kind for its life and puts those that were installed before back afterwards.
 /// Settings are empty, resource texts are their ids, no right is held, no account, instrument or list known,
-/// no action accepted, nothing is ever told; orders can be made and given back; a modal form is cancelled at
-/// once. A form that shows beside the others goes with the host at the latest.
+/// no action accepted, no listener is ever called; orders can be made and given back; a modal form is
+/// cancelled at once. A form that shows beside the others goes with the host at the latest.
 class ALGO_SHARED TNullHost {
  public:
   TNullHost();
@@ -25,4 +25,4 @@ class ALGO_SHARED TNullHost {
   std::unique_ptr<TServices> FServices;
 };
 
-}  // namespace algo::host
+}  // namespace algo::host::checks

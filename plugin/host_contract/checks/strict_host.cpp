@@ -3,14 +3,15 @@
 #include <optional>
 #include <utility>
 
-#include "plugin/host_contract/checks/strict_host_checks.h"
-#include "plugin/host_contract/checks/strict_host_editors.h"
-#include "plugin/host_contract/checks/strict_host_market.h"
-#include "plugin/host_contract/checks/strict_host_orders.h"
-#include "plugin/host_contract/checks/strict_host_views.h"
+#include "plugin/host_contract/checks/strict_editors.h"
+#include "plugin/host_contract/checks/strict_market.h"
+#include "plugin/host_contract/checks/strict_orders.h"
+#include "plugin/host_contract/checks/strict_provider.h"
+#include "plugin/host_contract/checks/strict_views.h"
+#include "plugin/host_contract/checks/violations.h"
 #include "plugin/host_contract/installed_service.h"
 
-namespace algo::host {
+namespace algo::host::checks {
 
 namespace {
 
@@ -64,6 +65,11 @@ void TStrictHost::OnViolation(TViolationHandler handler) {
   FServices->violations.SetHandler(std::move(handler));
 }
 
+std::unique_ptr<TIBaseView> TStrictHost::Watch(std::unique_ptr<TIBaseView> provider) const {
+  if (!provider) return nullptr;
+  return std::make_unique<TStrictProvider>(std::move(provider), FServices->violations);
+}
+
 TLeftBehind TStrictHost::LeftBehind() const {
   TServices& services = *FServices;
   TLeftBehind left;
@@ -78,4 +84,4 @@ TLeftBehind TStrictHost::LeftBehind() const {
   return left;
 }
 
-}  // namespace algo::host
+}  // namespace algo::host::checks

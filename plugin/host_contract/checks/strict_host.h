@@ -1,8 +1,8 @@
 #pragma once
 
 // The contract as something that runs: a layer around the services of any host that passes every call on and
-// stops the module at the first one that the contract forbids. It also keeps the ledger of what the module
-// has registered and not taken back.
+// stops the module at the first one that the contract forbids, and one around the module's provider that does
+// the same to the host. It also keeps a register of what the module has registered and not taken back.
 
 #include <cstddef>
 #include <functional>
@@ -10,8 +10,9 @@
 #include <string>
 
 #include "forms/export.h"
+#include "plugin/host_contract/base_view.h"
 
-namespace algo::host {
+namespace algo::host::checks {
 
 /// What a module has in the hands of its host at one moment.
 struct TLeftBehind {
@@ -31,7 +32,7 @@ struct TLeftBehind {
 /// not installed stay so. Calls of the host itself belong to the wrapped services and pass no check.
 class ALGO_SHARED TStrictHost {
  public:
-  /// Told what is wrong, in one line. It does not return: it throws, or the program ends.
+  /// Is given what is wrong, in one line. It does not return: it throws, or the program ends.
   using TViolationHandler = std::function<void(const std::string& what)>;
 
   TStrictHost();
@@ -40,8 +41,12 @@ class ALGO_SHARED TStrictHost {
   TStrictHost& operator=(const TStrictHost&) = delete;
 
   /// Puts `handler` in place of the one that writes the line to standard error and aborts. A call that is a
-  /// violation does not reach the wrapped service and leaves the ledger as it was.
+  /// violation does not reach the wrapped service and leaves the register as it was.
   void OnViolation(TViolationHandler handler);
+
+  /// Puts a layer around `provider`, through which the host calls it from now on; nullptr stays nullptr. The
+  /// strict host outlives it.
+  std::unique_ptr<TIBaseView> Watch(std::unique_ptr<TIBaseView> provider) const;
 
   /// What is registered now.
   TLeftBehind LeftBehind() const;
@@ -51,4 +56,4 @@ class ALGO_SHARED TStrictHost {
   std::unique_ptr<TServices> FServices;
 };
 
-}  // namespace algo::host
+}  // namespace algo::host::checks

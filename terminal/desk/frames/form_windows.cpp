@@ -25,7 +25,7 @@ TFormWindows::TFormWindows(TDeskEvents& events, const render::TEditorAssist& ass
       if (window) window->Fit(frame);
     }
   });
-  connect(&events, &TDeskEvents::FormLooksChanged, this, [this](forms::TDialogForm& form) {
+  connect(&events, &TDeskEvents::FormAppearanceChanged, this, [this](forms::TDialogForm& form) {
     if (TFormWindow* window = Find(form)) window->Refresh();
   });
 }

@@ -5,6 +5,7 @@
 #include <iterator>
 #include <string>
 
+#include "plugin/host_contract/flags/order_flags.h"
 #include "terminal/host/order_status.h"
 #include "text/text.h"
 
@@ -21,16 +22,22 @@ struct TTypeRow {
   std::uint32_t wanted;
   std::string_view id;
 };
+// A basic type is a number in the low bits; everything else is a bit of its own.
+constexpr TTypeRow Basic(std::uint32_t type, std::string_view id) {
+  return {&host::TCustomOrder::orderTypeFlags, host::flags::BasicTypeMask, type, id};
+}
+constexpr TTypeRow Bit(TFlags flags, std::uint32_t bit, std::string_view id) { return {flags, bit, bit, id}; }
+
 constexpr TTypeRow TypeRows[] = {
-    {&host::TCustomOrder::orderTypeFlags, 0x1F, 1, "Res_OrderType_Market"},
-    {&host::TCustomOrder::orderTypeFlags, 0x1F, 4, "Res_OrderType_StopMarket"},
-    {&host::TCustomOrder::orderTypeFlags, 0x800, 0x800, "Res_OrderType_StopLimit"},
-    {&host::TCustomOrder::orderTypeFlags, 0x200, 0x200, "Res_OrderType_AO"},
-    {&host::TCustomOrder::orderTypeFlags, 0x400, 0x400, "Res_OrderType_ELO"},
-    {&host::TCustomOrder::auctionFlags, 0x4000, 0x4000, "Res_OrderType_MOO"},
-    {&host::TCustomOrder::auctionFlags, 0x8000, 0x8000, "Res_OrderType_MOC"},
-    {&host::TCustomOrder::auctionFlags, 0x1000, 0x1000, "Res_OrderType_LOC"},
-    {&host::TCustomOrder::orderTypeFlags, 0, 0, "Res_OrderType_Limit"},
+    Basic(host::flags::Market, "Res_OrderType_Market"),
+    Basic(host::flags::StopMarket, "Res_OrderType_StopMarket"),
+    Bit(&host::TCustomOrder::orderTypeFlags, host::flags::StopLimit, "Res_OrderType_StopLimit"),
+    Bit(&host::TCustomOrder::orderTypeFlags, host::flags::AtAuction, "Res_OrderType_AO"),
+    Bit(&host::TCustomOrder::orderTypeFlags, host::flags::EnhancedLimit, "Res_OrderType_ELO"),
+    Bit(&host::TCustomOrder::auctionFlags, host::flags::MarketAtOpen, "Res_OrderType_MOO"),
+    Bit(&host::TCustomOrder::auctionFlags, host::flags::MarketAtClose, "Res_OrderType_MOC"),
+    Bit(&host::TCustomOrder::auctionFlags, host::flags::LimitAtClose, "Res_OrderType_LOC"),
+    Bit(&host::TCustomOrder::orderTypeFlags, 0, "Res_OrderType_Limit"),
 };
 
 constexpr double NoPrice = 1e-7;

@@ -8,6 +8,7 @@
 
 #include "terminal/desk/session/market_lists.h"
 #include "terminal/desk/session/sample_user.h"
+#include "terminal/desk/session/step_grids.h"
 #include "terminal/paper/generated_prices.h"
 #include "terminal/paper/recorded_prices.h"
 #include "terminal/render/qt_text.h"
@@ -65,6 +66,7 @@ TDesk::TDesk(const TDeskOptions& options)
   FillSampleUser(FHost.Data());
   FillFirstSettings(FHost.Data());
   FillMarketLists(FHost.Data(), FTables);
+  FillStepGrids(FHost.Data(), FTables);
   FTexts.FillInto(FHost.Data());
   FStorage.LoadInto(FHost.Data(), FHost.Orders());
   if (options.prepare) options.prepare(FHost.Data());

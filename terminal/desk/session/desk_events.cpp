@@ -21,13 +21,13 @@ class TDeskEvents::TReceiver final : public THostEvents {
   void EditorRemoved(TEditorKind /*kind*/, const forms::TControl& control) override {
     emit FEvents.EditorRemoved(control);
   }
-  void EditorSymbolSet(TEditorKind kind, const forms::TControl& control, std::string_view symbol) override {
-    emit FEvents.EditorSymbolSet(kind, control, std::string(symbol));
-  }
+  // Along which grid an editor steps, the host tells the editor itself.
+  void EditorSymbolSet(TEditorKind /*kind*/, const forms::TControl& /*control*/,
+                       std::string_view /*symbol*/) override {}
   void FormShown(forms::TDialogForm& form) override { emit FEvents.FormShown(form); }
   void FormBroughtToFront(forms::TDialogForm& form) override { emit FEvents.FormBroughtToFront(form); }
   void FormClosed(forms::TDialogForm& form) override { emit FEvents.FormClosed(form); }
-  void FormLooksChanged(forms::TDialogForm& form) override { emit FEvents.FormLooksChanged(form); }
+  void FormAppearanceChanged(forms::TDialogForm& form) override { emit FEvents.FormAppearanceChanged(form); }
   void RunModal(forms::TDialogForm& form) override {
     emit FEvents.ModalFormShown(form);
     // A question that nobody showed counts as answered with no.

@@ -45,11 +45,10 @@ class TDeskEvents final : public QObject {
   void ViewChanged(const host::TViewFrame& view);
   void EditorRegistered(TEditorKind kind, const forms::TControl& control);
   void EditorRemoved(const forms::TControl& control);
-  void EditorSymbolSet(TEditorKind kind, const forms::TControl& control, const std::string& symbol);
   void FormShown(forms::TDialogForm& form);
   void FormBroughtToFront(forms::TDialogForm& form);
   void FormClosed(forms::TDialogForm& form);
-  void FormLooksChanged(forms::TDialogForm& form);
+  void FormAppearanceChanged(forms::TDialogForm& form);
   /// The receiver shows the form until it has a modal result.
   void ModalFormShown(forms::TDialogForm& form);
 

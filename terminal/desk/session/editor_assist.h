@@ -1,10 +1,9 @@
 #pragma once
 
-// Help with typing: which accounts and symbols may be meant, and by how much prices and quantities step.
+// Help with typing: which accounts and symbols may be meant.
 
 #include <QObject>
 #include <map>
-#include <string>
 #include <string_view>
 #include <vector>
 
@@ -28,23 +27,13 @@ class TDeskEditorAssist final : public QObject, public render::TEditorAssist {
   std::vector<render::TCompletion> Completions(const forms::TTextEdit& editor,
                                                std::string_view typed) const override;
 
-  /// By the tick of the instrument's spread table or by its lot, and onto their grid. Other editors, and
-  /// those whose instrument is not known, take their own step.
-  double Stepped(const forms::TSpinEdit& editor, double value, std::int32_t steps) const override;
-
  private:
-  /// An editor that the module registered, and the symbol that it was told.
-  struct TEditor {
-    TEditorKind kind;
-    std::string symbol;
-  };
-
   std::vector<render::TCompletion> Candidates(TEditorKind kind) const;
 
   TMemoryHost& FHost;
   const paper::TMarketTables& FTables;
   const appearance::TTexts& FTexts;
-  std::map<const forms::TControl*, TEditor> FEditors;
+  std::map<const forms::TControl*, TEditorKind> FEditors;
 };
 
 }  // namespace algo::terminal::desk

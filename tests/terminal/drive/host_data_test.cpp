@@ -101,7 +101,7 @@ TEST_F(HostData, IsAsItWasAfterARefusedCommand) {
   };
   Ask(R"({"do":"host","config":{"A":{"x":"1"}}})");
   for (const auto& part : refused) {
-    // The good part in front must not be taken either.
+    // The valid part in front must not be applied either.
     EXPECT_EQ(Ask(R"({"do":"host","accept":false,)" + part + "}")["ok"], false) << part;
     EXPECT_TRUE(Data().accept) << part;
     EXPECT_EQ(Data().config, (TTextTables{{"A", {{"x", "1"}}}})) << part;

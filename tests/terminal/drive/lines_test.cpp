@@ -62,7 +62,7 @@ TEST_F(Lines, MayBeVeryLong) {
   const std::string text(10000000, 'x');
   EXPECT_EQ(Ask("{\"do\":\"order\",\"key\":\"K1\",\"account\":\"" + text + "\"}")["ok"], true);
   EXPECT_EQ(session.Host().Orders().Find("K1")->account.size(), 10000000U);
-  // What is wrong with a long line is told in a short one.
+  // The error of a long line is short.
   EXPECT_LT(Refusal("{\"do\":\"order\",\"key\":\"" + text.substr(0, 1000000)).size(), 300U);
 }
 

@@ -186,7 +186,7 @@ TEST_F(ModuleCalls, AFormBesideOthersIsKnownUntilItCloses) {
   Play(R"({"do":"host","config":{"USER":{"ChangeOrderShowModel":"No"}}})"
        "\n"
        R"({"do":"order","key":"K1"})");
-  // How changes are shown is settled when the module is loaded, here as far as that goes without one.
+  // How changes are shown is decided when the module is loaded, even if loading fails.
   Ask(R"({"do":"load"})");
   const auto answer = Ask(R"({"do":"post","channel":18011,"order":"K1","action":2})");
   EXPECT_EQ(

@@ -1,4 +1,4 @@
-// The driver with the module that was built with it.
+// The driver with the real module.
 
 #include "tests/terminal/drive/session_fixture.h"
 
@@ -15,7 +15,7 @@ class Module : public TSessionTest {
         R"({"do":"load"})");
   }
 
-  /// Fills the form of a view that is open, up to the submit.
+  /// Fills in the form of the open view, up to the submit.
   void FillIn() {
     Play(R"({"do":"market","symbol":"S","state":1,"fields":{"3":"10.5"}})"
          "\n"
@@ -28,7 +28,7 @@ class Module : public TSessionTest {
          R"({"do":"click","frame":"e1","control":"btnSell"})");
   }
 
-  /// The events of an answer that have the name.
+  /// The events of that name in an answer.
   static std::vector<TAnswerJson> Events(const TAnswerJson& answer, const std::string& name) {
     std::vector<TAnswerJson> events;
     for (const auto& event : answer.value("events", TAnswerJson::array())) {
@@ -104,7 +104,7 @@ TEST_F(Module, SubmitsThroughItsDialog) {
   EXPECT_EQ(actions[0]["order"]["algo_text"], "TMLO:AlgoId=TVOL,Closing=0;");
   EXPECT_EQ(actions[0]["answer"], true);
   EXPECT_EQ(Ask(R"({"do":"orders"})")["orders"][0]["key"], "N1");
-  // The dialog's frame stays known, for what a frame without a view of its own can be asked.
+  // The dialog's frame stays known, and answers what does not need a view of its own.
   EXPECT_EQ(Ask(R"({"do":"size","frame":"change"})")["ok"], true);
   EXPECT_EQ(Ask(R"({"do":"group","frame":"change","id":"G"})")["group"], "G");
   EXPECT_EQ(Refusal(R"({"do":"layout","frame":"change"})"), "'change' is not a view that was opened");
@@ -152,7 +152,7 @@ TEST_F(Module, TellsWhatItCouldNotGiveBack) {
   FillIn();
   Ask(R"({"do":"host","throw":["subscribe.remove"]})");
   EXPECT_EQ(Ask(R"({"do":"unload"})")["left"]["subscriptions"], 1);
-  // The handler that the host still has leads to nobody.
+  // The handler that the host still has does nothing any more.
   EXPECT_EQ(Ask(R"({"do":"market","symbol":"S","state":1})").dump(), R"({"ok":true})");
 }
 

@@ -1,4 +1,4 @@
-// The program that plays the scenarios: which scripts pass, and what it says of those that do not.
+// The program that plays the scenarios: which scripts pass, and what it reports of those that fail.
 
 #include "tests/terminal/program_fixture.h"
 

@@ -1,6 +1,6 @@
 #pragma once
 
-// A session that tests talk to line by line, without a process in between.
+// A session that tests drive line by line, without starting a program.
 
 #include <gtest/gtest.h>
 
@@ -35,7 +35,7 @@ class TSessionTest : public testing::Test {
                                : TAnswerJson("not one answer but " + std::to_string(answers.size()));
   }
 
-  /// The error of a line that has to be refused; says so when it was not.
+  /// The error of a line that has to be refused; another text if it was not.
   std::string Refusal(const std::string& line) {
     const auto answer = Ask(line);
     return answer["ok"] == false ? answer["error"].get<std::string>() : "it was not refused";

@@ -1,6 +1,6 @@
 #pragma once
 
-// A receiver of host events that notes each as a line of text.
+// A receiver of host events that records each as a line of text.
 
 #include <functional>
 #include <string>
@@ -38,13 +38,13 @@ class TEventNotes final : public THostEvents {
   }
   void Unsubscribed(std::string_view symbol) override { Note("unsubscribe", symbol); }
   void EditorRegistered(TEditorKind kind, const forms::TControl& control, std::string_view groupId) override {
-    Note("register", KindName(kind), control.Name(), groupId);
+    Note("register", NameOf(kind), control.Name(), groupId);
   }
   void EditorRemoved(TEditorKind kind, const forms::TControl& control) override {
-    Note("remove", KindName(kind), control.Name());
+    Note("remove", NameOf(kind), control.Name());
   }
   void EditorSymbolSet(TEditorKind kind, const forms::TControl& control, std::string_view symbol) override {
-    Note("symbol", KindName(kind), control.Name(), symbol);
+    Note("symbol", NameOf(kind), control.Name(), symbol);
   }
   void LayoutAccountSet(const forms::TControl& control, std::string_view account) override {
     Note("layout account", control.Name(), account);
@@ -64,19 +64,6 @@ class TEventNotes final : public THostEvents {
   void Note(std::string first, const TWords&... words) {
     ((first.append(" ").append(words)), ...);
     lines.push_back(std::move(first));
-  }
-  static std::string_view KindName(TEditorKind kind) {
-    switch (kind) {
-      case TEditorKind::Account:
-        return "account";
-      case TEditorKind::Symbol:
-        return "symbol";
-      case TEditorKind::Price:
-        return "price";
-      case TEditorKind::Quantity:
-        break;
-    }
-    return "quantity";
   }
 };
 

@@ -12,8 +12,8 @@ struct TListenersTest : testing::Test {
   void Add(
       char name, std::function<void()> act = [] {}) {
     listeners.Add(
-        [this, name, act = std::move(act)](int news) {
-          heard += name + std::to_string(news) + " ";
+        [this, name, act = std::move(act)](int notice) {
+          heard += name + std::to_string(notice) + " ";
           act();
         },
         Owner(name));

@@ -11,14 +11,14 @@ namespace algo::terminal::tests {
 namespace {
 
 struct TMarketTest : testing::Test {
-  /// Listens to the item and notes what it is told: the price, or that its item is not among the news.
+  /// Listens to the item and records each notification: the price, or that only other items changed.
   void Listen(host::TMarketDataItem* item) {
     subscriptions.AddListener(
         item,
-        [this, item](const void* /*sender*/, const host::TItemDictionary* news) {
-          ASSERT_EQ(news->Count(), 1U);
-          const auto* found = news->Find(item->Symbol());
-          told.emplace_back(found == nullptr ? "others" : std::string(found->FieldText(3)));
+        [this, item](const void* /*sender*/, const host::TItemDictionary* items) {
+          ASSERT_EQ(items->Count(), 1U);
+          const auto* found = items->Find(item->Symbol());
+          notified.emplace_back(found == nullptr ? "others" : std::string(found->FieldText(3)));
         },
         &owner);
   }
@@ -28,7 +28,7 @@ struct TMarketTest : testing::Test {
   host::TCustomSubscribeAdapter& subscriptions = host::TCustomSubscribeAdapter::GetInstance();
   host::TCustomMarketAdapter& market = host::TCustomMarketAdapter::GetInstance();
   int owner = 0;
-  TNotes told;
+  TNotes notified;
 };
 
 TEST_F(TMarketTest, ASymbolWithoutDataHasAnItemInStateZero) {
@@ -67,21 +67,21 @@ TEST_F(TMarketTest, ListenersAreToldOfTheirItemAlone) {
   host.SetMarket("T", 1, {{3, "20"}}, TMarketNotice::Item);
   host.SetMarket("S", 1, {{3, "11"}}, TMarketNotice::None);
   host.SetMarket("S", 1, {}, TMarketNotice::Item);
-  EXPECT_EQ(told, (TNotes{"10", "11"}));
+  EXPECT_EQ(notified, (TNotes{"10", "11"}));
 }
 
 TEST_F(TMarketTest, TheNewsMayBeOfOtherItems) {
   Listen(subscriptions.Subscribe("S", "PRCDDS", true));
   host.SetMarket("S", 1, {}, TMarketNotice::OtherItems);
-  EXPECT_EQ(told, (TNotes{"others"}));
+  EXPECT_EQ(notified, (TNotes{"others"}));
 }
 
-TEST_F(TMarketTest, AnOwnerThatUnsubscribedIsToldNoMore) {
+TEST_F(TMarketTest, AnOwnerThatUnsubscribedIsNotNotifiedAnyMore) {
   auto* item = subscriptions.Subscribe("S", "PRCDDS", true);
   Listen(item);
   subscriptions.Unsubscribe(item, &owner);
   host.SetMarket("S", 1, {}, TMarketNotice::Item);
-  EXPECT_EQ(told, TNotes{});
+  EXPECT_EQ(notified, TNotes{});
   EXPECT_EQ(events.lines, (TNotes{"subscribe S PRCDDS live", "unsubscribe S"}));
 }
 
@@ -89,27 +89,27 @@ TEST_F(TMarketTest, AListenerMayUnsubscribeWhileItIsTold) {
   auto* item = subscriptions.Subscribe("S", "PRCDDS", true);
   subscriptions.AddListener(
       item,
-      [&](const void* /*sender*/, const host::TItemDictionary* /*news*/) {
-        told.emplace_back("told");
+      [&](const void* /*sender*/, const host::TItemDictionary* /*items*/) {
+        notified.emplace_back("notified");
         subscriptions.Unsubscribe(item, &owner);
       },
       &owner);
   host.SetMarket("S", 1, {}, TMarketNotice::Item);
   host.SetMarket("S", 1, {}, TMarketNotice::Item);
-  EXPECT_EQ(told, (TNotes{"told"}));
+  EXPECT_EQ(notified, (TNotes{"notified"}));
 }
 
 TEST_F(TMarketTest, AFailingUnsubscribeLeavesTheListener) {
-  const host::TStrictHost strict;
+  const host::checks::TStrictHost strict;
   auto& checked = host::TCustomSubscribeAdapter::GetInstance();
   auto* item = checked.Subscribe("S", "PRCDDS", true);
   checked.AddListener(
-      item, [this](const void*, const host::TItemDictionary*) { told.emplace_back("told"); }, &owner);
+      item, [this](const void*, const host::TItemDictionary*) { notified.emplace_back("notified"); }, &owner);
   host.Data().faults.Set({"subscribe.remove"});
   EXPECT_THROW(checked.Unsubscribe(item, &owner), EHostFault);
   EXPECT_EQ(strict.LeftBehind().subscriptions, 1U);
   host.SetMarket("S", 1, {}, TMarketNotice::Item);
-  EXPECT_EQ(told, (TNotes{"told"}));
+  EXPECT_EQ(notified, (TNotes{"notified"}));
   host.Data().faults.Set({});
   checked.Unsubscribe(item, &owner);
   EXPECT_EQ(strict.LeftBehind().subscriptions, 0U);
@@ -132,15 +132,15 @@ TEST_F(TMarketTest, TellsOfSpreadTablesByCode) {
   market.AddSpreadListener(
       [this](const void* /*sender*/, const host::TSpreadDictionary* changed) {
         for (const char* code : {"01", "02", ""}) {
-          if (changed->Contains(code)) told.emplace_back(code);
+          if (changed->Contains(code)) notified.emplace_back(code);
         }
       },
       &owner);
   host.NotifySpreadChanged(std::array<std::string, 2>{"02", "03"});
-  EXPECT_EQ(told, (TNotes{"02"}));
+  EXPECT_EQ(notified, (TNotes{"02"}));
   market.RemoveSpreadListener(&owner);
   host.NotifySpreadChanged(std::array<std::string, 1>{"01"});
-  EXPECT_EQ(told, (TNotes{"02"}));
+  EXPECT_EQ(notified, (TNotes{"02"}));
 }
 
 }  // namespace

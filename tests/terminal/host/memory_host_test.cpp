@@ -55,14 +55,14 @@ TEST_F(TMemoryHostTest, WhatIsStoredIsReadFromThenOn) {
   EXPECT_EQ(events.lines, (TNotes{"store USER ClearOrd Y at once", "store USER ClearOrd N later"}));
 }
 
-TEST_F(TMemoryHostTest, TellsListenersForSettingsUntilTheyAreRemoved) {
-  int told = 0;
+TEST_F(TMemoryHostTest, NotifiesSettingsListenersUntilTheyAreRemoved) {
+  int notified = 0;
   auto& config = host::TCustomConfigManager::GetInstance();
-  config.AddListener([&] { ++told; }, &owner);
+  config.AddListener([&] { ++notified; }, &owner);
   host.NotifyConfigChanged();
   config.RemoveListener(&owner);
   host.NotifyConfigChanged();
-  EXPECT_EQ(told, 1);
+  EXPECT_EQ(notified, 1);
 }
 
 TEST_F(TMemoryHostTest, AResourceWithoutATextIsItsIdAndAnExchangeWithoutANameIsEmpty) {

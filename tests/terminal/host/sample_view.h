@@ -1,6 +1,6 @@
 #pragma once
 
-// A view and a provider as small as they can be, for services that ask for one.
+// A minimal view and a minimal provider, for services that need one.
 
 #include "plugin/host_contract/base_view.h"
 
@@ -10,7 +10,7 @@ struct TSampleView final : TViewFrame {
   TSampleView() : TViewFrame("TSampleView", "layout") {}
 };
 
-class TSampleProvider final : public TIBaseView {
+class TSampleProvider : public TIBaseView {
  public:
   TSampleProvider() : TIBaseView(nullptr) {}
 

@@ -62,7 +62,7 @@ class TNotingStorage final : public TOrderStorage {
  public:
   void StoreOrder(const TOrderEvent& event, const host::TCustomClientOrder& order) override {
     if (failing) throw EError("the disk is full");
-    lines.push_back(order.key + ": " + event.who + " " + event.what + " " + event.answer);
+    StoreEvent(event, order);
   }
   void StoreEvent(const TOrderEvent& event, const host::TCustomClientOrder& order) override {
     lines.push_back(order.key + ": " + event.who + " " + event.what + " " + event.answer);

@@ -60,7 +60,7 @@ TEST_F(TEditors, KeysGoInWhereTheCaretStands) {
   EXPECT_EQ(frame->quantity.Text(), "124");
 }
 
-TEST_F(TEditors, ArrowKeysStepAsTheTerminalKnows) {
+TEST_F(TEditors, ArrowKeysStepAsTheFormSays) {
   frame->quantity.SetValue(100);
   GoTo(frame->quantity);
   QTest::keyClick(&Input(frame->quantity), Qt::Key_Up);
@@ -115,6 +115,49 @@ TEST_F(TEditors, AClickSelectsWhereTheFormSaysSo) {
   EXPECT_EQ(Shown(frame->quantity), "9");
 }
 
+TEST_F(TEditors, TabSelectsTheTextAsTheFormSays) {
+  frame->quantity.SetValue(80);
+  frame->account.SetText("A-1");
+  auto& line = *Input(frame->quantity).findChild<QLineEdit*>();
+  GoTo(frame->account);
+  QTest::keyClick(&Input(frame->account), Qt::Key_Tab);
+  EXPECT_EQ(frame->quantity.SelectedText(), "80");
+  EXPECT_EQ(line.selectedText(), "80");
+  QTest::keyClick(&Input(frame->quantity), Qt::Key_Backtab, Qt::ShiftModifier);
+  EXPECT_EQ(qobject_cast<QLineEdit*>(&Input(frame->account))->selectedText(), "A-1");
+  EXPECT_EQ(line.selectedText(), "");
+}
+
+TEST_F(TEditors, EnterSelectsNothing) {
+  frame->quantity.SetValue(80);
+  frame->account.OnEnterKey = [this] { frame->SetFocus(&frame->quantity); };
+  GoTo(frame->account);
+  QTest::keyClick(&Input(frame->account), Qt::Key_Return);
+  EXPECT_TRUE(Input(frame->quantity).hasFocus());
+  EXPECT_EQ(Input(frame->quantity).findChild<QLineEdit*>()->selectedText(), "");
+}
+
+TEST_F(TEditors, WhatAKeyDeselectedStaysSoWhenTheFieldIsShownAnew) {
+  frame->quantity.SetValue(80);
+  auto& line = *Input(frame->quantity).findChild<QLineEdit*>();
+  GoTo(frame->quantity);
+  ASSERT_EQ(line.selectedText(), "80");
+  QTest::keyClick(&Input(frame->quantity), Qt::Key_End);
+  frame->quantity.SetHint("of the day");
+  EXPECT_EQ(line.selectedText(), "");
+  QTest::keyClicks(&Input(frame->quantity), "5");
+  EXPECT_EQ(frame->quantity.Text(), "805");
+}
+
+TEST_F(TEditors, AStepIsSelected) {
+  frame->quantity.SetValue(80);
+  GoTo(frame->quantity);
+  QTest::keyClick(&Input(frame->quantity), Qt::Key_Up);
+  EXPECT_EQ(Input(frame->quantity).findChild<QLineEdit*>()->selectedText(), "85");
+  QTest::keyClicks(&Input(frame->quantity), "9");
+  EXPECT_EQ(Shown(frame->quantity), "9");
+}
+
 TEST_F(TEditors, ADateIsTypedOrEmptied) {
   Type(frame->start, "2026-11-20 09:30:00");
   Leave();
@@ -128,7 +171,7 @@ TEST_F(TEditors, ADateIsTypedOrEmptied) {
 }
 
 struct TCalendar : TRenderedForm {
-  /// Opens the calendar by its button; nullptr when none opened.
+  /// Opens the calendar by its button; nullptr if none opened.
   QCalendarWidget* Open() {
     QTest::mouseClick(view->findChild<QToolButton*>("deStartCalendar"), Qt::LeftButton);
     return view->findChild<QCalendarWidget*>("calendar");
@@ -155,6 +198,14 @@ TEST_F(TCalendar, ADayKeepsTheTimeWhereTheFieldKeepsIt) {
   QTest::keyClick(calendar->findChild<QAbstractItemView*>(), Qt::Key_Return);
   Leave();
   EXPECT_EQ(frame->start.Text(), "2026-11-24 09:30:15");
+}
+
+TEST_F(TCalendar, ItMayOutliveTheForm) {
+  QCalendarWidget* calendar = Open();
+  ASSERT_NE(calendar, nullptr);
+  frame.reset();
+  QTest::keyClick(calendar->findChild<QAbstractItemView*>(), Qt::Key_Return);
+  EXPECT_EQ(view->Frame(), nullptr);
 }
 
 TEST_F(TCalendar, ADisabledFieldOpensNone) {

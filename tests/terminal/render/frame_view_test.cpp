@@ -1,4 +1,4 @@
-// A form at the screen: focus, buttons, lists, what is shown, and what becomes of it when the form goes.
+// A form on the screen: focus, buttons, lists, what is shown, and what happens when the form is destroyed.
 
 #include <QAbstractButton>
 #include <QComboBox>
@@ -34,6 +34,33 @@ TEST_F(TShownForm, TabGoesFromFieldToFieldAndLeavesThem) {
   EXPECT_EQ(left, 1);
   QTest::keyClick(&Input(frame->quantity), Qt::Key_Backtab, Qt::ShiftModifier);
   EXPECT_TRUE(frame->account.Focused());
+}
+
+TEST_F(TShownForm, TabGoesTheWayOfTheForm) {
+  const auto expectTabsFrom = [this](const forms::TControl* control) {
+    int visited = 0;
+    GoTo(*control);
+    while (const auto* next = frame->Layout().NextInTabOrder(control, forms::TTabDirection::Forward)) {
+      QTest::keyClick(&Input(*control), Qt::Key_Tab);
+      EXPECT_TRUE(next->Focused()) << next->Name();
+      control = next;
+      ++visited;
+    }
+    return visited;
+  };
+  frame->button.SetEnabled(false);
+  EXPECT_EQ(expectTabsFrom(&frame->account), 6);
+  frame->Layout().Move(*frame->account.Item(), frame->inner);
+  frame->Layout().Move(*frame->quantity.Item(), frame->top);
+  EXPECT_EQ(expectTabsFrom(&frame->kind), 6);
+  EXPECT_TRUE(frame->account.Focused());
+}
+
+TEST_F(TShownForm, TheFirstFieldThatTakesInputIsTheFormsFirst) {
+  frame->Layout().Move(*frame->account.Item(), frame->inner);
+  frame->quantity.SetReadOnly(true);
+  view->FocusFirst();
+  EXPECT_TRUE(frame->kind.Focused());
 }
 
 TEST_F(TShownForm, EnterGoesWhereTheFormSendsIt) {
@@ -97,7 +124,7 @@ TEST_F(TShownForm, AListFollowsARefillAndKeepsWhatTheFormPicked) {
   frame->kind.Refill({"Eins", "Zwei"}, 1);
   EXPECT_EQ(list.count(), 2);
   EXPECT_EQ(list.currentText(), "Zwei");
-  // The form takes the pick back: the list must not show what does not hold.
+  // The form reverts the pick, and the list must not go on showing it.
   frame->kind.OnChange = [this] {
     if (frame->kind.Index() == 0) frame->kind.SetIndex(1);
   };

@@ -1,6 +1,6 @@
 #pragma once
 
-// A small form with one control of each kind, shown in a window that is active.
+// A small form with one control of each kind, in an active window.
 
 #include <gtest/gtest.h>
 
@@ -44,7 +44,7 @@ class TRenderedFrame : public forms::TFrame {
   forms::TSpeedButton& sell = Place<forms::TSpeedButton>("btnSell", top, 1);
 };
 
-/// Knows two accounts, and steps by 5.
+/// Knows two accounts.
 class TSampleAssist final : public TEditorAssist {
  public:
   std::vector<TCompletion> Completions(const forms::TTextEdit& /*editor*/,
@@ -55,15 +55,13 @@ class TSampleAssist final : public TEditorAssist {
     }
     return found;
   }
-  double Stepped(const forms::TSpinEdit& /*editor*/, double value, std::int32_t steps) const override {
-    return value + 5.0 * steps;
-  }
 };
 
 class TRenderedForm : public testing::Test {
  protected:
   TRenderedForm() {
     frame->kind.Refill({"One", "Two", "Three"}, -1);
+    frame->quantity.SetStep(5);
     view = new TFrameView(frame, assist, &window);
     auto* column = new QVBoxLayout(&window);
     column->addWidget(&focusSink);

@@ -1,4 +1,4 @@
-// What happens to orders when the disk takes no more.
+// What happens to orders when the disk is full.
 
 #include "plugin/host_contract/config_manager.h"
 #include "plugin/host_contract/order_action_manager.h"

@@ -42,7 +42,7 @@ class TKilledProgram {
   TKilledProgram(const TKilledProgram&) = delete;
   TKilledProgram& operator=(const TKilledProgram&) = delete;
 
-  /// The next whole line that it writes, without its end; nothing once it has written its last.
+  /// The next whole line of its output, without the line end; nothing after the last one.
   std::optional<std::string> Line() {
     std::string line;
     for (int c = std::fgetc(FOutput); c != EOF; c = std::fgetc(FOutput)) {
@@ -52,7 +52,7 @@ class TKilledProgram {
     return std::nullopt;
   }
 
-  /// Stops it where it is; what it wrote can still be read. Whether it was running until then.
+  /// Kills it; its output can still be read. Returns whether it was running until then.
   bool Kill() {
     if (FProcess == 0) return false;
     kill(FProcess, SIGKILL);

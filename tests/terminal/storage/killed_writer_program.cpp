@@ -1,8 +1,8 @@
 // algo-killed-writer FILE: enters and changes orders until it is killed.
 //
-// Every order goes the way that a trader's goes, through the host's order actions, and is stored in the
-// database FILE. Once an action was answered as accepted, one line says so: the order's key and, after a
-// blank, the number of actions on it so far, which is its quantity as well.
+// Every order takes the way of a trader's order, through the host's order actions, and is stored in the
+// database FILE. For each accepted action the program writes one line: the order's key and, after a blank,
+// the number of actions on it so far, which is also its quantity.
 
 #include <unistd.h>
 
@@ -20,8 +20,8 @@ namespace {
 namespace host = algo::host;
 namespace terminal = algo::terminal;
 
-// Enough to spread an order over many pages, so that there is something to tear apart, and so that the log is
-// carried over into the database every few orders.
+// Long enough to spread an order over many pages, so that a write can be torn, and so that the log is
+// checkpointed into the database every few orders.
 const std::string LongText(100000, 'x');
 
 constexpr int ActionsOnAnOrder = 3;

@@ -1,6 +1,6 @@
 // An order whose action was answered as accepted is on record, however the terminal ends.
 //
-// ALGO_KILL_ROUNDS and ALGO_KILL_SEED set how often the terminal is killed, and the moments.
+// ALGO_KILL_ROUNDS sets how often the terminal is killed, ALGO_KILL_SEED when.
 
 #include <chrono>
 #include <cstdlib>
@@ -24,8 +24,8 @@ std::uint32_t FromEnvironment(const char* name, std::uint32_t otherwise) {
 constexpr std::uint32_t RoundsOfADatabase = 5;
 
 struct TKilledWriter : TStorageTest {
-  /// Lets the writer work up to a random moment, now and then before it has opened the database, and adds
-  /// what it reported.
+  /// Lets the writer work until a random moment, sometimes before it has opened the database, and adds what
+  /// it reported.
   void WriteUntilKilled() {
     TKilledProgram writer("algo-killed-writer", file);
     const bool opening = random() % 3 == 0;
@@ -49,9 +49,10 @@ struct TKilledWriter : TStorageTest {
     known->second = count;
   }
 
-  /// The database holds what was reported, and of the last action that was not reported all or nothing.
+  /// The database holds everything that was reported, and all or nothing of an action that was not reported.
   void ExpectEverythingReported() {
-    // Opened by the storage first: it has to cope with what the writer left, and not with what was tidied.
+    // Opened by the storage first, which has to cope with what the writer left behind before SQLite cleans
+    // up.
     auto storage = Open();
     TOrderStore stored;
     storage->LoadInto(data, stored);

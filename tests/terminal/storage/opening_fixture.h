@@ -1,6 +1,6 @@
 #pragma once
 
-// What the tests of opening ask: what was said, and what is in the folder then.
+// Helpers for the tests of opening: the error message, and the files in the folder.
 
 #include <filesystem>
 #include <string>
@@ -15,7 +15,7 @@ struct TOpening : TStorageTest {
     return MessageOf([this] { Open(); });
   }
   std::string FullMessage(const std::string& rest) const { return "The database '" + file + "' " + rest; }
-  /// What is in the folder, and nothing but: no logs left over either.
+  /// The names of all files in the folder, which shows that no logs are left over.
   std::vector<std::string> FileNames() const {
     std::vector<std::string> names;
     for (const auto& entry : std::filesystem::directory_iterator(folder.Path())) {

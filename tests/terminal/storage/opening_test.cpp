@@ -1,4 +1,4 @@
-// Which files are opened, and what is said of the others. What is refused is left as it was.
+// Which files are opened, and the messages for the others. A refused file stays unchanged.
 
 #include "terminal/storage/connection.h"
 #include "tests/terminal/storage/opening_fixture.h"

@@ -11,7 +11,7 @@
 namespace algo::terminal::storage::tests {
 namespace {
 
-/// Runs the test as a user who may not write what is not his, as root may do in spite of all rights.
+/// Runs the test as a user without rights to the files of others, since root may write everything.
 class TWithoutRights {
  public:
   TWithoutRights() {

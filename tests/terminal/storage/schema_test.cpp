@@ -1,4 +1,4 @@
-// How a database comes from version to version.
+// How a database is migrated from version to version.
 
 #include "terminal/storage/schema.h"
 

@@ -11,7 +11,7 @@
 namespace algo::terminal::storage::tests {
 namespace {
 
-/// The middle one of the times, in milliseconds, that the operation took.
+/// The median of the times, in milliseconds, that the operation takes.
 template <class TOperation>
 double MedianMilliseconds(TOperation&& operation) {
   constexpr std::size_t Count = 101;
@@ -27,7 +27,7 @@ double MedianMilliseconds(TOperation&& operation) {
 }
 
 struct TStorageSpeed : TStorageTest {
-  /// What the disk itself takes to have a page for good.
+  /// How long the disk itself takes to store a page.
   double DiskMilliseconds() const {
     const int probe = open(folder.Path("probe").c_str(), O_CREAT | O_WRONLY | O_CLOEXEC, 0600);
     const std::string page(4096, 'x');

@@ -162,7 +162,7 @@ TEST_F(ChangeForms, NeedTheSettingOfAFrameToBeModal) {
   TCustomClientOrder order = OrderWith("TMLO:AlgoId=TVOL;");
   frame->ChangeOrder(&order);
   EXPECT_EQ(LeftBehind().orders, 1U);
-  frame->LetGoOfOrder();
+  frame->ReleaseOrder();
   EXPECT_EQ(LeftBehind().orders, 0U);
   frame->SetShownModally(true);
   frame->ChangeOrder(&order);

@@ -8,7 +8,7 @@ namespace algo::tests {
 namespace {
 
 using host::TCustomClientOrder;
-using views::TField;
+using views::entry::TField;
 
 class ChangeRules : public TOrderDialogTest {
  protected:
@@ -194,7 +194,7 @@ TEST_F(ChangeRules, LookAtTheTimesBeforeAnyFieldOfTheAlgorithm) {
   }
 }
 
-TEST_F(ChangeRules, TellTheFirstComplaintAlone) {
+TEST_F(ChangeRules, TellTheFirstFailureAlone) {
   TCustomClientOrder order = OrderWith("TMLO:AlgoId=PEG;");
   Change(order, [&](forms::TDialogForm&, TChangeFrame& frame) {
     for (const char* control : {"edtMinOrdAmt", "edtWPx", "edtTimeOut", "edtJoinThr"}) {

@@ -143,8 +143,8 @@ TEST_F(ChangeSubmit, ComposesNoTextForAWorkParentAndChecksNothing) {
   parent.flags = 0x10000001;
   Change(parent, [&](forms::TDialogForm&, TChangeFrame& frame) {
     EXPECT_EQ(Spin(frame, "edtMaxVolPct").Value(), 75.0);
-    frame.Date(views::TField::deSTime).SetText("2024-01-16");
-    frame.Date(views::TField::deETime).SetText("2024-01-15");
+    frame.Date(views::entry::TField::deSTime).SetText("2024-01-16");
+    frame.Date(views::entry::TField::deETime).SetText("2024-01-15");
     Type(frame, "edtQty", "2000");
     Click(frame, "btnBuy");
   });
@@ -194,7 +194,7 @@ TEST_F(ChangeSubmit, StoresTheConfirmationSettingForANewOrderAlone) {
   for (const TRow& row : {TRow{false, "Y"}, {true, "N"}}) {
     Forget();
     Confirm(order, [&](forms::TDialogForm&, TChangeFrame& frame) {
-      frame.Check(views::TField::cbPopup).SetChecked(!row.checked);
+      frame.Check(views::entry::TField::cbPopup).SetChecked(!row.checked);
       Click(frame, "cbPopup");
     });
     ASSERT_EQ(Seen("store").size(), 1U);

@@ -3,6 +3,7 @@
 #include <array>
 
 #include "tests/views/order_dialogs.h"
+#include "tests/views/table_coverage.h"
 
 namespace algo::tests {
 namespace {
@@ -31,6 +32,12 @@ constexpr std::array OtherParameters{
     "deETime",      "edtVolPct",    "edtMaxVolPct", "edtWPx",        "edtClosePct",   "cmbCloseSim",
     "edtMinOrdAmt", "cmbStyle",     "edtSlices",    "edtThrVolPct1", "edtThrVolPct2", "edtMaxShowQty",
     "edtRandPct",   "edtReloadPct", "cmbAllInAuc",  "edtStopQty",    "edtMinQty",     "edtServePct"};
+
+TEST_F(ChangeView, TheTablesNameEveryParameter) {
+  std::vector<std::string_view> names(Amendable.begin(), Amendable.end());
+  names.insert(names.end(), OtherParameters.begin(), OtherParameters.end());
+  ExpectNamesEvery(names, [](const auto& row) { return row.param.has_value(); });
+}
 
 TEST_F(ChangeView, OpensEveryAmendableFieldAndClosesNoOther) {
   for (const bool confirming : {false, true}) {

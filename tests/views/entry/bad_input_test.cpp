@@ -175,7 +175,7 @@ TEST_F(BadInput, TakesAPriceOrLotSizeThatIsNotFiniteForNotGiven) {
     EXPECT_EQ(Submit(frame), TTexts{});
     EXPECT_EQ(TakenOrder().price, 0);
   }
-  DropProvider();
+  DestroyProvider();
 }
 
 TEST_F(BadInput, CopiesWhatIsNoNumberAsNotGiven) {

@@ -180,7 +180,7 @@ TEST_F(BuiltOrder, IsRecognisedByTheWordOriginalInOneOfItsPieces) {
                                {"first;NotOriginalAtAll", true},
                                {"Orig;inal", false}};
   for (const TRow& row : rows) {
-    EXPECT_EQ(views::TAlgoOrderEntryFrame::CheckTheOrder(row.text), row.recognised) << row.text;
+    EXPECT_EQ(views::entry::TAlgoOrderEntryFrame::CheckTheOrder(row.text), row.recognised) << row.text;
   }
 }
 

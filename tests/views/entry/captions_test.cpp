@@ -12,7 +12,7 @@ namespace algo::tests {
 namespace {
 
 using TTexts = std::vector<std::string>;
-using views::TField;
+using views::entry::TField;
 
 struct TTextRow {
   std::string_view name;
@@ -89,7 +89,7 @@ class CaptionsTest : public TTerminalTest {
     }
   }
 
-  void ExpectTexts(views::TAlgoOrderEntryFrame& frame, const std::string& mark) {
+  void ExpectTexts(views::entry::TAlgoOrderEntryFrame& frame, const std::string& mark) {
     for (const TTextRow& row : GroupCaptions) {
       EXPECT_EQ(Element(frame, row.name).Caption(), mark + std::string(row.id)) << row.name;
     }

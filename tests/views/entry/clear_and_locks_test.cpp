@@ -6,13 +6,14 @@
 #include <string_view>
 #include <vector>
 
+#include "tests/views/table_coverage.h"
 #include "tests/views/terminal_fixture.h"
 
 namespace algo::tests {
 namespace {
 
 using TTexts = std::vector<std::string>;
-using views::TField;
+using views::entry::TField;
 
 constexpr std::array Numbers{
     TField::edtThrPx1,     TField::edtThrPx2,      TField::edtStopLossPx, TField::edtWPx,
@@ -39,7 +40,7 @@ constexpr std::array<std::string_view, 7> Boxes{"cbLockAcct", "cbLockSymbol",   
 class ClearAndLocksTest : public TTerminalTest {
  protected:
   /// A form on which nothing stands where emptying would put it.
-  views::TAlgoOrderEntryFrame& OpenFull() {
+  views::entry::TAlgoOrderEntryFrame& OpenFull() {
     auto& frame = OpenFilled();
     Pick(frame, "cmbExch", "US");
     Pick(frame, "cmbOrderType", "Res_Algo_OrderType_TWAP");
@@ -47,7 +48,7 @@ class ClearAndLocksTest : public TTerminalTest {
     return frame;
   }
 
-  void FillAlgoFields(views::TAlgoOrderEntryFrame& frame) {
+  void FillAlgoFields(views::entry::TAlgoOrderEntryFrame& frame) {
     for (const TField number : Numbers) frame.Spin(number).SetValue(7);
     for (const TChoiceRow& choice : Choices) frame.Combo(choice.field).SetIndex(1);
     frame.Combo(TField::cmbStyle).SetIndex(1);
@@ -55,7 +56,7 @@ class ClearAndLocksTest : public TTerminalTest {
     frame.Date(TField::deETime).SetText("2024-05-06 16:00:00");
   }
 
-  void ExpectAlgoFieldsEmpty(views::TAlgoOrderEntryFrame& frame, std::int32_t style,
+  void ExpectAlgoFieldsEmpty(views::entry::TAlgoOrderEntryFrame& frame, std::int32_t style,
                              const std::string& when) {
     for (const TField number : Numbers) {
       EXPECT_EQ(frame.Spin(number).Value(), std::nullopt) << frame.Spin(number).Name() << " " << when;
@@ -70,6 +71,16 @@ class ClearAndLocksTest : public TTerminalTest {
     EXPECT_EQ(frame.Date(TField::deETime).Text(), "") << when;
   }
 };
+
+TEST_F(ClearAndLocksTest, TheTablesNameEveryParameterAndEveryLock) {
+  auto& frame = Open();
+  std::vector<std::string_view> parameters{"cmbStyle", "deSTime", "deETime"};
+  for (const TField number : Numbers) parameters.push_back(frame.Spin(number).Name());
+  for (const TChoiceRow& choice : Choices) parameters.push_back(frame.Combo(choice.field).Name());
+  ExpectNamesEvery(parameters, [](const auto& row) { return row.param.has_value(); });
+  ExpectNamesEvery({Boxes.begin(), Boxes.end()},
+                   [](const auto& row) { return row.name.starts_with("cbLock"); });
+}
 
 TEST_F(ClearAndLocksTest, ClearEmptiesEveryFieldAndKeepsTheSide) {
   auto& frame = OpenFull();

@@ -11,7 +11,7 @@ namespace algo::tests {
 namespace {
 
 using TTexts = std::vector<std::string>;
-using views::TField;
+using views::entry::TField;
 
 class ConfigurationTest : public TTerminalTest {
  protected:
@@ -20,7 +20,7 @@ class ConfigurationTest : public TTerminalTest {
     Data().config["VANTORIX_PLATFORM"][key] = value;
   }
 
-  std::int32_t KeyInputSize(views::TAlgoOrderEntryFrame& frame) {
+  std::int32_t KeyInputSize(views::entry::TAlgoOrderEntryFrame& frame) {
     return Element(frame, "liVolPct").Font().size;
   }
 };

@@ -210,7 +210,7 @@ TEST_F(CopyingLocks, LoadATextUpToTheTimeThatCannotBeRead) {
 }
 
 TEST_F(CopyingLocks, LetTheMarketFillTheFormAgainAfterACopyThatFailed) {
-  const auto expectPrefill = [this](views::TAlgoOrderEntryFrame& frame, const char* what) {
+  const auto expectPrefill = [this](views::entry::TAlgoOrderEntryFrame& frame, const char* what) {
     EXPECT_EQ(Told().size(), 1U) << what;
     Type(frame, "edtSymbol", "0005");
     Leave(frame);
@@ -225,7 +225,7 @@ TEST_F(CopyingLocks, LetTheMarketFillTheFormAgainAfterACopyThatFailed) {
   }
   for (const std::int32_t channel : {Order, Price}) {
     for (const char* fault : {"subscribe.add", "editor.symbol"}) {
-      DropProvider();
+      DestroyProvider();
       auto& frame = Open();
       Forget();
       Data().faults.Set({fault});

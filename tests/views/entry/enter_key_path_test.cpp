@@ -116,7 +116,7 @@ class EnterOrder : public TTerminalTest {
     }
   }
 
-  views::TAlgoOrderEntryFrame& FFrame;
+  views::entry::TAlgoOrderEntryFrame& FFrame;
 };
 
 TEST_F(EnterOrder, IsStatedForEveryEditorDateEditAndComboBox) {
@@ -212,7 +212,7 @@ TEST_F(EnterOrder, DoesWhatLeavingTheFieldDoes) {
 
 TEST_F(EnterOrder, PressesAButtonInsteadOfLeavingIt) {
   EXPECT_EQ(Enter(FFrame, "btnSell"), "btnSell");
-  EXPECT_TRUE(FFrame.SideButton(views::TField::btnSell).Pressed());
+  EXPECT_TRUE(FFrame.SideButton(views::entry::TField::btnSell).Pressed());
 }
 
 }  // namespace

@@ -78,7 +78,7 @@ class FieldRules : public TTerminalTest {
     return Spin(FFrame, name).Value();
   }
 
-  views::TAlgoOrderEntryFrame& FFrame;
+  views::entry::TAlgoOrderEntryFrame& FFrame;
 };
 
 TEST_F(FieldRules, AreStatedForEverySpinEditOfTheForm) {

@@ -130,7 +130,7 @@ TEST_F(HostileText, NumbersAroundBytesThatAreNoTextCountOnlyWhereTheyAreNumbers)
     EXPECT_EQ(Text(frame, "edtVolPct"), "") << passed;
   }
   for (const string_view taken : {"20\0"sv, " \x01 20 \t"sv, "+20"sv, "2e1"sv, "20."sv}) {
-    frame.Spin(views::TField::edtVolPct).SetValue(1);
+    frame.Spin(views::entry::TField::edtVolPct).SetValue(1);
     EXPECT_TRUE(frame.SetLayoutData("VolPct=" + std::string(taken)));
     EXPECT_EQ(Text(frame, "edtVolPct"), "20") << taken;
   }
@@ -157,7 +157,7 @@ TEST_F(HostileText, AnEndlessLayoutIsReadInLinearTime) {
            TEndless{"a time", "VolPct=20,STime=", "2024-01-15"},
            TEndless{"no UTF-8", "VolPct=20,", "\xC3\xFF\x80"},
        }) {
-    frame.Spin(views::TField::edtVolPct).SetValue(std::nullopt);
+    frame.Spin(views::entry::TField::edtVolPct).SetValue(std::nullopt);
     ExpectLinear(row.what, row.start, row.unit,
                  [&](const std::string& text) { EXPECT_TRUE(frame.SetLayoutData(text)) << row.what; });
     EXPECT_EQ(Text(frame, "edtVolPct"), "20") << row.what;
@@ -253,7 +253,7 @@ TEST_F(HostileText, ATimeThatIsNoneEndsTheLoadingWithOneShortMessage) {
   for (const std::string& time :
        {Endless("20240115-09:30:00", 10 * Megabyte), std::string("20240115-09:30:00\0", 18),
         std::string("\xFF\xFF"), std::string("20240230-09:30:00"), std::string("2024011509:30:00x")}) {
-    DropProvider();
+    DestroyProvider();
     auto& frame = Open();
     Forget();
     CopyOrderWith("TMLO:AlgoId=PEG,ETime=" + time + ",Timeout=60;");

@@ -11,13 +11,13 @@ namespace algo::tests {
 namespace {
 
 using TTexts = std::vector<std::string>;
-using views::TField;
+using views::entry::TField;
 
 class LanguageTest : public TTerminalTest {
  protected:
   void Speak(const std::string& sell) { Data().texts["Res"]["Res_Side_Sell"] = sell; }
 
-  void ExpectSideFont(views::TAlgoOrderEntryFrame& frame, std::int32_t size, const std::string& when) {
+  void ExpectSideFont(views::entry::TAlgoOrderEntryFrame& frame, std::int32_t size, const std::string& when) {
     for (const TField side : {TField::btnBuy, TField::btnSell}) {
       EXPECT_EQ(frame.Control(side).Font().size, size) << frame.Control(side).Name() << " " << when;
       EXPECT_TRUE(frame.Control(side).Font().bold) << frame.Control(side).Name() << " " << when;

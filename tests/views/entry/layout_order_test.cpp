@@ -24,7 +24,7 @@ class LayoutOrder : public TTerminalTest {
     return ("," + FFrame.GetLayoutData() + ",").find("," + std::string(item) + ",") != std::string::npos;
   }
 
-  views::TAlgoOrderEntryFrame& FFrame;
+  views::entry::TAlgoOrderEntryFrame& FFrame;
 };
 
 TEST_F(LayoutOrder, GivesTheAccountToTheHostsEditorEvenWhenItIsMissing) {

@@ -27,8 +27,8 @@ class TRandomForm {
  public:
   explicit TRandomForm(std::uint32_t seed) : FRandom(seed) {}
 
-  void Fill(views::TAlgoOrderEntryFrame& frame) {
-    using views::TField;
+  void Fill(views::entry::TAlgoOrderEntryFrame& frame) {
+    using views::entry::TField;
     for (const TField first : {TField::cmbExch, TField::cmbOrderType, TField::cmbMType}) {
       Choose(frame.Combo(first));
     }
@@ -243,11 +243,11 @@ class LayoutRandom : public TTerminalTest {};
 
 TEST_F(LayoutRandom, FormsReadBackAsTheRulesOfReadingSay) {
   TRandomForm random(20240115);
-  const auto source = std::make_shared<views::TAlgoOrderEntryFrame>();
+  const auto source = std::make_shared<views::entry::TAlgoOrderEntryFrame>();
   for (std::int32_t i = 0; i < 10000; ++i) {
     random.Fill(*source);
     const std::string first = source->GetLayoutData();
-    const auto target = std::make_shared<views::TAlgoOrderEntryFrame>();
+    const auto target = std::make_shared<views::entry::TAlgoOrderEntryFrame>();
     ASSERT_TRUE(target->SetLayoutData(first)) << i;
     ASSERT_EQ(target->GetLayoutData(), AfterReading(first)) << i << "\n" << first;
     target->Detach();

@@ -6,6 +6,7 @@
 #include <string_view>
 #include <vector>
 
+#include "tests/views/table_coverage.h"
 #include "tests/views/terminal_fixture.h"
 
 namespace algo::tests {
@@ -20,7 +21,7 @@ class LayoutReading : public TTerminalTest {
   std::string Text(string_view control) { return Named(FFrame, control).Text(); }
   bool Checked(string_view box) { return dynamic_cast<forms::TCheckBox&>(Named(FFrame, box)).Checked(); }
 
-  views::TAlgoOrderEntryFrame& FFrame;
+  views::entry::TAlgoOrderEntryFrame& FFrame;
 };
 
 TEST_F(LayoutReading, AnswersTrueAndTellsTheHostOnceThatTheViewChanged) {
@@ -36,21 +37,25 @@ TEST_F(LayoutReading, PutsEachNumberIntoTheEditorOfItsKey) {
     const char* key;
     const char* editor;
   };
-  for (const TRow& row : {
-           TRow{"MinQty", "edtMinQty"},         TRow{"ServePct", "edtServePct"},
-           TRow{"ShowQty", "edtShowQty"},       TRow{"Timeout", "edtTimeOut"},
-           TRow{"TickDiff", "edtTickDiff"},     TRow{"JoinThr", "edtJoinThr"},
-           TRow{"JoinQty", "edtJoinQty"},       TRow{"RandTimeout", "edtRandTimeOut"},
-           TRow{"DiffPct", "edtDiffPct"},       TRow{"MaxShowQty", "edtMaxShowQty"},
-           TRow{"RandPct", "edtRandPct"},       TRow{"ReloadPct", "edtReloadPct"},
-           TRow{"VolPct", "edtVolPct"},         TRow{"MaxVolPct", "edtMaxVolPct"},
-           TRow{"MinOrdAmt", "edtMinOrdAmt"},   TRow{"WPx", "edtWPx"},
-           TRow{"ThrPx1", "edtThrPx1"},         TRow{"ThrPx2", "edtThrPx2"},
-           TRow{"ThrVolPct1", "edtThrVolPct1"}, TRow{"ThrVolPct2", "edtThrVolPct2"},
-           TRow{"Waves", "edtSlices"},          TRow{"OpenPct", "edtOpenPct"},
-           TRow{"ClosePct", "edtClosePct"},     TRow{"StopLossPx", "edtStopLossPx"},
-           TRow{"StopQty", "edtStopQty"},       TRow{"Price", "edtPrice"},
-       }) {
+  const std::vector<TRow> rows{
+      TRow{"MinQty", "edtMinQty"},         TRow{"ServePct", "edtServePct"},
+      TRow{"ShowQty", "edtShowQty"},       TRow{"Timeout", "edtTimeOut"},
+      TRow{"TickDiff", "edtTickDiff"},     TRow{"JoinThr", "edtJoinThr"},
+      TRow{"JoinQty", "edtJoinQty"},       TRow{"RandTimeout", "edtRandTimeOut"},
+      TRow{"DiffPct", "edtDiffPct"},       TRow{"MaxShowQty", "edtMaxShowQty"},
+      TRow{"RandPct", "edtRandPct"},       TRow{"ReloadPct", "edtReloadPct"},
+      TRow{"VolPct", "edtVolPct"},         TRow{"MaxVolPct", "edtMaxVolPct"},
+      TRow{"MinOrdAmt", "edtMinOrdAmt"},   TRow{"WPx", "edtWPx"},
+      TRow{"ThrPx1", "edtThrPx1"},         TRow{"ThrPx2", "edtThrPx2"},
+      TRow{"ThrVolPct1", "edtThrVolPct1"}, TRow{"ThrVolPct2", "edtThrVolPct2"},
+      TRow{"Waves", "edtSlices"},          TRow{"OpenPct", "edtOpenPct"},
+      TRow{"ClosePct", "edtClosePct"},     TRow{"StopLossPx", "edtStopLossPx"},
+      TRow{"StopQty", "edtStopQty"},       TRow{"Price", "edtPrice"},
+  };
+  std::vector<std::string_view> names{"edtQty"};  // read by a rule of its own
+  for (const TRow& row : rows) names.emplace_back(row.editor);
+  ExpectNamesEvery(names, [](const auto& row) { return row.kind == views::entry::TFieldKind::Spin; });
+  for (const TRow& row : rows) {
     auto& editor = Spin(FFrame, row.editor);
     const std::string start = std::string(row.key) + "=";
     for (const double value : {12.0, -3.0, 1234567.5}) {
@@ -167,6 +172,9 @@ TEST_F(LayoutReading, ChoosesEachEntryByItsNameInTheList) {
         "Res_Algo_OrderType_MOC", "Res_Algo_OrderType_SNIPER", "Res_Algo_OrderType_SHORTSELL"}},
       {"Exchange", "cmbExch", {"HK", "US"}},
   };
+  std::vector<std::string_view> names;
+  for (const TRow& row : rows) names.emplace_back(row.combo);
+  ExpectNamesEvery(names, [](const auto& row) { return row.kind == views::entry::TFieldKind::Combo; });
   for (const TRow& row : rows) {
     const std::string start = std::string(row.key) + "=";
     for (std::size_t i = 0; i < row.entries.size(); ++i) {

@@ -7,6 +7,7 @@
 #include <vector>
 
 #include "plugin/host_contract/language_manager.h"
+#include "tests/views/table_coverage.h"
 #include "tests/views/terminal_fixture.h"
 
 namespace algo::tests {
@@ -38,7 +39,7 @@ class LayoutText : public TTerminalTest {
     return values;
   }
 
-  views::TAlgoOrderEntryFrame& FFrame;
+  views::entry::TAlgoOrderEntryFrame& FFrame;
 };
 
 using TValues = std::vector<std::string>;
@@ -158,6 +159,12 @@ constexpr TNumberRow Numbers[] = {
     {"ClosePct", "edtClosePct"},     {"StopLossPx", "edtStopLossPx"},
     {"StopQty", "edtStopQty"},
 };
+
+TEST_F(LayoutText, TheTableNamesEveryNumberButTheTwoThatAreWrittenInTheirOwnWay) {
+  std::vector<std::string_view> names{"edtMinQty", "edtJoinQty"};
+  for (const TNumberRow& row : Numbers) names.emplace_back(row.editor);
+  ExpectNamesEvery(names, [](const auto& row) { return row.kind == views::entry::TFieldKind::Spin; });
+}
 
 TEST_F(LayoutText, HoldsEachNumberUnderItsOwnKeyWithoutSeparators) {
   for (const TNumberRow& row : Numbers) {

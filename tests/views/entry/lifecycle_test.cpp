@@ -14,7 +14,7 @@ namespace algo::tests {
 namespace {
 
 using TTexts = std::vector<std::string>;
-using views::TField;
+using views::entry::TField;
 
 /// Keeps one log of what the fixture would sort by event.
 class LifecycleTest : public TTerminalTest {

@@ -4,6 +4,7 @@
 #include <string>
 #include <vector>
 
+#include "tests/views/table_coverage.h"
 #include "tests/views/terminal_fixture.h"
 #include "text/errors.h"
 
@@ -15,7 +16,7 @@ using TTexts = std::vector<std::string>;
 class LoadParameters : public TTerminalTest {
  protected:
   /// Loads "key=value" lines under the algorithm's name.
-  static void Load(views::TAlgoOrderEntryFrame& frame, std::string_view algo, const TTexts& lines) {
+  static void Load(views::entry::TAlgoOrderEntryFrame& frame, std::string_view algo, const TTexts& lines) {
     frame.InitializeConfirmView(algo, std::vector<std::string_view>(lines.begin(), lines.end()));
   }
 
@@ -46,6 +47,12 @@ const std::vector<TNumberRow> Numbers{
     {"DiffPct", "edtDiffPct"},       {"ServePct", "edtServePct"},
     {"MinQty", "edtMinQty"},
 };
+
+TEST_F(LoadParameters, TheTableNamesEveryNumber) {
+  std::vector<std::string_view> names;
+  for (const TNumberRow& row : Numbers) names.emplace_back(row.editor);
+  ExpectNamesEvery(names, HoldsNumber);
+}
 
 TEST_F(LoadParameters, PutsEachNumberIntoItsEditorAsItIs) {
   struct TValue {

@@ -5,6 +5,7 @@
 #include <string>
 #include <vector>
 
+#include "tests/views/table_coverage.h"
 #include "tests/views/terminal_fixture.h"
 
 namespace algo::tests {
@@ -37,6 +38,12 @@ const std::vector<TRow> Rows{
     {"Res_OrderType_MOC", false, 0, 0x8000},
     {"Res_OrderType_LOC", true, 0, 0x1000},
 };
+
+TEST_F(OrderTypeMapping, TheTableNamesEveryType) {
+  std::vector<std::string_view> ids;
+  for (const TRow& row : Rows) ids.emplace_back(row.type);
+  ExpectNamesEveryOrderType(ids);
+}
 
 TEST_F(OrderTypeMapping, WritesTheChosenTypeIntoTheOrder) {
   auto& frame = OpenFilled();

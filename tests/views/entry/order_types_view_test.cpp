@@ -1,18 +1,18 @@
 // The host order types that the form offers by the user's rights, and what each does to the price.
 
-#include <array>
 #include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
 
+#include "tests/views/table_coverage.h"
 #include "tests/views/terminal_fixture.h"
 
 namespace algo::tests {
 namespace {
 
 using TTexts = std::vector<std::string>;
-using views::TField;
+using views::entry::TField;
 
 struct TTypeRow {
   std::string code;
@@ -21,7 +21,7 @@ struct TTypeRow {
   bool priced;
 };
 
-const std::array<TTypeRow, 10> TypeRows{{
+const std::vector<TTypeRow> TypeRows{
     {"LO", "", "Res_OrderType_Limit", true},
     {"MO", "OEMarketOrder", "Res_OrderType_Market", false},
     {"StopMarket", "OEStopM", "Res_OrderType_StopMarket", false},
@@ -32,20 +32,26 @@ const std::array<TTypeRow, 10> TypeRows{{
     {"MOO", "OEMarketOnOpen", "Res_OrderType_MOO", false},
     {"MOC", "OEMarketOnClose", "Res_OrderType_MOC", false},
     {"LOC", "OELOC", "Res_OrderType_LOC", true},
-}};
+};
 
 class OrderTypesViewTest : public TTerminalTest {
  protected:
   const TTexts& Offered() { return Combo(Open(), "cmbMType").Items(); }
 
   /// What the price editor shows and allows.
-  void ExpectPrice(views::TAlgoOrderEntryFrame& frame, std::string_view text, bool enabled, bool lockEnabled,
-                   const std::string& when) {
+  void ExpectPrice(views::entry::TAlgoOrderEntryFrame& frame, std::string_view text, bool enabled,
+                   bool lockEnabled, const std::string& when) {
     EXPECT_EQ(frame.Spin(TField::edtPrice).Text(), text) << when;
     EXPECT_EQ(frame.Spin(TField::edtPrice).Enabled(), enabled) << when;
     EXPECT_EQ(frame.Check(TField::cbLockPrice).Enabled(), lockEnabled) << when;
   }
 };
+
+TEST_F(OrderTypesViewTest, TheTableNamesEveryType) {
+  std::vector<std::string_view> ids;
+  for (const TTypeRow& row : TypeRows) ids.push_back(row.id);
+  ExpectNamesEveryOrderType(ids);
+}
 
 TEST_F(OrderTypesViewTest, AUserWithoutRightsIsOfferedTheLimitTypeAlone) {
   Data().rights.clear();

@@ -28,14 +28,15 @@ class ParameterTextOfTheForm : public TTerminalTest {
     Leave(frame);
   }
 
-  static std::string Compose(const views::TAlgoOrderEntryFrame& frame) {
+  static std::string Compose(const views::entry::TAlgoOrderEntryFrame& frame) {
     host::TCustomClientOrder order;
     frame.SetOrderAlgo(order);
     return order.TextProperty(440);
   }
 
   /// The text with one editor or choice set by the program, everything else not given.
-  std::string With(views::TAlgoOrderEntryFrame& frame, const char* algo, const char* spin, double value) {
+  std::string With(views::entry::TAlgoOrderEntryFrame& frame, const char* algo, const char* spin,
+                   double value) {
     Combo(frame, "cmbOrderType").SetIndex(-1);
     ChooseAlgo(frame, algo);
     Combo(frame, "cmbClosing").SelectLast();

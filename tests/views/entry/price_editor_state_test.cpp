@@ -3,6 +3,7 @@
 #include <string>
 #include <vector>
 
+#include "tests/views/table_coverage.h"
 #include "tests/views/terminal_fixture.h"
 
 namespace algo::tests {
@@ -26,6 +27,12 @@ const std::vector<TRow> Rows{
     {"Res_OrderType_StopMarket", false}, {"Res_OrderType_AO", false}, {"Res_OrderType_MOO", false},
     {"Res_OrderType_MOC", false},
 };
+
+TEST_F(PriceEditorState, TheTableNamesEveryType) {
+  std::vector<std::string_view> ids;
+  for (const TRow& row : Rows) ids.emplace_back(row.type);
+  ExpectNamesEveryOrderType(ids);
+}
 
 TEST_F(PriceEditorState, FollowsTheTypeWhileThePriceIsNotLocked) {
   auto& frame = OpenFilled();

@@ -19,7 +19,7 @@ namespace algo::tests {
 namespace {
 
 using std::string_view;
-using views::TField;
+using views::entry::TField;
 
 constexpr std::array<string_view, 12> Codes{"TVOL",   "TVOL Threshold", "TWAP", "VWAP", "CLOSE",
                                             "OPEN",   "ICEBERG",        "STOP", "PEG",  "MOC",
@@ -40,8 +40,8 @@ constexpr std::array Choices{TField::cmbOpening, TField::cmbClosing, TField::cmb
 class ReloadRandom : public TTerminalTest {
  protected:
   ReloadRandom()
-      : FSource(std::make_shared<views::TAlgoOrderEntryFrame>()),
-        FTarget(std::make_shared<views::TAlgoOrderEntryFrame>()) {}
+      : FSource(std::make_shared<views::entry::TAlgoOrderEntryFrame>()),
+        FTarget(std::make_shared<views::entry::TAlgoOrderEntryFrame>()) {}
   ~ReloadRandom() override {
     FSource->Detach();
     FTarget->Detach();
@@ -72,7 +72,7 @@ class ReloadRandom : public TTerminalTest {
     return text::TDateTime(std::chrono::seconds(yearOne + static_cast<std::int64_t>(Below(seconds))));
   }
 
-  void FillAtRandom(views::TAlgoOrderEntryFrame& frame) {
+  void FillAtRandom(views::entry::TAlgoOrderEntryFrame& frame) {
     for (const TField field : Numbers) {
       frame.Spin(field).SetValue(Below(4) == 0 ? std::nullopt : std::optional(Number()));
     }
@@ -87,7 +87,7 @@ class ReloadRandom : public TTerminalTest {
     }
   }
 
-  static std::string Composed(const views::TAlgoOrderEntryFrame& frame) {
+  static std::string Composed(const views::entry::TAlgoOrderEntryFrame& frame) {
     host::TCustomClientOrder order;
     frame.SetOrderAlgo(order);
     return order.TextProperty(440);
@@ -103,8 +103,8 @@ class ReloadRandom : public TTerminalTest {
   }
 
   std::mt19937_64 FRandom{20240117};
-  std::shared_ptr<views::TAlgoOrderEntryFrame> FSource;
-  std::shared_ptr<views::TAlgoOrderEntryFrame> FTarget;
+  std::shared_ptr<views::entry::TAlgoOrderEntryFrame> FSource;
+  std::shared_ptr<views::entry::TAlgoOrderEntryFrame> FTarget;
 };
 
 TEST_F(ReloadRandom, ATextLoadedIntoAFormComposesToItself) {

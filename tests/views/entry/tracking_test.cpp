@@ -1,5 +1,5 @@
-// Following one symbol: what is subscribed and taken back, whom the frame tells of the symbol, and which news
-// of the market it listens to.
+// Following one symbol: what is subscribed and taken back, whom the frame tells of the symbol, and which
+// updates of the market it listens to.
 
 #include <optional>
 #include <string>
@@ -15,11 +15,11 @@ namespace {
 using TTexts = std::vector<std::string>;
 
 /// Stands before the host's subscriptions: notes what comes and goes, and keeps the item and the listener
-/// that came last, so that a test can give news that the host would not.
-class TNewsFeed final : public host::TCustomSubscribeAdapter {
+/// that came last, so that a test can send updates that the host would not.
+class TUpdateFeed final : public host::TCustomSubscribeAdapter {
  public:
-  TNewsFeed() : FHost(Install(this)) {}
-  ~TNewsFeed() override { Install(FHost); }
+  TUpdateFeed() : FHost(Install(this)) {}
+  ~TUpdateFeed() override { Install(FHost); }
 
   host::TMarketDataItem* Subscribe(std::string_view symbol, std::string_view dataSet, bool live) override {
     noted.push_back("subscribe " + std::string(symbol));
@@ -74,9 +74,9 @@ class TOtherItem final : public host::TMarketDataItem {
   std::string_view FieldText(std::int32_t field) const override { return field == 3 ? "10.25" : "50"; }
 };
 
-class TNews final : public host::TItemDictionary {
+class TUpdate final : public host::TItemDictionary {
  public:
-  explicit TNews(host::TMarketDataItem* item) : FItem(item) {}
+  explicit TUpdate(host::TMarketDataItem* item) : FItem(item) {}
   std::size_t Count() const override { return FItem == nullptr ? 0 : 1; }
   host::TMarketDataItem* Find(std::string_view symbol) const override {
     return FItem != nullptr && symbol == FItem->Symbol() ? FItem : nullptr;
@@ -99,7 +99,7 @@ class Tracking : public TTerminalTest {
     Leave(frame);
   }
 
-  TNewsFeed feed;
+  TUpdateFeed feed;
 };
 
 TEST_F(Tracking, SubscribesATypedSymbolToThePriceDataSet) {
@@ -202,7 +202,7 @@ TEST_F(Tracking, IgnoresNewsWithoutItsSymbol) {
   EnterSymbol(frame, "0005");
   SetItem("0005", 1, {});
   feed.tell(nullptr, nullptr);
-  const TNews empty(nullptr);
+  const TUpdate empty(nullptr);
   feed.tell(nullptr, &empty);
   Host().SetMarket("0005", 1, {}, terminal::TMarketNotice::OtherItems);
   EXPECT_EQ(Spin(frame, "edtQty").Value(), std::nullopt);
@@ -217,11 +217,11 @@ TEST_F(Tracking, GoesOverToTheItemThatTheNewsBring) {
   SetItem("0005", 0, {});
   EnterSymbol(frame, "0005");
   TOtherItem other;
-  const TNews news(&other);
-  feed.tell(nullptr, &news);
+  const TUpdate update(&other);
+  feed.tell(nullptr, &update);
   EXPECT_EQ(Spin(frame, "edtQty").Value(), 50);
   EXPECT_EQ(Spin(frame, "edtPrice").Value(), 10.25);
-  const TNews own(feed.item);
+  const TUpdate own(feed.item);
   feed.tell(nullptr, &own);
 }
 

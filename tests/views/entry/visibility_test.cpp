@@ -7,6 +7,7 @@
 #include <string_view>
 #include <vector>
 
+#include "tests/views/table_coverage.h"
 #include "tests/views/terminal_fixture.h"
 
 namespace algo::tests {
@@ -20,7 +21,7 @@ struct TShownRow {
 
 // Everything below the algorithms' columns that shows; what is not named must not.
 // clang-format off
-const std::array<TShownRow, 12> ShownRows{{
+const std::vector<TShownRow> ShownRows{
     {"TVOL",
      {"lgTrading", "lgVol", "lgWOrder", "lgAuc", "lgMinOrder", "lgStyle"},
      {"liSTime", "liETime", "liVolPct", "liWPx", "liOpening", "liClosing", "liMinOrdAmt", "liStyle"}},
@@ -56,7 +57,7 @@ const std::array<TShownRow, 12> ShownRows{{
      {"lgTrading", "lgSNIPER", "lgTime", "lgStyle"},
      {"liSTime", "liETime", "liMinQty", "liServePct", "liTimeOut", "liStyle"}},
     {"SHORT SELL", {"lgTrading", "lgRef"}, {"liSTime", "liETime", "liRef"}},
-}};
+};
 
 // All that stands in the algorithms' columns; the group and the item that never show are in it too.
 const std::set<std::string_view> AllGroups{
@@ -72,7 +73,7 @@ const std::set<std::string_view> AllItems{
 
 class VisibilityTest : public TTerminalTest {
  protected:
-  void ExpectShown(views::TAlgoOrderEntryFrame& frame, const TShownRow& row, std::string_view before) {
+  void ExpectShown(views::entry::TAlgoOrderEntryFrame& frame, const TShownRow& row, std::string_view before) {
     for (const std::string_view group : AllGroups) {
       EXPECT_EQ(Element(frame, group).Showing(), row.groups.contains(group))
           << group << " for " << row.code << " after " << before;
@@ -97,6 +98,12 @@ bool StandsBelow(const forms::TLayoutElement& element, std::string_view group) {
     if (parent->Name() == group) return true;
   }
   return false;
+}
+
+TEST_F(VisibilityTest, TheTableNamesEveryAlgorithm) {
+  std::vector<std::string_view> codes;
+  for (const TShownRow& row : ShownRows) codes.push_back(row.code);
+  ExpectNamesEveryAlgo(codes);
 }
 
 TEST_F(VisibilityTest, TheTablesNameEveryElementOfTheAlgorithmsColumns) {

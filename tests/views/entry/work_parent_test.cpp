@@ -10,7 +10,7 @@ using TMessageSource = std::vector<std::string>;
 
 class WorkParent : public TOrderDialogTest {
  protected:
-  TMessageSource ToldByWork(views::TAlgoOrderEntryFrame& frame) {
+  TMessageSource ToldByWork(views::entry::TAlgoOrderEntryFrame& frame) {
     Forget();
     Click(frame, "btnWork");
     EXPECT_EQ(LeftBehind().orders, 0U);
@@ -18,7 +18,7 @@ class WorkParent : public TOrderDialogTest {
   }
 };
 
-TEST_F(WorkParent, TellsOneComplaintAfterTheOtherInTheirOrder) {
+TEST_F(WorkParent, TellsOneFailureAfterTheOtherInTheirOrder) {
   auto& frame = Open();
   Combo(frame, "cmbOrderType").SetIndex(-1);
   EXPECT_EQ(ToldByWork(frame), TMessageSource{"Res_BuySellMiss"});

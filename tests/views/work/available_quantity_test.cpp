@@ -17,7 +17,7 @@ namespace algo::tests {
 namespace {
 
 using host::TCustomClientOrder;
-using views::GetWorkParentOrderAvailableQty;
+using views::work::GetWorkParentOrderAvailableQty;
 
 /// A store whose orders a test sets, and which may change while it is looked through.
 class TTestStore : public host::TCustomOrderAdapter {
@@ -62,7 +62,7 @@ class AvailableQuantity : public testing::Test {
   void OnLook(std::function<void(std::size_t)> look) { FStore->onLook = std::move(look); }
 
  private:
-  host::TNullHost FHost;
+  host::checks::TNullHost FHost;
   host::TInstalledService<TTestStore> FStore;
 };
 

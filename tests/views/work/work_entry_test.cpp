@@ -103,7 +103,7 @@ TEST_F(WorkEntry, HoldsAChildsPriceWithinItsParents) {
        {TRow{0, "10.6", 10.5}, {0, "10.4", 10.4}, {0, "-3", -3}, {1, "10.4", 10.5}, {1, "10.6", 10.6}}) {
     TCustomClientOrder parent = ParentOrder(row.side);
     Work(parent, [&](forms::TDialogForm&, TChangeFrame& frame) {
-      EXPECT_TRUE(frame.Check(views::TField::cbLockPrice).Checked());
+      EXPECT_TRUE(frame.Check(views::entry::TField::cbLockPrice).Checked());
       EXPECT_EQ(Spin(frame, "edtPrice").Min(), row.side == 1 ? 10.5 : -2000000000.0);
       EXPECT_EQ(Spin(frame, "edtPrice").Max(), row.side == 0 ? 10.5 : 2000000000.0);
       Type(frame, "edtPrice", row.typed);
@@ -149,7 +149,7 @@ TEST_F(WorkEntry, LimitsNoPriceForAParentWithoutOne) {
   for (const double price : {0.0, 0.00000005}) {
     TCustomClientOrder parent = ParentOrder(host::SideBuy, price);
     Work(parent, [&](forms::TDialogForm&, TChangeFrame& frame) {
-      EXPECT_FALSE(frame.Check(views::TField::cbLockPrice).Checked());
+      EXPECT_FALSE(frame.Check(views::entry::TField::cbLockPrice).Checked());
       EXPECT_EQ(Named(frame, "edtPrice").Text(), "");
       for (int i = 0; i < 2; ++i) {
         EXPECT_EQ(Spin(frame, "edtPrice").Min(), -2000000000.0);

@@ -167,7 +167,7 @@ TEST_F(WorkFrame, OpensEmptyForTheSettingZeroAlone) {
   };
   for (const TRow& row :
        {TRow{"0", false}, {"", true}, {"1", true}, {"00", true}, {" 0", true}, {"N", true}}) {
-    DropProvider();
+    DestroyProvider();
     Data().config["USER"]["WorkOrderQtyOut"] = row.setting;
     TCustomClientOrder parent = ParentOrder();
     Work(parent, [&](forms::TDialogForm&, TChangeFrame& frame) {

@@ -83,7 +83,7 @@ TEST_F(WorkHost, FitsItsDialogToTheAlgorithm) {
 }
 
 TEST_F(WorkHost, NeedsNoDialogAndNoListenerForItsSize) {
-  const auto frame = std::make_shared<views::TAlgoWorkOrderFrame>();
+  const auto frame = std::make_shared<views::work::TAlgoWorkOrderFrame>();
   EXPECT_EQ(Spin(*frame, "sedtPecentage").Max(), 100.0);
   EXPECT_EQ(Combo(*frame, "cbSide").Index(), 0);
   TCustomClientOrder parent = ParentOrder();
@@ -93,11 +93,11 @@ TEST_F(WorkHost, NeedsNoDialogAndNoListenerForItsSize) {
   Click(*frame, "btnSubmit");
   EXPECT_TRUE(Told().empty());
   EXPECT_EQ(parent.TextProperty(440), "TMLO:AlgoId=PEG,Closing=0,Closing=0;");
-  frame->LetGoOfOrder();
+  frame->ReleaseOrder();
   Click(*frame, "btnSubmit");
   EXPECT_TRUE(Told().empty());
   frame->Detach();
-  EXPECT_EQ(LeftBehind(), host::TLeftBehind());
+  EXPECT_EQ(LeftBehind(), host::checks::TLeftBehind());
 }
 
 TEST_F(WorkHost, TellsTheHostThatItsViewChanged) {

@@ -41,7 +41,7 @@ class WorkRules : public TOrderDialogTest {
   }
 };
 
-TEST_F(WorkRules, TellOneComplaintAfterTheOtherInTheirOrder) {
+TEST_F(WorkRules, TellOneFailureAfterTheOtherInTheirOrder) {
   CheckPrices(true);
   Data().texts["Res"] = {{"Res_QuantityInvalid", "Too much"}};
   TCustomClientOrder parent = ParentOrder();
@@ -55,16 +55,16 @@ TEST_F(WorkRules, TellOneComplaintAfterTheOtherInTheirOrder) {
     // Everything is wrong at first; each step mends what was told.
     Pick(frame, "cmbOrderType", "Res_Algo_OrderType_TVOL");
     Spin(frame, "edtVolPct").SetValue(80);
-    frame.Edit(views::TField::edtAccount).SetText("");
-    frame.Edit(views::TField::edtSymbol).SetText("");
+    frame.Edit(views::entry::TField::edtAccount).SetText("");
+    frame.Edit(views::entry::TField::edtSymbol).SetText("");
     Spin(frame, "edtQty").SetValue(0);
     Spin(frame, "edtPrice").SetValue(10.6);
     EXPECT_EQ(toldNow(), TMessageSource{"DC10013001"});
-    frame.Edit(views::TField::edtAccount).SetText("nobody's");
+    frame.Edit(views::entry::TField::edtAccount).SetText("nobody's");
     EXPECT_EQ(toldNow(), TMessageSource{"DC10013002"});
-    frame.Edit(views::TField::edtAccount).SetText("A2");
+    frame.Edit(views::entry::TField::edtAccount).SetText("A2");
     EXPECT_EQ(toldNow(), TMessageSource{"DC1000001"});
-    frame.Edit(views::TField::edtSymbol).SetText("0005");
+    frame.Edit(views::entry::TField::edtSymbol).SetText("0005");
     EXPECT_EQ(toldNow(), TMessageSource{"DC1004001"});
     Spin(frame, "edtQty").SetValue(-100);
     EXPECT_EQ(toldNow(), TMessageSource{"DC1004001"});
@@ -130,11 +130,11 @@ TEST_F(WorkRules, HoldAChildToItsParentsPrice) {
                           {true, true, 1, 0, 10.6, none},
                           {false, true, 0, 10.5, 10.6, none},
                           {false, true, 1, 10.5, 10.4, none}}) {
-    DropProvider();
+    DestroyProvider();
     CheckPrices(row.checked);
     TCustomClientOrder parent = ParentOrder(row.side, row.parent);
     const TMessageSource told = ToldOnSubmit(parent, [&](TChangeFrame& frame) {
-      frame.Check(views::TField::cbLockPrice).SetChecked(row.locked);
+      frame.Check(views::entry::TField::cbLockPrice).SetChecked(row.locked);
       Spin(frame, "edtPrice").SetValue(row.price);
     });
     EXPECT_EQ(told, row.told) << row.side << " " << row.price.value_or(0) << " " << row.locked;

@@ -16,7 +16,7 @@
 #include "plugin/host_contract/view_functions.h"
 #include "tests/terminal/host/sample_view.h"
 
-namespace algo::host::tests {
+namespace algo::host::checks::tests {
 namespace {
 
 TEST(NullHost, OffersEveryServiceWhileItLives) {
@@ -92,12 +92,12 @@ TEST(NullHost, EachSymbolHasAnEmptyItem) {
 
 TEST(NullHost, AModalFormIsCancelled) {
   const TNullHost host;
-  TSampleProvider provider;
+  host::tests::TSampleProvider provider;
   EXPECT_EQ(GetDialogForm(provider)->ShowModal(), 2);
 }
 
 TEST(NullHost, AFormThatShowsIsHeldUntilItHides) {
-  TSampleProvider provider;
+  host::tests::TSampleProvider provider;
   std::weak_ptr<forms::TDialogForm> hidden;
   std::weak_ptr<forms::TDialogForm> showing;
   {
@@ -118,4 +118,4 @@ TEST(NullHost, AFormThatShowsIsHeldUntilItHides) {
 }
 
 }  // namespace
-}  // namespace algo::host::tests
+}  // namespace algo::host::checks::tests

@@ -12,37 +12,20 @@
 #include "plugin/host_contract/order_action_manager.h"
 #include "plugin/host_contract/order_adapter.h"
 #include "plugin/host_contract/view_functions.h"
+#include "tests/plugin/host_contract/checks/objection.h"
 #include "tests/terminal/host/sample_view.h"
 
-namespace algo::host::tests {
+namespace algo::host::checks::tests {
 namespace {
 
-class EViolation : public EError {
- public:
-  using EError::EError;
-};
-
-/// What the strict host says about the call; empty when it lets it pass.
-template <class TCall>
-std::string Objection(TCall&& call) {
-  try {
-    call();
-  } catch (const EViolation& violation) {
-    return violation.what();
-  }
-  return {};
-}
-
 struct TStrictHostTest : testing::Test {
-  TStrictHostTest() {
-    strict.OnViolation([](const std::string& what) { throw EViolation(what); });
-  }
+  TStrictHostTest() { ThrowViolations(strict); }
 
   TNullHost null;
   TStrictHost strict;
   int owner = 0;
   int otherOwner = 0;
-  TSampleView view;
+  host::tests::TSampleView view;
   forms::TTextEdit& edit = view.Add<forms::TTextEdit>("edtAccount");
   forms::TSpinEdit& spin = view.Add<forms::TSpinEdit>("edtPrice");
 
@@ -211,7 +194,7 @@ TEST_F(TStrictHostTest, LookUpEditorsHaveTheirTwoArguments) {
 }
 
 TEST_F(TStrictHostTest, FormsCountAsLongAsSomebodyHoldsThem) {
-  TSampleProvider provider;
+  host::tests::TSampleProvider provider;
   auto form = GetDialogForm(provider);
   EXPECT_EQ(strict.LeftBehind().forms, 1U);
   form.reset();
@@ -240,4 +223,4 @@ TEST(StrictHostDeathTest, WithoutAHandlerAViolationEndsTheProgramWithOneLine) {
 }
 
 }  // namespace
-}  // namespace algo::host::tests
+}  // namespace algo::host::checks::tests

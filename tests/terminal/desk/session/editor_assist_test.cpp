@@ -17,12 +17,6 @@ struct TEditorAssistTest : testing::Test {
     auto& manager = host::TEditorManager::GetInstance();
     manager.RegisterAccountEditor(account, "", 0, 1);
     manager.RegisterSymbolEditor(symbol, "", 0, 1);
-    manager.RegisterPriceEditor(price, "");
-    manager.RegisterQuantityEditor(quantity, "");
-  }
-  void Serve(const char* code) {
-    host::TEditorManager::GetInstance().SetPriceSymbol(price, code);
-    host::TEditorManager::GetInstance().SetQuantitySymbol(quantity, code);
   }
   std::vector<std::string> Offered(const forms::TTextEdit& editor, const char* typed) {
     std::vector<std::string> offered;
@@ -40,8 +34,6 @@ struct TEditorAssistTest : testing::Test {
   forms::TTextEdit& account = frame.Add<forms::TTextEdit>("account");
   forms::TTextEdit& symbol = frame.Add<forms::TTextEdit>("symbol");
   forms::TTextEdit& note = frame.Add<forms::TTextEdit>("note");
-  forms::TSpinEdit& price = frame.Add<forms::TSpinEdit>("price");
-  forms::TSpinEdit& quantity = frame.Add<forms::TSpinEdit>("quantity");
 };
 
 TEST_F(TEditorAssistTest, AccountsThatBeginWithTheTextComeFirst) {
@@ -60,36 +52,6 @@ TEST_F(TEditorAssistTest, SymbolsAreFoundByCodeAndByName) {
 
 TEST_F(TEditorAssistTest, AnEditorThatNobodyRegisteredOffersNothing) {
   EXPECT_TRUE(Offered(note, "a").empty());
-}
-
-TEST_F(TEditorAssistTest, PricesStepByTheTicksOfTheirPlace) {
-  Serve("0005");
-  EXPECT_DOUBLE_EQ(assist.Stepped(price, 60.5, 1), 60.55);
-  EXPECT_DOUBLE_EQ(assist.Stepped(price, 60.5, -2), 60.4);
-  EXPECT_DOUBLE_EQ(assist.Stepped(price, 99.95, 2), 100.1);
-  EXPECT_DOUBLE_EQ(assist.Stepped(price, 60.52, 1), 60.55);
-  EXPECT_DOUBLE_EQ(assist.Stepped(price, 60.52, -1), 60.5);
-}
-
-TEST_F(TEditorAssistTest, AShownPriceStepsByTheTickTimesTheMultiplier) {
-  Serve("1050");
-  EXPECT_DOUBLE_EQ(assist.Stepped(price, 0.0605, 1), 0.06055);
-  EXPECT_DOUBLE_EQ(assist.Stepped(price, 0.0605, -1), 0.06045);
-}
-
-TEST_F(TEditorAssistTest, QuantitiesStepByTheLot) {
-  Serve("0005");
-  EXPECT_EQ(assist.Stepped(quantity, 0, 1), 400);
-  EXPECT_EQ(assist.Stepped(quantity, 500, 1), 800);
-  EXPECT_EQ(assist.Stepped(quantity, 500, -1), 400);
-  EXPECT_EQ(assist.Stepped(quantity, 800, -1), 400);
-}
-
-TEST_F(TEditorAssistTest, WithoutAnInstrumentTheEditorsOwnStepHolds) {
-  price.SetStep(0.5);
-  Serve("");
-  EXPECT_EQ(assist.Stepped(price, 60.1, 1), 60.6);
-  EXPECT_EQ(assist.Stepped(quantity, 7, 2), 9);
 }
 
 }  // namespace

@@ -1,0 +1,47 @@
+#pragma once
+
+// A view frame whose every entrance is a boundary: its handlers let no error out, are dead once the frame has
+// given everything back, and keep it in memory while they run.
+
+#include <functional>
+#include <memory>
+
+#include "plugin/host_contract/registration.h"
+#include "plugin/host_contract/view_frame.h"
+#include "views/boundary/boundary.h"
+
+namespace algo::views {
+
+class TGuardedFrame : public host::TViewFrame {
+ public:
+  using TViewFrame::TViewFrame;
+  ~TGuardedFrame() override;
+
+  /// Gives back what is registered, in the order of registering, and lets nothing in any more.
+  void Detach() override;
+
+ protected:
+  /// A handler for control events and host notifications: a boundary around the method.
+  template <class TFrameClass, class... TArguments>
+  std::function<void(TArguments...)> Handler(void (TFrameClass::*method)(TArguments...)) {
+    return [this, method, alive = std::weak_ptr<const bool>(FAlive)](TArguments... arguments) {
+      if (alive.expired()) return;
+      const auto held = KeepAlive();
+      AtBoundary([&] { (static_cast<TFrameClass*>(this)->*method)(arguments...); });
+    };
+  }
+
+  /// Whether the frame has given everything back and lives on only because a handler of it runs.
+  bool Detached() const { return !FAlive; }
+
+  void RunInput(const std::function<void()>& input) override;
+
+  /// What is registered with the host for the life of the frame.
+  host::TRegistrations& Registrations() { return FRegistrations; }
+
+ private:
+  std::shared_ptr<const bool> FAlive = std::make_shared<const bool>(true);
+  host::TRegistrations FRegistrations;
+};
+
+}  // namespace algo::views

@@ -1,0 +1,122 @@
+#include "views/entry/followed_symbol.h"
+
+#include <cmath>
+#include <limits>
+#include <optional>
+#include <utility>
+
+#include "plugin/host_contract/editor_manager.h"
+#include "views/entry/field_lists.h"
+#include "views/entry/price_multiplier.h"
+
+namespace algo::views::entry {
+
+namespace {
+
+host::TCustomSubscribeAdapter& Subscriptions() { return host::TCustomSubscribeAdapter::GetInstance(); }
+
+// The board lot as a whole number, halves to even; nothing when it is no number of 32 bits.
+std::optional<std::int32_t> WholeLot(double lot) {
+  const double rounded = std::nearbyint(lot);
+  const bool fits = std::isfinite(rounded) && rounded >= std::numeric_limits<std::int32_t>::min() &&
+                    rounded <= std::numeric_limits<std::int32_t>::max();
+  if (!fits) return std::nullopt;
+  return static_cast<std::int32_t>(rounded);
+}
+
+}  // namespace
+
+TFollowedSymbol::TFollowedSymbol(TEntryForm& form, host::TOwner owner,
+                                 host::TCustomSubscribeAdapter::TListener listener)
+    : FForm(form), FOwner(owner), FListener(std::move(listener)) {}
+
+void TFollowedSymbol::Unfollow() {
+  // Forgotten first: an item that the host refuses to take back must not serve the next symbol.
+  FCurrentSymbol.clear();
+  host::TMarketDataItem* item = std::exchange(FCurrentItem, nullptr);
+  if (item != nullptr) Subscriptions().Unsubscribe(item, FOwner);
+}
+
+void TFollowedSymbol::SetSymbol(std::string_view symbol) {
+  if (symbol != FCurrentSymbol) {
+    Unfollow();
+    if (!symbol.empty()) {
+      host::TMarketDataItem* item = Subscriptions().Subscribe(symbol, host::PriceDataSet, true);
+      if (item != nullptr) Subscriptions().AddListener(item, FListener, FOwner);
+      FCurrentItem = item;
+    }
+    // Last, so that a symbol at which the host failed can be entered again.
+    FCurrentSymbol = symbol;
+    auto& editor = FForm.Edit(TField::edtSymbol);
+    if (editor.Hint() != FCurrentSymbol) {
+      editor.SetText(FCurrentSymbol);
+      editor.Commit();
+    }
+  }
+  // Before the editors are told, where the host may fail: what the former symbol filled in is not this one's.
+  FPriceSet = false;
+  FQtySet = false;
+  TellEditors();
+  UpdateSymbolInfo();
+}
+
+void TFollowedSymbol::TellEditors() const {
+  auto& editors = host::TEditorManager::GetInstance();
+  editors.SetPriceSymbol(FForm.Spin(TField::edtPrice), FCurrentSymbol);
+  for (const TField field : QuantityEditors) editors.SetQuantitySymbol(FForm.Spin(field), FCurrentSymbol);
+  for (const TField field : AlgoPriceEditors) editors.SetPriceSymbol(FForm.Spin(field), FCurrentSymbol);
+}
+
+void TFollowedSymbol::SymbolUpdate(const host::TItemDictionary* data) {
+  if (data == nullptr || data->Count() == 0) return;
+  host::TMarketDataItem* item = data->Find(FCurrentSymbol);
+  if (item == nullptr) return;
+  FCurrentItem = item;
+  UpdateSymbolInfo();
+}
+
+void TFollowedSymbol::SpreadUpdate(const host::TSpreadDictionary* data) {
+  if (FCurrentItem == nullptr || data == nullptr) return;
+  if (data->Contains(FCurrentItem->FieldText(host::SpreadCodeField))) UpdateSymbolInfo();
+}
+
+void TFollowedSymbol::UpdateSymbolInfo() {
+  if (FCurrentItem == nullptr || FCurrentItem->State() == host::ItemEmpty || FCopying) return;
+  if (!FQtySet) PrefillQuantity();
+  if (!FPriceSet) PrefillPrice();
+}
+
+void TFollowedSymbol::PrefillQuantity() {
+  // Set first, so that an item without a lot size is not asked again until the symbol is entered anew.
+  FQtySet = true;
+  if (!FCurrentItem->HasField(host::LotSizeField)) return;
+  const auto lot = WholeLot(FCurrentItem->FieldNumber(host::LotSizeField));
+  if (!lot) return;
+  FLotSize = *lot;
+  auto& quantity = FForm.Spin(TField::edtQty);
+  if (quantity.Enabled()) quantity.SetValue(FLotSize);
+  for (const TField field : QuantityEditors) FForm.Spin(field).MoveCaretToEnd();
+}
+
+void TFollowedSymbol::PrefillPrice() {
+  FPriceSet = true;
+  auto& price = FForm.Spin(TField::edtPrice);
+  if (price.Enabled()) {
+    price.SetValue(PriceToShow(FCurrentItem->FieldNumber(host::PriceField), FCurrentItem));
+  }
+  MovePriceCarets();
+}
+
+void TFollowedSymbol::UpdatePrice() {
+  if (FCurrentItem == nullptr) return;
+  const bool live = FCurrentItem->State() == host::ItemLive;
+  const double price = live ? PriceToShow(FCurrentItem->FieldNumber(host::PriceField), FCurrentItem) : 0.0;
+  for (const TField field : AlgoPriceEditors) FForm.Spin(field).SetValue(price);
+  MovePriceCarets();
+}
+
+void TFollowedSymbol::MovePriceCarets() const {
+  for (const TField field : PriceEditors) FForm.Spin(field).MoveCaretToEnd();
+}
+
+}  // namespace algo::views::entry

@@ -1,0 +1,119 @@
+// What ties a frame to the host for its life: the host editors that serve its fields, the notifications that
+// it listens to, and the settings that it follows.
+
+#include <array>
+#include <utility>
+
+#include "plugin/host_contract/config_manager.h"
+#include "plugin/host_contract/editor_manager.h"
+#include "plugin/host_contract/listen.h"
+#include "plugin/host_contract/look_and_feel_service.h"
+#include "plugin/host_contract/user_app_profile.h"
+#include "text/number_text.h"
+#include "views/entry/entry_frame.h"
+#include "views/entry/field_lists.h"
+
+namespace algo::views::entry {
+
+namespace {
+
+constexpr std::string_view PlatformSection = "VANTORIX_PLATFORM";
+
+// The trailing arguments with which look-up editors are registered.
+constexpr std::int32_t LookUpMode = 0;
+constexpr std::int32_t LookUpOptions = 1;
+
+// A user of this kind without the flag works on the profile's account and sees no account field.
+constexpr std::int32_t SingleAccountKind = 2;
+
+// The scale settings up to which each caption size holds; the edges are not even on purpose.
+struct TScaleStep {
+  std::int32_t upTo;
+  std::int32_t fontSize;
+};
+constexpr std::array ScaleSteps{TScaleStep{100, 8}, TScaleStep{114, 10}, TScaleStep{125, 11},
+                                TScaleStep{134, 12}};
+constexpr std::int32_t LargestFontSize = 13;
+
+host::TEditorManager& Editors() { return host::TEditorManager::GetInstance(); }
+
+}  // namespace
+
+bool TAlgoOrderEntryFrame::WorksOnProfileAccount() const {
+  auto& profile = host::TCustomUserAppProfile::GetInstance();
+  return profile.UserKind() == SingleAccountKind && !profile.UserFlag();
+}
+
+void TAlgoOrderEntryFrame::RegisterQuantityEditor(forms::TSpinEdit& control) {
+  Registrations().Add(host::RegisterQuantityEditor(control, FGroupID));
+}
+
+void TAlgoOrderEntryFrame::RegisterWithHost() {
+  auto& all = Registrations();
+  all.Add(host::RegisterAccountEditor(Edit(TField::edtAccount), FGroupID, LookUpMode, LookUpOptions));
+  all.Add(host::RegisterSymbolEditor(Edit(TField::edtSymbol), FGroupID, LookUpMode, LookUpOptions));
+  all.Add(host::RegisterPriceEditor(Spin(TField::edtPrice), FGroupID));
+  for (const TField field : QuantityEditors) RegisterQuantityEditor(Spin(field));
+  for (const TField field : AlgoPriceEditors) all.Add(host::RegisterPriceEditor(Spin(field), FGroupID));
+  all.Add(host::ListenToSettings(Handler(&TAlgoOrderEntryFrame::ConfigUpdate), this));
+  all.Add(host::ListenToChannel(host::CopyPriceChannel, Handler(&TAlgoOrderEntryFrame::CopyPrice), this));
+  all.Add(host::ListenToChannel(host::CopyOrderChannel, Handler(&TAlgoOrderEntryFrame::CopyOrder), this));
+  all.Add(host::ListenToSpreads(Handler(&TAlgoOrderEntryFrame::SpreadUpdate), this));
+  all.Add(host::ListenToSkins(Handler(&TAlgoOrderEntryFrame::SkinChanged), this));
+  all.Add(host::TRegistration([this] { FSymbol.Unfollow(); }));
+}
+
+bool TAlgoOrderEntryFrame::SetGroupID(std::string_view id) {
+  return AtBoundary(false, [&] {
+    if (id == FGroupID) return true;
+    FGroupID = id;
+    if (!WorksOnProfileAccount()) {
+      Editors().RegisterAccountEditor(Edit(TField::edtAccount), FGroupID, LookUpMode, LookUpOptions);
+    }
+    Editors().RegisterPriceEditor(Spin(TField::edtPrice), FGroupID);
+    Editors().RegisterQuantityEditor(Spin(TField::edtQty), FGroupID);
+    Editors().RegisterSymbolEditor(Edit(TField::edtSymbol), FGroupID, LookUpMode, LookUpOptions);
+    for (const TField field : AlgoQuantityEditors) Editors().RegisterQuantityEditor(Spin(field), FGroupID);
+    for (const TField field : AlgoPriceEditors) Editors().RegisterPriceEditor(Spin(field), FGroupID);
+    TellEditorsOfGroup();
+    return true;
+  });
+}
+
+void TAlgoOrderEntryFrame::TellEditorsOfGroup() {
+  for (const TField field : PriceEditorsOfGroup) Editors().SetPriceSymbol(Spin(field), FSymbol.Symbol());
+  for (const TField field : QuantityEditorsOfGroup)
+    Editors().SetQuantitySymbol(Spin(field), FSymbol.Symbol());
+}
+
+void TAlgoOrderEntryFrame::SymbolUpdate(const void* /*sender*/, const host::TItemDictionary* data) {
+  FSymbol.SymbolUpdate(data);
+}
+
+void TAlgoOrderEntryFrame::SpreadUpdate(const void* /*sender*/, const host::TSpreadDictionary* data) {
+  FSymbol.SpreadUpdate(data);
+}
+
+void TAlgoOrderEntryFrame::SkinChanged(std::string_view name) { SetSkin(name); }
+
+void TAlgoOrderEntryFrame::ConfigUpdate() {
+  auto& config = host::TCustomConfigManager::GetInstance();
+  const std::string section = config.CurrentSection();
+  Check(TField::cbPopup).SetChecked(!config.ReadBoolean(section, "ConfirmationPlaceOrd"));
+  Check(TField::cbPopup).SetEnabled(!config.ReadBoolean(section, "ForceConfirmBox"));
+  Check(TField::cbClear).SetChecked(config.ReadBoolean(section, "ClearOrd"));
+  const auto mode = text::ParseWhole(config.ReadText(PlatformSection, "DefaultGroupDataMode"));
+  FGlobalValueUpdateMode = mode && std::in_range<std::int32_t>(*mode) ? static_cast<std::int32_t>(*mode) : -1;
+  UpdateScale();
+}
+
+void TAlgoOrderEntryFrame::UpdateScale() {
+  const std::int32_t scale =
+      host::TCustomConfigManager::GetInstance().ReadInteger(PlatformSection, "ScaleSize");
+  for (const TScaleStep& step : ScaleSteps) {
+    if (scale <= step.upTo) return FForm.KeyCaptions().SetSize(step.fontSize);
+  }
+  FForm.KeyCaptions().SetSize(LargestFontSize);
+}
+
+}  // namespace algo::views::entry
