@@ -213,7 +213,7 @@ TEST_F(TProgramTest, RefusesAFileThatIsNoModule) {
   Write(Path("text.so"), "no library");
   ExpectRefusal(Run({"--module", Path("text.so")}), 1, {"text.so"});
   const QString library = QCoreApplication::applicationDirPath() + "/../lib/libalgo_forms.so";
-  ExpectRefusal(Run({"--module", library}), 1, {"no module"});
+  ExpectRefusal(Run({"--module", library}), 1, {"not a module"});
 }
 
 TEST_F(TProgramTest, RefusesAModuleOfAnotherContract) {
