@@ -66,10 +66,11 @@ TDesk::TDesk(const TDeskOptions& options)
   FillSampleUser(FHost.Data());
   FillFirstSettings(FHost.Data());
   FillMarketLists(FHost.Data(), FTables);
-  FillStepGrids(FHost.Data(), FTables);
   FTexts.FillInto(FHost.Data());
   FStorage.LoadInto(FHost.Data(), FHost.Orders());
   if (options.prepare) options.prepare(FHost.Data());
+  // After that, since what is prepared may hold the grids of a desk that has gone.
+  FillStepGrids(FHost.Data(), FTables);
   FEngine.emplace(FHost, FMarket, options.seed);
   SetSkin(*FSkin);
   connect(&FEvents, &TDeskEvents::ModalFormShown, this, [this](const forms::TDialogForm& form) {
