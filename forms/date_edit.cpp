@@ -2,6 +2,7 @@
 
 #include <utility>
 
+#include "forms/toolkit.h"
 #include "text/text.h"
 
 namespace algo::forms {
@@ -21,8 +22,9 @@ void TDateEdit::SetValue(std::optional<text::TDateTime> value) {
 std::optional<text::TDateTime> TDateEdit::EnteredValue() const {
   if (!FTyped) return FValue;
   if (text::Trim(*FTyped).empty()) return std::nullopt;
-  const auto typed = text::ParseDateTime(*FTyped);
-  return typed ? typed : FValue;
+  if (const auto typed = text::ParseDateTime(*FTyped)) return typed;
+  if (const auto time = text::ParseTimeOfDay(*FTyped)) return TToolkit::Current().Today() + *time;
+  return FValue;
 }
 
 std::string TDateEdit::Text() const {

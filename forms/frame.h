@@ -67,6 +67,10 @@ class ALGO_SHARED TFrame : public std::enable_shared_from_this<TFrame> {
   /// Gives the control the focus, selects its text and keys in `text` in its place, character by character;
   /// characters that the editor does not accept are passed over. Line breaks are no characters of a text.
   TInputResult InputText(TControl& control, std::string_view text);
+  /// Gives the control the focus, selects its text and puts `text` in its place as a whole. A number editor
+  /// first takes blanks, tabs and line ends off both ends. A text with a character that the editor does not
+  /// accept is not taken at all.
+  TInputResult InputPaste(TControl& control, std::string_view text);
   /// The editor holds `text` now, as a renderer with a caret of its own has it: keys were put in or taken out
   /// anywhere. Unsuited, with no effect, when the editor does not accept the text.
   TInputResult InputTyped(TControl& control, std::string_view text);

@@ -45,7 +45,7 @@ TInputResult TFrame::InputText(TControl& control, std::string_view text) {
   if (editor == nullptr) return TInputResult::Unsuited;
   return Input(control, &TFrame::TakesChange, [&] {
     std::string typed;
-    for (const char key : text) {
+    for (const char key : editor->Normalized(text)) {
       if (editor->Accepts(typed, key)) typed += key;
     }
     editor->FAllSelected = false;
@@ -53,12 +53,26 @@ TInputResult TFrame::InputText(TControl& control, std::string_view text) {
   });
 }
 
+TInputResult TFrame::InputPaste(TControl& control, std::string_view text) {
+  auto* editor = dynamic_cast<TEditor*>(&control);
+  if (editor == nullptr) return TInputResult::Unsuited;
+  return Input(control, &TFrame::TakesChange, [&] {
+    std::string pasted = editor->Pasted(text);
+    // Half of a text would be another one.
+    if (!editor->AcceptsText(pasted)) return;
+    editor->FAllSelected = false;
+    editor->KeyIn(std::move(pasted));
+  });
+}
+
 TInputResult TFrame::InputTyped(TControl& control, std::string_view text) {
   auto* editor = dynamic_cast<TEditor*>(&control);
-  if (editor == nullptr || !editor->AcceptsText(text)) return TInputResult::Unsuited;
+  if (editor == nullptr) return TInputResult::Unsuited;
+  std::string typed = editor->Normalized(text);
+  if (!editor->AcceptsText(typed)) return TInputResult::Unsuited;
   return Input(control, &TFrame::TakesChange, [&] {
     editor->FAllSelected = false;
-    if (editor->Text() != text) editor->SetTyped(std::string(text));
+    if (editor->Text() != typed) editor->SetTyped(std::move(typed));
   });
 }
 

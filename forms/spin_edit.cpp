@@ -1,6 +1,7 @@
 #include "forms/spin_edit.h"
 
 #include <algorithm>
+#include <array>
 #include <cmath>
 #include <utility>
 
@@ -14,11 +15,43 @@ namespace {
 // Steps of a hundredth add up to numbers that a double shows with a tail of its own.
 constexpr std::int32_t StepDecimals = 7;
 
-std::string WithoutSeparators(std::string_view text) {
+constexpr bool IsDigit(char character) { return character >= '0' && character <= '9'; }
+
+// Whether every comma parts groups of exactly three digits before the point.
+bool GroupsAreWhole(std::string_view text) {
+  const std::string_view whole = text.substr(0, text.find('.'));
+  if (text.substr(whole.size()).find(',') != std::string_view::npos) return false;
+  std::size_t comma = whole.find(',');
+  if (comma == std::string_view::npos) return true;
+  const std::size_t sign = !whole.empty() && (whole[0] == '-' || whole[0] == '+') ? 1 : 0;
+  if (comma == sign || comma > sign + 3) return false;
+  for (; comma != std::string_view::npos; comma = whole.find(',', comma + 1)) {
+    const std::string_view group = whole.substr(comma + 1, 3);
+    const bool ends = comma + 4 >= whole.size() || whole[comma + 4] == ',';
+    if (group.size() != 3 || !std::all_of(group.begin(), group.end(), IsDigit) || !ends) return false;
+  }
+  return true;
+}
+
+// The number that a text with thousands separators shows. "60,5" is none, so that it never becomes 605.
+std::optional<double> NumberIn(std::string_view text) {
+  if (!GroupsAreWhole(text)) return std::nullopt;
   std::string digits(text);
   std::erase(digits, ',');
-  return digits;
+  return text::ParseNumber(digits);
 }
+
+// What other keyboards, tables and web pages give in place of the ASCII characters of a number.
+struct TLookalike {
+  std::string_view utf8;
+  char character;
+};
+constexpr std::array Lookalikes{
+    TLookalike{"\u2212", '-'}, TLookalike{"\uff10", '0'}, TLookalike{"\uff11", '1'},
+    TLookalike{"\uff12", '2'}, TLookalike{"\uff13", '3'}, TLookalike{"\uff14", '4'},
+    TLookalike{"\uff15", '5'}, TLookalike{"\uff16", '6'}, TLookalike{"\uff17", '7'},
+    TLookalike{"\uff18", '8'}, TLookalike{"\uff19", '9'}, TLookalike{"\uff0e", '.'},
+    TLookalike{"\uff0c", ','}};
 
 }  // namespace
 
@@ -43,10 +76,10 @@ std::string TSpinEdit::Text() const {
 }
 
 void TSpinEdit::SetText(std::string_view text) {
-  const std::string digits = WithoutSeparators(text::Trim(text));
-  if (digits.empty()) {
+  const std::string_view shown = text::Trim(text);
+  if (shown.empty()) {
     SetValue(std::nullopt);
-  } else if (const auto number = text::ParseNumber(digits)) {
+  } else if (const auto number = NumberIn(shown)) {
     SetValue(number);
   } else {
     SetValue(FValue);
@@ -73,6 +106,21 @@ void TSpinEdit::SetFormat(const TNumberFormat& format) {
   AppearanceChanged();
 }
 
+std::string TSpinEdit::Normalized(std::string_view text) const {
+  std::string ascii;
+  ascii.reserve(text.size());
+  while (!text.empty()) {
+    const auto* found = std::find_if(Lookalikes.begin(), Lookalikes.end(),
+                                     [text](const TLookalike& each) { return text.starts_with(each.utf8); });
+    const bool known = found != Lookalikes.end();
+    ascii += known ? found->character : text.front();
+    text.remove_prefix(known ? found->utf8.size() : 1);
+  }
+  return ascii;
+}
+
+std::string TSpinEdit::Pasted(std::string_view text) const { return Normalized(text::Trim(text)); }
+
 bool TSpinEdit::Accepts(std::string_view typed, char key) const {
   if ((key >= '0' && key <= '9') || key == ',') return true;
   if (key == '-') return typed.empty() && (!FMin || *FMin < 0);
@@ -87,16 +135,15 @@ void TSpinEdit::SetTyped(std::string typed) {
 
 std::optional<double> TSpinEdit::EnteredValue() const {
   if (!FTyped) return FValue;
-  const std::string digits = WithoutSeparators(*FTyped);
-  if (digits.empty()) return std::nullopt;
-  const auto typed = text::ParseNumber(digits);
+  if (FTyped->empty()) return std::nullopt;
+  const auto typed = NumberIn(*FTyped);
   return typed ? typed : FValue;
 }
 
 void TSpinEdit::TakeUp() {
   if (!FTyped) return;
-  const auto typed = text::ParseNumber(WithoutSeparators(*FTyped));
-  SetValue(typed ? HeldToBounds(*typed) : EnteredValue());
+  const auto typed = NumberIn(*FTyped);
+  SetValue(typed && FBendsTyped ? HeldToBounds(*typed) : EnteredValue());
 }
 
 double TSpinEdit::HeldToBounds(double value) const {

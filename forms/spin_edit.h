@@ -24,8 +24,9 @@ struct TNumberFormat {
 };
 
 /// A number or nothing. Values that the program assigns are taken as they are, so that one outside the bounds
-/// is shown and can be refused with a message; what the trader types is bent to the nearer bound. A number
-/// that is not finite counts as nothing.
+/// is shown and can be refused with a message; what the trader types is bent to the nearer bound unless
+/// SetBendsTyped says otherwise. Typed text that is no number, one with a comma anywhere but between groups
+/// of three digits for instance, gives the former value back. A number that is not finite counts as nothing.
 class ALGO_SHARED TSpinEdit : public TEditor {
  public:
   TSpinEdit(TFrame& frame, std::string name);
@@ -48,6 +49,11 @@ class ALGO_SHARED TSpinEdit : public TEditor {
   void SetMin(std::optional<double> min);
   void SetMax(std::optional<double> max);
 
+  /// Whether a typed number outside the bounds goes to the nearer one. An editor whose values are refused
+  /// with a message takes any number instead, so that a slip is seen and never sent as something else.
+  bool BendsTyped() const { return FBendsTyped; }
+  void SetBendsTyped(bool bends) { FBendsTyped = bends; }
+
   /// How wide a step is, on an editor without a grid.
   double Step() const { return FStep; }
   void SetStep(double step);
@@ -62,6 +68,8 @@ class ALGO_SHARED TSpinEdit : public TEditor {
   bool Accepts(std::string_view typed, char key) const override;
   void SetTyped(std::string typed) override;
   void TakeUp() override;
+  std::string Normalized(std::string_view text) const override;
+  std::string Pasted(std::string_view text) const override;
 
  private:
   friend class TFrame;
@@ -78,6 +86,7 @@ class ALGO_SHARED TSpinEdit : public TEditor {
   std::optional<std::string> FTyped;
   TNumberFormat FFormat;
   double FStep = 1;
+  bool FBendsTyped = true;
   TStepGrid FStepGrid;
 };
 

@@ -1,6 +1,7 @@
 // The module's entry: the one symbol that a host looks up after loading it.
 
 #include <memory>
+#include <utility>
 
 #include "plugin/host_contract/class_registry.h"
 #include "plugin/host_contract/module_entry.h"
@@ -13,6 +14,7 @@ namespace algo::plugin {
 namespace {
 
 int starts = 0;
+bool registered = false;  ///< by this copy of the module
 
 std::unique_ptr<host::TIBaseView> MakeProvider(const void* owner) {
   return views::AtBoundary(
@@ -22,12 +24,13 @@ std::unique_ptr<host::TIBaseView> MakeProvider(const void* owner) {
 
 void Start() {
   if (starts++ > 0) return;
-  host::TClassRegistry::GetInstance().Register(ProviderClassName, MakeProvider);
+  registered = host::TClassRegistry::GetInstance().Register(ProviderClassName, MakeProvider);
 }
 
 void Stop() {
   if (starts == 0 || --starts > 0) return;
-  host::TClassRegistry::GetInstance().Unregister(ProviderClassName);
+  // Another copy may have been first; what it registered is its own.
+  if (std::exchange(registered, false)) host::TClassRegistry::GetInstance().Unregister(ProviderClassName);
 }
 
 bool SetOrderAlgo(host::TViewFrame& frame, host::TCustomClientOrder& order) {

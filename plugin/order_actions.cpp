@@ -1,5 +1,7 @@
 // The order actions: which form answers which, and what happens to the order when the trader says OK.
 
+#include <algorithm>
+#include <cstdint>
 #include <memory>
 #include <optional>
 #include <string_view>
@@ -10,6 +12,7 @@
 #include "plugin/host_contract/view_functions.h"
 #include "plugin/view_provider.h"
 #include "views/boundary/boundary.h"
+#include "views/boundary/flag_scope.h"
 
 namespace algo::plugin {
 
@@ -19,52 +22,86 @@ bool TakeAction(host::TCustomClientOrder& order, host::TOrderAction action) {
   return host::TCustomOrderActionManager::GetInstance().TakeAction(nullptr, &order, action, 1);
 }
 
+/// Shows the form until the trader has answered; true for OK.
+bool SaysOk(forms::TDialogForm& form) {
+  const views::TNestedLoopScope modalLoop;
+  return form.ShowModal() == forms::ModalOk;
+}
+
 void FitToFrame(forms::TDialogForm& form, const host::TViewFrame& frame) {
   form.SetClientSize({static_cast<double>(frame.GetWidth()), static_cast<double>(frame.GetHeight())});
 }
 
-/// What the trader says in the form; it is hidden afterwards. True for OK.
-bool SaysOk(forms::TDialogForm& form, const host::TViewFrame& frame, std::string_view captionId) {
-  struct THide {
-    forms::TDialogForm& form;
-    ~THide() { form.Hide(); }
-  };
-  const THide hide{form};
-  form.SetCaption(host::ResourceText(captionId));
-  FitToFrame(form, frame);
-  const views::TNestedLoopScope modalLoop;
-  return form.ShowModal() == forms::ModalOk;
-}
+/// When the form of an order action gets its caption.
+enum class TCaptioned : std::uint8_t { BeforeLoading, AfterLoading };
 
 /// One order action that the trader is asked about in a dialog.
 template <class TFrame>
 struct TQuestion {
   void (TFrame::*load)(host::TCustomClientOrder*);
   std::string_view captionId;
+  TCaptioned captioned;
   host::TOrderAction action;
 };
 
-/// Loads the order into the frame, asks the trader, and takes the action when the answer is OK. Gives what
-/// the host says to it; nothing when no action was taken, because of another answer or because the form shows
-/// already.
+/// Hides the form for certain, also where something else failed before.
+class THideScope {
+ public:
+  explicit THideScope(std::shared_ptr<forms::TDialogForm> form) : FForm(std::move(form)) {}
+  ~THideScope() {
+    if (!FForm) return;
+    try {
+      FForm->Hide();
+    } catch (...) {  // NOLINT(bugprone-empty-catch): the failure that led here is the one to report
+    }
+  }
+  THideScope(const THideScope&) = delete;
+  THideScope& operator=(const THideScope&) = delete;
+
+  void Hide() { std::exchange(FForm, nullptr)->Hide(); }
+
+ private:
+  std::shared_ptr<forms::TDialogForm> FForm;
+};
+
+/// Loads the order into the frame, asks the trader, and takes the action when the answer is OK. Returns what
+/// the host says to it; nothing when no action was taken, because of another answer or because the dialog is
+/// busy with another order.
 template <class TFrame>
-std::optional<bool> Ask(const TQuestion<TFrame>& question, const THostedFrame<TFrame>& dialog,
+std::optional<bool> Ask(const TQuestion<TFrame>& question, const std::shared_ptr<TKeptDialog<TFrame>>& kept,
                         host::TCustomClientOrder& order) {
-  const auto [form, frame] = dialog;  // copies, because the provider may go meanwhile
-  if (form->Showing()) return std::nullopt;
+  // Held here, because the provider may go meanwhile.
+  const auto dialog = kept;
+  const auto form = dialog->form;
+  const auto frame = dialog->frame;
+  if (dialog->busy || form->Showing()) return std::nullopt;
+  const views::TFlagScope busy(dialog->busy);
   const views::change::TOrderLoad load(*frame);
+  if (const auto language = std::exchange(dialog->language, std::nullopt)) frame->SetLanguage(*language);
+  if (question.captioned == TCaptioned::BeforeLoading)
+    form->SetCaption(host::ResourceText(question.captionId));
   (*frame.*question.load)(&order);
-  if (!SaysOk(*form, *frame, question.captionId)) return std::nullopt;
-  return TakeAction(order, question.action);
+  if (question.captioned == TCaptioned::AfterLoading)
+    form->SetCaption(host::ResourceText(question.captionId));
+  FitToFrame(*form, *frame);
+  if (dialog->gone) return std::nullopt;
+  THideScope shown(form);
+  std::optional<bool> answer;
+  if (SaysOk(*form)) answer = TakeAction(order, question.action);
+  shown.Hide();
+  return answer;
 }
 
 using TChangeFrame = views::change::TAlgoOrderChangeFrame;
 using TWorkFrame = views::work::TAlgoWorkOrderFrame;
 using enum host::TOrderAction;
 
-constexpr TQuestion<TChangeFrame> AskNew{&TChangeFrame::AddOrder, "Res_Conf_Caption", New};
-constexpr TQuestion<TChangeFrame> AskChange{&TChangeFrame::ChangeOrder, "Res_Conf_ChangeOrder", Change};
-constexpr TQuestion<TWorkFrame> AskWork{&TWorkFrame::WorkOrder, "Res_Conf_WorkOrder", Work};
+constexpr TQuestion<TChangeFrame> AskNew{&TChangeFrame::AddOrder, "Res_Conf_Caption",
+                                         TCaptioned::AfterLoading, New};
+constexpr TQuestion<TChangeFrame> AskChange{&TChangeFrame::ChangeOrder, "Res_Conf_ChangeOrder",
+                                            TCaptioned::AfterLoading, Change};
+constexpr TQuestion<TWorkFrame> AskWork{&TWorkFrame::WorkOrder, "Res_Conf_WorkOrder",
+                                        TCaptioned::BeforeLoading, Work};
 
 }  // namespace
 
@@ -74,6 +111,8 @@ void TIAlgoEntryOrder::TakeOrderAction(const void* /*sender*/, host::TChannelRec
   auto* order = dynamic_cast<host::TCustomClientOrder*>(action->order);
   // Orders from elsewhere are left to whoever else listens.
   if (order == nullptr || order->NamedText(host::OriginalProperty) != views::entry::AlgoEntryOrigin) return;
+  // A dialog that is still being made can take no order.
+  if (*FMakingDialog) return;
   switch (static_cast<host::TOrderAction>(action->action)) {
     case New:
       return AddOrder(*order, *action);
@@ -104,21 +143,33 @@ void TIAlgoEntryOrder::AddWorkOrder(host::TCustomClientOrder& order,
 }
 
 void TIAlgoEntryOrder::CreateDefaultView() {
-  if (FChange.form) return;
-  THostedFrame<TChangeFrame> made{nullptr, std::make_shared<TChangeFrame>()};
-  made.frame->SetShownModally(true);
-  made.form = host::GetDialogForm(*this);
-  made.form->SetFrame(made.frame);
-  AddView(made.frame);
+  if (FChange) return;
+  const auto making = FMakingDialog;
+  const views::TFlagScope scope(*making);
+  auto made = std::make_shared<TKeptDialog<TChangeFrame>>();
+  made->frame = std::make_shared<TChangeFrame>();
+  made->frame->SetShownModally(true);
+  AddView(made->frame);
+  try {
+    made->form = host::GetDialogForm(*this);
+    made->form->SetFrame(made->frame);
+  } catch (...) {
+    TIBaseView::CloseInstance(host::HandleOf(*made->frame));
+    throw;
+  }
   FChange = std::move(made);
 }
 
 void TIAlgoEntryOrder::CreateDefaultWorkView() {
-  if (FWork.form) return;
-  THostedFrame<TWorkFrame> made{host::GetDialogForm(*this), std::make_shared<TWorkFrame>()};
-  made.form->SetFrame(made.frame);
-  made.frame->SetOnAlgoTypeChange([this] { WorkOrderAlgoTypeChange(); });
-  AddView(made.frame);
+  if (FWork) return;
+  const auto making = FMakingDialog;
+  const views::TFlagScope scope(*making);
+  auto made = std::make_shared<TKeptDialog<TWorkFrame>>();
+  made->form = host::GetDialogForm(*this);
+  made->frame = std::make_shared<TWorkFrame>();
+  made->form->SetFrame(made->frame);
+  made->frame->SetOnAlgoTypeChange([this] { WorkOrderAlgoTypeChange(); });
+  AddView(made->frame);
   FWork = std::move(made);
 }
 
@@ -141,16 +192,27 @@ void TIAlgoEntryOrder::CreateNonShowModelView(host::TCustomClientOrder& order) {
   made.form->SetStaysOnTop(true);
   const auto form = made.form;
   FOpenChanges.insert_or_assign(key, std::move(made));
-  form->Show();
+  try {
+    form->Show();
+  } catch (...) {
+    // An order whose form does not show can be changed again.
+    FOpenChanges.erase(key);
+    throw;
+  }
 }
 
 void TIAlgoEntryOrder::OnCloseView(forms::TDialogForm& sender, forms::TCloseAction& action) {
-  std::erase_if(FOpenChanges, [&sender](const auto& open) { return open.second.form.get() == &sender; });
   action = forms::TCloseAction::Free;
+  const auto open = std::find_if(FOpenChanges.begin(), FOpenChanges.end(),
+                                 [&sender](const auto& each) { return each.second.form.get() == &sender; });
+  if (open == FOpenChanges.end()) return;
+  // Out of the list before the host is called, which may ask for the same order.
+  const auto closed = FOpenChanges.extract(open);
+  closed.mapped().frame->Detach();
 }
 
 void TIAlgoEntryOrder::WorkOrderAlgoTypeChange() {
-  if (FWork.form) FitToFrame(*FWork.form, *FWork.frame);
+  if (FWork && FWork->form) FitToFrame(*FWork->form, *FWork->frame);
 }
 
 }  // namespace algo::plugin

@@ -41,13 +41,19 @@ TIAlgoEntryOrder::TIAlgoEntryOrder(const void* owner) : TIBaseView(owner) {
 
 TIAlgoEntryOrder::~TIAlgoEntryOrder() {
   views::AtBoundary([this] { FListening.Release(); });
-  FChange.form.reset();
+  if (FChange) {
+    FChange->gone = true;
+    FChange->form.reset();
+  }
   while (!FOpenChanges.empty()) {
     // Out of the list first: closing calls back and looks for the form there.
     const auto open = FOpenChanges.extract(FOpenChanges.begin());
     views::AtBoundary([&] { open.mapped().form->Close(); });
   }
-  FWork.form.reset();
+  if (FWork) {
+    FWork->gone = true;
+    FWork->form.reset();
+  }
   views::AtBoundary([this] { CloseAllInstances(); });
 }
 
@@ -102,6 +108,8 @@ void TIAlgoEntryOrder::CloseInstance(host::TInstanceHandle instance) {
 bool TIAlgoEntryOrder::SetLanguage(host::TInstanceHandle instance, std::int32_t language) {
   return views::AtBoundary(false, [&] {
     TIBaseView::SetLanguage(instance, language);
+    if (FChange) FChange->language = language;
+    if (FWork) FWork->language = language;
     // A copy: what the frames set off may close a form.
     for (const auto& [key, open] : std::map(FOpenChanges)) {
       open.frame->SetLanguage(language);

@@ -7,6 +7,7 @@
 #include <cstdint>
 #include <map>
 #include <memory>
+#include <optional>
 #include <string>
 #include <string_view>
 
@@ -26,6 +27,14 @@ template <class TFrame>
 struct THostedFrame {
   std::shared_ptr<forms::TDialogForm> form;
   std::shared_ptr<TFrame> frame;
+};
+
+/// One that is kept for the next order.
+template <class TFrame>
+struct TKeptDialog : THostedFrame<TFrame> {
+  bool busy = false;                          ///< from the loading of an order until the form is hidden
+  bool gone = false;                          ///< the provider is
+  std::optional<std::int32_t> language = {};  ///< to be taken up before the next order is loaded
 };
 
 class TIAlgoEntryOrder : public host::TIBaseView {
@@ -59,10 +68,13 @@ class TIAlgoEntryOrder : public host::TIBaseView {
   void OnCloseView(forms::TDialogForm& sender, forms::TCloseAction& action);
   void WorkOrderAlgoTypeChange();
 
-  THostedFrame<views::change::TAlgoOrderChangeFrame> FChange;
-  THostedFrame<views::work::TAlgoWorkOrderFrame> FWork;
+  // Shared, so that an action that runs can see that the provider went.
+  std::shared_ptr<TKeptDialog<views::change::TAlgoOrderChangeFrame>> FChange;
+  std::shared_ptr<TKeptDialog<views::work::TAlgoWorkOrderFrame>> FWork;
   std::map<std::string, THostedFrame<views::change::TAlgoOrderChangeFrame>>
       FOpenChanges;  ///< non-modal forms by order key
+  /// Up while a dialog is made, which calls into the host; shared, because the provider may go meanwhile.
+  std::shared_ptr<bool> FMakingDialog = std::make_shared<bool>(false);
   bool FShowChangeModally = true;
   host::TRegistration FListening;  ///< to the order actions
 };

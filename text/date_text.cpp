@@ -18,6 +18,10 @@ using std::chrono::seconds;
 constexpr std::string_view ShownForm = "YYYY-MM-DD hh:mm:ss";
 constexpr std::string_view ShownDateForm = "YYYY-MM-DD";
 constexpr std::string_view CompactForm = "YYYYMMDD-hh:mm:ss";
+constexpr std::string_view CompactBlankForm = "YYYYMMDD hh:mm:ss";
+constexpr std::string_view CompactDateForm = "YYYYMMDD";
+constexpr std::string_view TimeForm = "hh:mm:ss";
+constexpr std::string_view ShortTimeForm = "hh:mm";
 static_assert(CompactForm.size() == CompactDateTimeLength);
 
 struct TParts {
@@ -117,7 +121,22 @@ std::size_t WriteCompactDateTime(TDateTime value, char* out) {
 }
 
 std::optional<TDateTime> ParseCompactDateTime(std::string_view text) {
-  return ToDateTime(ReadForm(text, CompactForm));
+  while (text.ends_with(' ')) text.remove_suffix(1);
+  for (const std::string_view form : {CompactForm, CompactBlankForm, CompactDateForm}) {
+    if (const auto time = ToDateTime(ReadForm(text, form))) return time;
+  }
+  return std::nullopt;
+}
+
+std::optional<seconds> ParseTimeOfDay(std::string_view text) {
+  text = Trim(text);
+  for (const std::string_view form : {TimeForm, ShortTimeForm}) {
+    const auto parts = ReadForm(text, form);
+    if (parts && parts->hour < 24 && parts->minute < 60 && parts->second < 60) {
+      return hours(parts->hour) + minutes(parts->minute) + seconds(parts->second);
+    }
+  }
+  return std::nullopt;
 }
 
 }  // namespace algo::text

@@ -81,6 +81,17 @@ std::optional<std::int64_t> ParseWhole(std::string_view text) {
   return value;
 }
 
+double RoundToDigits(double value, int digits) {
+  if (!std::isfinite(value)) return value;
+  std::array<char, 32> text;
+  const auto written =
+      std::to_chars(text.data(), text.data() + text.size(), value, std::chars_format::scientific, digits - 1);
+  double rounded = value;
+  std::from_chars(text.data(), written.ptr, rounded);
+  // The largest numbers can round up beyond themselves.
+  return std::isfinite(rounded) ? rounded : value;
+}
+
 std::int64_t TruncateToWhole(double value) {
   constexpr double Beyond = 9223372036854775808.0;  // 2 to the 63rd, the first that does not fit
   if (!(value >= -Beyond && value < Beyond)) return 0;

@@ -36,6 +36,10 @@ double NumberOr(std::string_view text, double fallback);
 /// other text and for a number that does not fit 64 bits.
 std::optional<std::int64_t> ParseWhole(std::string_view text);
 
+/// The number rounded to that many significant decimal digits, 17 at most; numbers that are not finite stay
+/// as they are.
+double RoundToDigits(double value, int digits);
+
 /// The number truncated towards zero; 0 when it is not finite or does not fit 64 bits.
 std::int64_t TruncateToWhole(double value);
 

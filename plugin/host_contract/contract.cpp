@@ -107,14 +107,20 @@ void TOrderReturner::operator()(TCustomClientOrder* order) const noexcept {
   }
 }
 
-TOwnedOrder MakeClientOrder() { return TOwnedOrder(TCustomOrderAdapter::GetInstance().NewClientOrder()); }
+TOwnedOrder MakeClientOrder() {
+  TOwnedOrder order(TCustomOrderAdapter::GetInstance().NewClientOrder());
+  if (!order) throw EError("The host gave no order");
+  return order;
+}
 
 std::string ResourceText(std::string_view id) {
   return TCustomLanguageManager::GetInstance().GetText(Const_ResourceStringTag, id, 3, 0, 0);
 }
 
 std::shared_ptr<forms::TDialogForm> GetDialogForm(TIBaseView& provider) {
-  return TCustomViewService::GetInstance().MakeDialogForm(provider);
+  auto form = TCustomViewService::GetInstance().MakeDialogForm(provider);
+  if (!form) throw EError("The host gave no dialog form");
+  return form;
 }
 
 void SendViewNotify(TViewFrame& view, std::int32_t code) {

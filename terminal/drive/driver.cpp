@@ -5,7 +5,6 @@
 #include <string>
 
 #include "terminal/drive/session.h"
-#include "text/text.h"
 
 namespace algo::terminal::drive {
 
@@ -25,6 +24,9 @@ TCommandJson ParseCommand(std::string_view line) {
     if (depth > DeepestNesting) throw ECommandError("the line is nested too deeply");
     return true;
   };
+  // The parser takes a zero byte for the end of what it is given.
+  if (line.find('\0') != std::string_view::npos)
+    throw ECommandError("the line is not JSON: it holds a zero byte");
   TCommandJson command;
   try {
     command = TCommandJson::parse(line, checkDepth);
@@ -38,7 +40,8 @@ TCommandJson ParseCommand(std::string_view line) {
 void Drive(TSession& session, std::istream& script, std::ostream& answers) {
   std::string line;
   while (std::getline(script, line)) {
-    if (text::Trim(line).empty()) continue;
+    // A line of anything but blanks gets an answer: whoever sent it waits for one.
+    if (line.find_first_not_of(" \t\r") == std::string::npos) continue;
     TAnswerJson answer;
     try {
       answer = session.Execute(ParseCommand(line));

@@ -5,6 +5,8 @@
 #include <charconv>
 #include <utility>
 
+#include "text/date_text.h"
+
 namespace algo::terminal::drive {
 
 namespace {
@@ -98,6 +100,16 @@ void Merge(std::string_view symbol, const TCommandJson& value, host::TInstrument
   into.symbol = symbol;
 }
 
+void Merge(std::string_view name, const TCommandJson& value, std::chrono::local_days& into) {
+  std::string text;
+  Merge(name, value, text);
+  const auto day = text::ParseDateTime(text);
+  if (!day || text.size() != std::string_view("YYYY-MM-DD").size()) {
+    throw ECommandError("'" + std::string(name) + "' must be a day like \"2024-01-15\"");
+  }
+  into = std::chrono::floor<std::chrono::days>(*day);
+}
+
 void KeyOf(const std::string& name, std::string& key) { key = name; }
 
 void KeyOf(const std::string& name, std::int32_t& key) { key = WholeNumber(name, 10); }
@@ -138,6 +150,7 @@ void MergeHostData(const TCommandJson& changes, THostData& data) {
       TMember<THostData>{"instruments", MergeMember<&THostData::instruments>},
       TMember<THostData>{"colors", MergeMember<&THostData::colors>},
       TMember<THostData>{"accept", MergeMember<&THostData::accept>},
+      TMember<THostData>{"today", MergeMember<&THostData::today>},
       TMember<THostData>{"throw", MergeMember<&THostData::faults>},
   };
   THostData changed = data;

@@ -18,6 +18,13 @@ void Type(TSession& session, const TArguments& arguments, TAnswerJson& /*answer*
   CheckTaken(CallModule([&] { return session.Input().Type(frame, control, text); }), control);
 }
 
+void Paste(TSession& session, const TArguments& arguments, TAnswerJson& /*answer*/) {
+  const auto frame = FrameOf(session, arguments);
+  auto& control = ControlOf(*frame, arguments);
+  const auto& text = arguments.Text("text");
+  CheckTaken(CallModule([&] { return session.Input().Paste(frame, control, text); }), control);
+}
+
 void Leave(TSession& session, const TArguments& arguments, TAnswerJson& /*answer*/) {
   const auto frame = FrameOf(session, arguments);
   CallModule([&] { session.Input().Leave(frame); });
@@ -65,13 +72,9 @@ void CloseForm(TSession& session, const TArguments& arguments, TAnswerJson& /*an
 }
 
 constexpr std::array Commands{
-    TCommand{"type", Type},
-    TCommand{"leave", Leave},
-    TCommand{"enter", Enter},
-    TCommand{"click", Click},
-    TCommand{"pick", Pick},
-    TCommand{"dismiss", Dismiss},
-    TCommand{"close_form", CloseForm},
+    TCommand{"type", Type},       TCommand{"paste", Paste},          TCommand{"leave", Leave},
+    TCommand{"enter", Enter},     TCommand{"click", Click},          TCommand{"pick", Pick},
+    TCommand{"dismiss", Dismiss}, TCommand{"close_form", CloseForm},
 };
 
 }  // namespace

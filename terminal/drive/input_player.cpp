@@ -10,6 +10,11 @@ TInputResult TInputPlayer::Type(const TFramePointer& frame, forms::TControl& con
   return frame->InputText(control, text);
 }
 
+TInputResult TInputPlayer::Paste(const TFramePointer& frame, forms::TControl& control,
+                                 std::string_view text) {
+  return frame->InputPaste(control, text);
+}
+
 TInputResult TInputPlayer::Enter(const TFramePointer& frame, forms::TControl& control) {
   return frame->InputEnter(control);
 }

@@ -22,6 +22,8 @@ class TInputPlayer {
   // returns.
   virtual forms::TInputResult Type(const TFramePointer& frame, forms::TControl& control,
                                    std::string_view text);
+  virtual forms::TInputResult Paste(const TFramePointer& frame, forms::TControl& control,
+                                    std::string_view text);
   virtual forms::TInputResult Enter(const TFramePointer& frame, forms::TControl& control);
   virtual forms::TInputResult Click(const TFramePointer& frame, forms::TControl& control);
   virtual forms::TInputResult Pick(const TFramePointer& frame, forms::TControl& control, std::int32_t index);

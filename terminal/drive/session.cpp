@@ -29,7 +29,8 @@ TSession::TSession(std::string moduleFile, TInputPlayer& input)
       FInput(input),
       FDialogs(FLabels, FRunning, input, [this](const TCommandJson& command) { return Execute(command); }),
       FLog(FLabels, FRunning, FDialogs),
-      FHost(FLog) {
+      FHost(FLog),
+      FToolkit(FHost.Data()) {
   // The module could catch a mere exception and go on, so the violation is recorded outside its reach.
   FStrict.OnViolation([this](const std::string& what) {
     auto& violation = FRunning.Current().violation;

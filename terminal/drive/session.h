@@ -5,6 +5,7 @@
 #include <optional>
 #include <string>
 
+#include "forms/toolkit.h"
 #include "plugin/host_contract/checks/strict_host.h"
 #include "terminal/drive/command_stack.h"
 #include "terminal/drive/dialogs.h"
@@ -48,6 +49,17 @@ class TSession {
   bool ChangesAreModal() const { return FChangesAreModal; }
 
  private:
+  /// Figures that are the same everywhere, and the day that the script says.
+  class TToolkit final : public forms::TToolkit {
+   public:
+    explicit TToolkit(const THostData& data) : FData(data) { Install(this); }
+    ~TToolkit() override { Install(nullptr); }
+    std::chrono::local_days Today() const override { return FData.today; }
+
+   private:
+    const THostData& FData;
+  };
+
   std::string FModuleFile;
   TInputPlayer& FInput;
   TFrameLabels FLabels;
@@ -55,6 +67,7 @@ class TSession {
   TDialogs FDialogs;
   TEventLog FLog;
   TMemoryHost FHost;
+  TToolkit FToolkit;
   host::checks::TStrictHost FStrict;
   std::optional<TLoadedModule> FModule;
   bool FChangesAreModal = true;

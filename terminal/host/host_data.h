@@ -3,6 +3,7 @@
 // What the host knows, as plain values. Whoever drives the host may edit them at any time; the services read
 // them afresh at each call.
 
+#include <chrono>
 #include <cstdint>
 #include <functional>
 #include <map>
@@ -51,6 +52,8 @@ struct THostData {
   bool worksOrders = false;
   TStepGridOf priceGrid;     ///< without it, price editors step as they are set up
   TStepGridOf quantityGrid;  ///< the same for quantity editors
+  /// The toolkit's day, where the host has no clock of its own.
+  std::chrono::local_days today{std::chrono::year(2024) / 1 / 15};
   TFaults faults;
 
   /// The setting with that key; empty if there is none.

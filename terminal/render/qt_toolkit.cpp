@@ -1,6 +1,7 @@
 #include "terminal/render/qt_toolkit.h"
 
 #include <QApplication>
+#include <QDate>
 #include <QFontMetricsF>
 
 #include "terminal/render/qt_text.h"
@@ -22,6 +23,12 @@ forms::TSize TQtToolkit::MeasureText(std::string_view text, const forms::TFont& 
   const QFontMetricsF metrics(DesktopFont({.size = DefaultSize, .bold = font.bold}));
   const double scale = static_cast<double>(font.size) / DefaultSize;
   return {metrics.horizontalAdvance(ToQt(text)) * scale, metrics.height() * scale};
+}
+
+std::chrono::local_days TQtToolkit::Today() const {
+  const QDate today = QDate::currentDate();
+  return std::chrono::local_days{std::chrono::year(today.year()) / static_cast<unsigned>(today.month()) /
+                                 static_cast<unsigned>(today.day())};
 }
 
 }  // namespace algo::terminal::render

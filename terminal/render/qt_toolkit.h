@@ -17,6 +17,7 @@ QFont DesktopFont(const forms::TFont& font);
 class TQtToolkit final : public forms::TToolkit {
  public:
   forms::TSize MeasureText(std::string_view text, const forms::TFont& font) const override;
+  std::chrono::local_days Today() const override;
 };
 
 }  // namespace algo::terminal::render

@@ -29,13 +29,13 @@ TEST_F(TRendererInput, ATextEditedAnywhereChangesALineOnce) {
 }
 
 TEST_F(TRendererInput, ANumberIsMadeOfWhatWasTypedWhenItIsLeft) {
-  number.SetMax(50);
-  EXPECT_EQ(frame->InputTyped(number, "1,2"), TInputResult::Taken);
-  EXPECT_EQ(frame->InputTyped(number, "1,2.5"), TInputResult::Taken);
+  number.SetMax(5000);
+  EXPECT_EQ(frame->InputTyped(number, "1,"), TInputResult::Taken);
+  EXPECT_EQ(frame->InputTyped(number, "1,012.5"), TInputResult::Taken);
   EXPECT_EQ(number.Value(), std::nullopt);
-  EXPECT_EQ(number.Text(), "1,2.5");
+  EXPECT_EQ(number.Text(), "1,012.5");
   frame->InputLeave();
-  EXPECT_EQ(number.Value(), 12.5);
+  EXPECT_EQ(number.Value(), 1012.5);
 }
 
 TEST_F(TRendererInput, ATextThatTheEditorDoesNotAcceptChangesNothing) {

@@ -101,10 +101,11 @@ TEST_F(TSpinEditTest, TypingTheSameValueAgainBendsIt) {
   EXPECT_EQ(Left("250"), 100.0);
 }
 
-TEST_F(TSpinEditTest, CommasAreAcceptedAndMeanNothing) {
-  EXPECT_EQ(Typed("1,23,4.5"), "1,23,4.5");
+TEST_F(TSpinEditTest, CommasAreAcceptedBetweenGroups) {
+  EXPECT_EQ(Typed("1,234.5"), "1,234.5");
   frame.InputLeave();
   EXPECT_EQ(spin.Value(), 1234.5);
+  EXPECT_EQ(Left("1,23,4.5"), 1234.5) << "no number, so the former value";
 }
 
 TEST_F(TSpinEditTest, PassesOverCharactersThatAreNoPartOfANumber) { EXPECT_EQ(Typed("a1 e2+3%"), "123"); }

@@ -94,9 +94,18 @@ TEST_F(TDateEditTest, ALoneDateMeansMidnight) {
   EXPECT_EQ(date.Text(), "2024-02-29 00:00:00");
 }
 
+TEST_F(TDateEditTest, ALoneTimeThatIsTypedMeansToday) {
+  TypeAndLeave(date, "09:30");
+  EXPECT_EQ(date.Text(), "2024-01-15 09:30:00");
+  TypeAndLeave(date, "23:59:58");
+  EXPECT_EQ(date.Text(), "2024-01-15 23:59:58");
+  date.SetText("09:30");
+  EXPECT_EQ(date.Text(), "") << "what a program assigns is a date or nothing";
+}
+
 TEST_F(TDateEditTest, AnyOtherTextThatIsTypedLeavesWhatWasThere) {
   date.SetValue(Noon);
-  for (const char* typed : {"2023-02-29", "2024-13-01", "2024-02-29 24:00:00", "29.02.2024", "12:00"}) {
+  for (const char* typed : {"2023-02-29", "2024-13-01", "2024-02-29 24:00:00", "29.02.2024", "12:60"}) {
     TypeAndLeave(date, typed);
     EXPECT_EQ(date.Text(), "2024-02-29 12:00:00") << typed;
   }

@@ -76,9 +76,8 @@ TEST(DateText, ReadsNothingFromOtherForms) {
         "20240115-09:30:00", "+024-01-15", "-024-01-15", "2024-01- 5 09:30:00", "noon"}) {
     EXPECT_EQ(ParseDateTime(text), std::nullopt) << text;
   }
-  for (const std::string_view text :
-       {"", "20240115", "20240115 09:30:00", "20240115-9:30:00", "20240115-09.30.00", "2024-01-15 09:30:00",
-        "20240115-09:30:00 ", " 20240115-09:30:00", "20240115-09:30:0x", "20240115-09:30:000"}) {
+  for (const std::string_view text : {"", "20240115-9:30:00", "20240115-09.30.00", "2024-01-15 09:30:00",
+                                      " 20240115-09:30:00", "20240115-09:30:0x", "20240115-09:30:000"}) {
     EXPECT_EQ(ParseCompactDateTime(text), std::nullopt) << text;
   }
 }
@@ -89,6 +88,24 @@ TEST(DateText, CarriesEveryDayOfTheCalendarBothWays) {
     const TDateTime value = day + hours(13) + minutes(7) + seconds(59);
     ASSERT_EQ(ParseDateTime(DateTimeText(value)), value);
     ASSERT_EQ(ParseCompactDateTime(Compact(value)), value);
+  }
+}
+
+TEST(DateText, ReadsTheCompactFormWithABlankAndALoneDate) {
+  EXPECT_EQ(ParseCompactDateTime("20240115 09:30:00"), At(2024, 1, 15, 9, 30, 0));
+  EXPECT_EQ(ParseCompactDateTime("20240115"), At(2024, 1, 15, 0, 0, 0));
+  EXPECT_EQ(ParseCompactDateTime("20240115 "), At(2024, 1, 15, 0, 0, 0));
+  for (const char* text : {"20240115 09:30", "20240230", "2024011", " 20240115", "20240115T09:30:00"}) {
+    EXPECT_EQ(ParseCompactDateTime(text), std::nullopt) << text;
+  }
+}
+
+TEST(DateText, ReadsATimeOfDay) {
+  EXPECT_EQ(ParseTimeOfDay("09:30"), hours(9) + minutes(30));
+  EXPECT_EQ(ParseTimeOfDay(" 23:59:59 "), hours(23) + minutes(59) + seconds(59));
+  EXPECT_EQ(ParseTimeOfDay("00:00"), seconds(0));
+  for (const char* text : {"", "9:30", "24:00", "09:60", "09:30:60", "09:30:0", "0930", "09.30", "-1:30"}) {
+    EXPECT_EQ(ParseTimeOfDay(text), std::nullopt) << text;
   }
 }
 

@@ -141,5 +141,15 @@ TEST(NumberText, TruncatesToZeroWhatDoesNotFit) {
   }
 }
 
+TEST(NumberText, RoundsToSignificantDigits) {
+  EXPECT_EQ(RoundToDigits(7.85 * 0.001 / 0.001, 15), 7.85);
+  EXPECT_EQ(RoundToDigits(0.1 + 0.2, 15), 0.3);
+  EXPECT_EQ(RoundToDigits(7849.999999999999, 15), 7850);
+  EXPECT_EQ(RoundToDigits(-1234.5, 3), -1230);
+  EXPECT_EQ(RoundToDigits(0, 15), 0);
+  EXPECT_EQ(RoundToDigits(1.7976931348623157e308, 15), 1.7976931348623157e308) << "nothing lies beyond it";
+  EXPECT_TRUE(std::isnan(RoundToDigits(std::nan(""), 15)));
+}
+
 }  // namespace
 }  // namespace algo::text

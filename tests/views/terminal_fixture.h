@@ -78,13 +78,14 @@ class TTerminalTest : public testing::Test, public terminal::THostEvents {
   host::checks::TLeftBehind LeftBehind() const { return FStrict->LeftBehind(); }
   const std::vector<std::string>& Violations() const { return FViolations; }
 
+  void ViewNotified(const host::TViewFrame& view, std::int32_t code) override;
+
  private:
   void MessageShown(std::string_view text) override;
   void ErrorCodeShown(std::string_view code) override;
   void ActionTaken(const host::TCustomClientOrder& order, host::TOrderAction action, std::int32_t argument,
                    bool answer) override;
   void Posted(std::int32_t channel, const host::TChannelRecord& record) override;
-  void ViewNotified(const host::TViewFrame& view, std::int32_t code) override;
   void Stored(std::string_view section, std::string_view key, std::string_view value,
               bool writeThrough) override;
   void Subscribed(std::string_view symbol, std::string_view dataSet, bool live) override;

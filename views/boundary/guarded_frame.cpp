@@ -6,7 +6,15 @@ TGuardedFrame::~TGuardedFrame() { FAlive.reset(); }
 
 void TGuardedFrame::Detach() {
   FAlive.reset();
-  FRegistrations.ReleaseAll();
+  AtBoundary([this] { FRegistrations.ReleaseAll(); });
+}
+
+std::int32_t TGuardedFrame::GetWidth() const {
+  return AtBoundary(std::int32_t{0}, [this] { return TViewFrame::GetWidth(); });
+}
+
+std::int32_t TGuardedFrame::GetHeight() const {
+  return AtBoundary(std::int32_t{0}, [this] { return TViewFrame::GetHeight(); });
 }
 
 void TGuardedFrame::RunInput(const std::function<void()>& input) {

@@ -20,6 +20,9 @@ class TGuardedFrame : public host::TViewFrame {
   /// Gives back what is registered, in the order of registering, and lets nothing in any more.
   void Detach() override;
 
+  std::int32_t GetWidth() const override;
+  std::int32_t GetHeight() const override;
+
  protected:
   /// A handler for control events and host notifications: a boundary around the method.
   template <class TFrameClass, class... TArguments>

@@ -69,24 +69,48 @@ void TAlgoOrderChangeFrame::Confirm() {
   if (GetWorkOrder(*FMyOrder) || CheckOrderValid()) SubmitChange();
 }
 
+double TAlgoOrderChangeFrame::ChangedPrice() const {
+  const auto shown = Spin(TField::edtPrice).Value();
+  // What was not touched stays to the last bit; what was is divided by what the trader saw it multiplied
+  // with, whatever the market's data say by now.
+  if (shown && shown == FShownPrice) return FMyOrder->price;
+  return entry::PriceForOrder(shown.value_or(0), FPriceDivisor);
+}
+
 void TAlgoOrderChangeFrame::SubmitChange() {
   const auto quantity = static_cast<double>(text::TruncateToWhole(Spin(TField::edtQty).Value().value_or(0)));
-  const host::TMarketDataItem* item =
-      host::TCustomSubscribeAdapter::GetInstance().Subscribe(FMyOrder->symbol, host::PriceDataSet, false);
-  const double price = entry::PriceForOrder(Spin(TField::edtPrice).Value().value_or(0), item);
+  host::TCustomSubscribeAdapter::GetInstance().Subscribe(FMyOrder->symbol, host::PriceDataSet, false);
+  // The host may have closed the form while it was asked.
+  if (FMyOrder == nullptr) return;
+  const double price = ChangedPrice();
   if (!GetWorkOrder(*FMyOrder)) SetOrderAlgo(*FMyOrder);
   SetOrderType(*FMyOrder);
   FMyOrder->quantity = quantity;
   FMyOrder->price = price;
   if (!FIsChangeOrderShowModalView && FOrderOperatorMode == TOperatorMode::Change && Form() != nullptr) {
-    host::TCustomOrderActionManager::GetInstance().TakeAction(nullptr, FMyOrder, host::TOrderAction::Change,
-                                                              1);
-    ReleaseOrder();
-    // The host may have closed the form while it took the action.
-    if (Form() != nullptr) Form()->Close();
+    SendChange();
   }
   FMyOrder = nullptr;
   if (Form() != nullptr) Form()->SetModalResult(forms::ModalOk);
+}
+
+void TAlgoOrderChangeFrame::SendChange() {
+  // The order lives until the host has answered, also when it closes the form meanwhile.
+  host::TOwnedOrder sent = std::move(FOwnOrder);
+  try {
+    host::TCustomOrderActionManager::GetInstance().TakeAction(nullptr, sent.get(), host::TOrderAction::Change,
+                                                              1);
+  } catch (...) {
+    // The form stays, to be tried again, unless it was closed.
+    if (!Detached()) {
+      FOwnOrder = std::move(sent);
+      FMyOrder = FOwnOrder.get();
+    }
+    throw;
+  }
+  sent.reset();
+  ReleaseOrder();
+  if (Form() != nullptr) Form()->Close();
 }
 
 void TAlgoOrderChangeFrame::cbPopupClick() {

@@ -4,6 +4,7 @@
 // it is sent and changes a working one. The order's identity is locked; pressing the side button says OK.
 
 #include <cstdint>
+#include <optional>
 #include <string>
 #include <string_view>
 
@@ -50,6 +51,8 @@ class TAlgoOrderChangeFrame : public TAlgoOrderEntryFrame {
   void Detach() override;
 
  protected:
+  std::string ShownSymbol() const override { return FMyOrder != nullptr ? FMyOrder->symbol : std::string(); }
+
   virtual void InitializeViewbyOrder(host::TCustomClientOrder& order);
 
   /// Whether an order with these flags has a price that may be set.
@@ -64,10 +67,12 @@ class TAlgoOrderChangeFrame : public TAlgoOrderEntryFrame {
 
  private:
   void Confirm();
+  double ChangedPrice() const;
   void SubmitChange();
+  void SendChange();
   void ShowIdentity(const host::TCustomClientOrder& order, const host::TMarketDataItem* item);
   void LockIdentity();
-  void StepByLot(const host::TMarketDataItem* item, std::string_view symbol);
+  void StepByLot(const host::TMarketDataItem* item, const host::TInstrument* instrument);
   void SetChangeViewVisible(std::string_view algoId);
   void SetConfirmViewVisible();
   void EnableAmendable();
@@ -75,7 +80,9 @@ class TAlgoOrderChangeFrame : public TAlgoOrderEntryFrame {
 
   std::vector<std::string> FOrderConstList;  ///< the algorithms' codes
   bool FIsChangeOrderShowModalView = false;
-  host::TOwnedOrder FOwnOrder;  ///< the copy that a non-modal change works on
+  host::TOwnedOrder FOwnOrder;          ///< the copy that a non-modal change works on
+  std::optional<double> FShownPrice;    ///< what loading put into the price editor
+  std::optional<double> FPriceDivisor;  ///< by which the price was multiplied for it
 };
 
 /// Has a frame release its order at the end of the block, however it ends.

@@ -23,13 +23,15 @@ void TAlgoOrderChangeFrame::InitializeViewbyOrder(host::TCustomClientOrder& orde
   // Only looked at: the frame follows no symbol of its own.
   const host::TMarketDataItem* item =
       host::TCustomSubscribeAdapter::GetInstance().Subscribe(order.symbol, host::PriceDataSet, false);
+  const host::TInstrument* instrument =
+      host::TCustomMarketAdapter::GetInstance().FindInstrument(order.symbol);
   Lists().LetAlgoStandIn();
   Lists().SelectExchange(order.exchange);
   const std::string algoText = order.TextProperty(host::AlgoTextProperty);
   const model::TSplitText split = model::SplitText(algoText);
   ShowIdentity(order, item);
   LockIdentity();
-  StepByLot(item, order.symbol);
+  StepByLot(item, instrument);
   ResetInputUI();
   InitializeConfirmView(split.algoId, split.pieces);
   if (FOrderOperatorMode == TOperatorMode::Change) {
@@ -50,7 +52,9 @@ void TAlgoOrderChangeFrame::ShowIdentity(const host::TCustomClientOrder& order,
   Control(TField::cbLockMOrder).SetEnabled(false);
   // After the order type, whose choice decides about the price too.
   auto& price = Spin(TField::edtPrice);
-  price.SetValue(entry::PriceToShow(order.price, item));
+  FPriceDivisor = entry::PriceDivisor(item);
+  price.SetValue(entry::PriceToShow(order.price, FPriceDivisor));
+  FShownPrice = price.Value();
   price.SetEnabled(PriceMayBeSet(order));
   auto& quantity = Spin(TField::edtQty);
   quantity.SetStep(1);
@@ -64,14 +68,13 @@ void TAlgoOrderChangeFrame::LockIdentity() {
   for (const TField field : entry::ClosedInChange) Control(field).SetEnabled(false);
 }
 
-void TAlgoOrderChangeFrame::StepByLot(const host::TMarketDataItem* item, std::string_view symbol) {
+void TAlgoOrderChangeFrame::StepByLot(const host::TMarketDataItem* item,
+                                      const host::TInstrument* instrument) {
   std::int64_t lot = 1;
   if (item != nullptr && item->State() == host::ItemLive) {
     lot = text::ParseWhole(item->FieldText(host::LotSizeField)).value_or(0);
-  } else {
-    const auto* instrument = host::TCustomMarketAdapter::GetInstance().FindInstrument(symbol);
-    if (instrument != nullptr && !instrument->lotText.empty())
-      lot = text::ParseWhole(instrument->lotText).value_or(0);
+  } else if (instrument != nullptr && !instrument->lotText.empty()) {
+    lot = text::ParseWhole(instrument->lotText).value_or(0);
   }
   for (const TField field : entry::QuantityEditors) {
     Spin(field).SetStep(static_cast<double>(std::max<std::int64_t>(lot, 1)));

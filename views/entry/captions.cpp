@@ -14,14 +14,22 @@ constexpr double SideButtonMargin = 12;
 
 bool TAlgoOrderEntryFrame::SetLanguage(std::int32_t /*language*/) {
   return AtBoundary(false, [this] {
-    const forms::TLayoutUpdate update(Layout());
-    SetCaptions();
-    FLists.FillPickLists();
-    const model::TAlgoRow* algo = FLists.ChosenAlgo();
-    if (algo != nullptr && model::Writes(*algo, model::TParam::Style)) FLists.FillStyleList();
-    FLists.RefillOrderLists();
-    UpdateSymbolInfo();
-    FitSideButtons();
+    const TSizeNotice notice(*this);
+    {
+      const forms::TLayoutUpdate update(Layout());
+      const std::int32_t style = Combo(TField::cmbStyle).Index();
+      SetCaptions();
+      FLists.FillPickLists();
+      const model::TAlgoRow* algo = FLists.ChosenAlgo();
+      if (algo != nullptr && model::Writes(*algo, model::TParam::Style)) FLists.FillStyleList();
+      FLists.RefillOrderLists();
+      UpdateSymbolInfo();
+      FitSideButtons();
+      // An order that is shown keeps its style; the trader's own form starts over with the list.
+      if (FPurpose.showsOneOrder && style < Combo(TField::cmbStyle).Count())
+        Combo(TField::cmbStyle).SetIndex(style);
+    }
+    notice.Send();
     return true;
   });
 }

@@ -24,33 +24,47 @@ void TAlgoOrderEntryFrame::ResetInputUI() {
 }
 
 void TAlgoOrderEntryFrame::cmbExchChange() {
-  FLists.ExchangeHandled();
   const std::int32_t index = Combo(TField::cmbExch).Index();
   if (index < 0) return;
+  FLists.ExchangeHandled();
   Check(TField::cbLockMOrder).SetChecked(false);
   Check(TField::cbLockOrderType).SetChecked(false);
   try {
-    InitializeOrderType(index);
+    FLists.ReadOffers(index);
   } catch (...) {
     // Better nothing to choose from than what another exchange offers.
     FLists.OfferNothing();
     ResetView();
     throw;
   }
+  FLists.ShowOffers();
 }
 
 void TAlgoOrderEntryFrame::cmbOrderTypeChange() {
-  FLists.AlgoHandled();
-  {
-    const forms::TLayoutUpdate update(Layout());
-    ResetView();
-    if (Combo(TField::cmbOrderType).Index() >= 0) {
-      ResetInputUI();
-      InitializeView();
-    }
+  if (Combo(TField::cmbOrderType).Index() < 0) {
+    // An order whose algorithm is not offered shows no fields; a form of the trader's own stays as it is.
+    FLists.AlgoHandled();
+    if (FPurpose.showsOneOrder) ResetView();
+    return;
   }
+  FLists.AlgoHandled();
+  LayOutAlgo();
   host::SendViewNotify(*this, host::ViewChanged);
   if (FOnAlgoTypeChange) FOnAlgoTypeChange();
+}
+
+void TAlgoOrderEntryFrame::LayOutAlgo() {
+  const forms::TLayoutUpdate update(Layout());
+  try {
+    ResetView();
+    ResetInputUI();
+    InitializeView();
+  } catch (...) {
+    // An algorithm without its fields must not be sent.
+    ResetView();
+    FLists.ChooseNothing();
+    throw;
+  }
 }
 
 void TAlgoOrderEntryFrame::cmbMOrderTypeChange() {

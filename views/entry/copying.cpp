@@ -42,14 +42,15 @@ void TAlgoOrderEntryFrame::DoCopyOrder(const host::TCustomClientOrder& order) {
   if (account.Enabled()) {
     account.SetText(order.account);
     account.Commit();
-    FCurrentAccount = order.account;
+    // A user who sees no account field works on the profile's account, whatever the field holds.
+    if (!WorksOnProfileAccount()) FCurrentAccount = order.account;
   }
   auto& quantity = Spin(TField::edtQty);
   if (quantity.Enabled()) quantity.SetValue(static_cast<double>(text::TruncateToWhole(order.quantity)));
   FLists.SelectExchange(order.exchange);
   SetDisplayOrderType(order);
   auto& price = Spin(TField::edtPrice);
-  if (price.Enabled()) price.SetValue(PriceToShow(order.price, FSymbol.Item()));
+  if (price.Enabled()) price.SetValue(PriceToShow(order.price, PriceMultiplier(FSymbol.Item())));
   FSymbol.SetPriceFilled(true);
   FSymbol.SetQuantityFilled(true);
   const std::string algoText = order.TextProperty(host::AlgoTextProperty);
@@ -63,7 +64,8 @@ void TAlgoOrderEntryFrame::DoCopyPrice(const host::TCustomClientOrder& order) {
     const std::string previousSymbol = FSymbol.Symbol();
     if (!order.symbol.empty() && Control(TField::edtSymbol).Enabled()) CopySymbol(order.symbol);
     auto& price = Spin(TField::edtPrice);
-    if (order.price != 0 && price.Enabled()) price.SetValue(PriceToShow(order.price, FSymbol.Item()));
+    if (order.price != 0 && price.Enabled())
+      price.SetValue(PriceToShow(order.price, PriceMultiplier(FSymbol.Item())));
     auto& quantity = Spin(TField::edtQty);
     if (order.quantity != 0) {
       if (quantity.Enabled()) quantity.SetValue(static_cast<double>(text::TruncateToWhole(order.quantity)));

@@ -2,6 +2,8 @@
 
 #include "views/entry/entry_form.h"
 
+#include <algorithm>
+
 namespace algo::views::entry {
 
 namespace {
@@ -34,6 +36,8 @@ forms::TControl& MakeControl(forms::TFrame& frame, const TFieldRow& row) {
   spin.SetMin(row.bounds.min);
   spin.SetMax(row.bounds.max);
   spin.SetStep(row.step);
+  // What an exit rule looks at has to be what was typed, and what it leaves is for the rules to refuse.
+  spin.SetBendsTyped(row.exitRule == TExitRule::None);
   return spin;
 }
 
@@ -58,6 +62,13 @@ TEntryForm::TEntryForm(forms::TFrame& frame) : FFrame(frame) {
     if (row.clickSelectsAll) {
       control.OnClick = [&editor = static_cast<forms::TEditor&>(control)] { editor.SelectAll(); };
     }
+  }
+  // A group inside a group of fields stands behind them.
+  for (const TGroupRow& row : GroupRows()) {
+    const bool besideFields =
+        std::any_of(FieldRows().begin(), FieldRows().end(),
+                    [&row](const TFieldRow& field) { return field.group == row.parent; });
+    if (besideFields) Layout().Move(Group(row.group), Group(row.parent));
   }
   Group(TGroup::lgVWAP).SetVisible(false);
   FKeyCaptions = &Layout().AddStyle("lslfBold");

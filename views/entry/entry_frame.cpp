@@ -20,9 +20,10 @@ TAlgoOrderEntryFrame::TAlgoOrderEntryFrame(const TFramePurpose& purpose)
     : TGuardedFrame(std::string(purpose.className), "lcAlgoOrder"),
       FPurpose(purpose),
       FForm(*this),
-      FLists(FForm, {.exchangeChanged = [this] { cmbExchChange(); },
-                     .algoChanged = [this] { cmbOrderTypeChange(); },
-                     .orderTypeChanged = [this] { cmbMOrderTypeChange(); }}),
+      FLists(FForm, purpose.ownType,
+             {.exchangeChanged = [this] { cmbExchChange(); },
+              .algoChanged = [this] { cmbOrderTypeChange(); },
+              .orderTypeChanged = [this] { cmbMOrderTypeChange(); }}),
       FSymbol(FForm, this, Handler(&TAlgoOrderEntryFrame::SymbolUpdate)),
       FLayoutText(FForm, FLists, FSymbol) {
   // Making the form is one call from outside: what its handlers set off fails, if it fails, as a whole.
@@ -45,6 +46,12 @@ TAlgoOrderEntryFrame::TAlgoOrderEntryFrame(const TFramePurpose& purpose)
   Spin(TField::edtPrice).SetValue(0);
   const std::string startSymbol(text::Trim(Edit(TField::edtSymbol).Hint()));
   if (!startSymbol.empty()) SetSymbol(startSymbol);
+  FMade = true;
+}
+
+void TAlgoOrderEntryFrame::TSizeNotice::Send() const {
+  const bool resized = FFrame.TViewFrame::GetWidth() != FWidth || FFrame.TViewFrame::GetHeight() != FHeight;
+  if (FFrame.FMade && resized) host::SendViewNotify(FFrame, host::ViewChanged);
 }
 
 void TAlgoOrderEntryFrame::SetSkin(std::string_view /*name*/) {

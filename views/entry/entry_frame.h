@@ -144,6 +144,9 @@ class TAlgoOrderEntryFrame : public TGuardedFrame {
   /// Run after the algorithm was changed, and with it the size of the form.
   std::function<void()> FOnAlgoTypeChange;
 
+  /// The symbol of the order that the frame shows; empty where it shows none.
+  virtual std::string ShownSymbol() const { return {}; }
+
   virtual void cbLockPriceChange();
   virtual void cbPopupClick();
   virtual void btnBuyClick();
@@ -154,7 +157,8 @@ class TAlgoOrderEntryFrame : public TGuardedFrame {
  private:
   // host_link.cpp
   void RegisterWithHost();
-  void TellEditorsOfGroup();
+  void JoinGroup();
+  void TellEditorsOfGroup(const std::string& symbol);
   void SymbolUpdate(const void* sender, const host::TItemDictionary* data);
   void SpreadUpdate(const void* sender, const host::TSpreadDictionary* data);
   void SkinChanged(std::string_view name);
@@ -168,9 +172,23 @@ class TAlgoOrderEntryFrame : public TGuardedFrame {
   void InitializeOrderType(std::int32_t exchangeIndex) { FLists.InitializeOrderType(exchangeIndex); }
   void ResetView() { FForm.HideAlgo(); }
   void InitializeView();
+  void LayOutAlgo();
   void cmbExchChange();
   void cmbOrderTypeChange();
   void cmbMOrderTypeChange();
+
+  /// Notifies the host when the frame needs another size than at the beginning.
+  class TSizeNotice {
+   public:
+    explicit TSizeNotice(TAlgoOrderEntryFrame& frame)
+        : FFrame(frame), FWidth(frame.TViewFrame::GetWidth()), FHeight(frame.TViewFrame::GetHeight()) {}
+    void Send() const;
+
+   private:
+    TAlgoOrderEntryFrame& FFrame;
+    std::int32_t FWidth;
+    std::int32_t FHeight;
+  };
 
   // captions.cpp
   void SetCaptions();
@@ -207,6 +225,7 @@ class TAlgoOrderEntryFrame : public TGuardedFrame {
   std::int32_t FOrderType = SideNotChosen;  ///< the side, despite its name
   std::string FCurrentAccount;
   std::int32_t FGlobalValueUpdateMode = -1;
+  bool FMade = false;  ///< from the end of the construction on
   TEntryForm FForm;
   TPickLists FLists;
   TFollowedSymbol FSymbol;

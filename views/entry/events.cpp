@@ -38,6 +38,8 @@ void TAlgoOrderEntryFrame::WireEvents() {
 void TAlgoOrderEntryFrame::EnterPressed(TField field) { FForm.FocusNext(EnterPath(field)); }
 
 void TAlgoOrderEntryFrame::edtAccountExit() {
+  // A user who sees no account field works on the profile's account, whatever the field holds.
+  if (WorksOnProfileAccount()) return;
   FCurrentAccount = std::string(text::Trim(Edit(TField::edtAccount).Text()));
 }
 

@@ -38,26 +38,47 @@ void TFollowedSymbol::Unfollow() {
 }
 
 void TFollowedSymbol::SetSymbol(std::string_view symbol) {
-  if (symbol != FCurrentSymbol) {
-    Unfollow();
-    if (!symbol.empty()) {
-      host::TMarketDataItem* item = Subscriptions().Subscribe(symbol, host::PriceDataSet, true);
-      if (item != nullptr) Subscriptions().AddListener(item, FListener, FOwner);
-      FCurrentItem = item;
-    }
-    // Last, so that a symbol at which the host failed can be entered again.
-    FCurrentSymbol = symbol;
-    auto& editor = FForm.Edit(TField::edtSymbol);
-    if (editor.Hint() != FCurrentSymbol) {
-      editor.SetText(FCurrentSymbol);
-      editor.Commit();
-    }
+  // Entered again, a symbol that is followed stays so, even when the host fails.
+  if (symbol == FCurrentSymbol) return Prefill();
+  try {
+    Follow(std::string(symbol));
+    Prefill();
+  } catch (...) {
+    // No symbol, rather than one with the former one's quantity and price.
+    Forget();
+    throw;
   }
+}
+
+void TFollowedSymbol::Follow(const std::string& symbol) {
+  Unfollow();
+  // First, so that what the host delivers while it takes the listener finds its symbol.
+  FCurrentSymbol = symbol;
+  if (!symbol.empty()) {
+    FCurrentItem = Subscriptions().Subscribe(symbol, host::PriceDataSet, true);
+    if (FCurrentItem != nullptr) Subscriptions().AddListener(FCurrentItem, FListener, FOwner);
+  }
+  auto& editor = FForm.Edit(TField::edtSymbol);
+  if (editor.Hint() != FCurrentSymbol) {
+    editor.SetText(FCurrentSymbol);
+    editor.Commit();
+  }
+}
+
+void TFollowedSymbol::Prefill() {
   // Before the editors are told, where the host may fail: what the former symbol filled in is not this one's.
   FPriceSet = false;
   FQtySet = false;
   TellEditors();
   UpdateSymbolInfo();
+}
+
+void TFollowedSymbol::Forget() {
+  FForm.Edit(TField::edtSymbol).SetHint({});
+  try {
+    Unfollow();
+  } catch (...) {  // NOLINT(bugprone-empty-catch): the failure that led here is the one to report
+  }
 }
 
 void TFollowedSymbol::TellEditors() const {
@@ -102,7 +123,7 @@ void TFollowedSymbol::PrefillPrice() {
   FPriceSet = true;
   auto& price = FForm.Spin(TField::edtPrice);
   if (price.Enabled()) {
-    price.SetValue(PriceToShow(FCurrentItem->FieldNumber(host::PriceField), FCurrentItem));
+    price.SetValue(PriceToShow(FCurrentItem->FieldNumber(host::PriceField), PriceMultiplier(FCurrentItem)));
   }
   MovePriceCarets();
 }
@@ -110,7 +131,8 @@ void TFollowedSymbol::PrefillPrice() {
 void TFollowedSymbol::UpdatePrice() {
   if (FCurrentItem == nullptr) return;
   const bool live = FCurrentItem->State() == host::ItemLive;
-  const double price = live ? PriceToShow(FCurrentItem->FieldNumber(host::PriceField), FCurrentItem) : 0.0;
+  const double price =
+      live ? PriceToShow(FCurrentItem->FieldNumber(host::PriceField), PriceMultiplier(FCurrentItem)) : 0.0;
   for (const TField field : AlgoPriceEditors) FForm.Spin(field).SetValue(price);
   MovePriceCarets();
 }

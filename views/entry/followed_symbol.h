@@ -51,6 +51,9 @@ class TFollowedSymbol {
   bool& Copying() { return FCopying; }
 
  private:
+  void Follow(const std::string& symbol);
+  void Prefill();
+  void Forget();
   void TellEditors() const;
   void PrefillQuantity();
   void PrefillPrice();

@@ -66,24 +66,35 @@ void TAlgoOrderEntryFrame::RegisterWithHost() {
 bool TAlgoOrderEntryFrame::SetGroupID(std::string_view id) {
   return AtBoundary(false, [&] {
     if (id == FGroupID) return true;
-    FGroupID = id;
-    if (!WorksOnProfileAccount()) {
-      Editors().RegisterAccountEditor(Edit(TField::edtAccount), FGroupID, LookUpMode, LookUpOptions);
+    const std::string former = std::exchange(FGroupID, std::string(id));
+    try {
+      JoinGroup();
+    } catch (...) {
+      // So that the same group can be asked for again.
+      FGroupID = former;
+      throw;
     }
-    Editors().RegisterPriceEditor(Spin(TField::edtPrice), FGroupID);
-    Editors().RegisterQuantityEditor(Spin(TField::edtQty), FGroupID);
-    Editors().RegisterSymbolEditor(Edit(TField::edtSymbol), FGroupID, LookUpMode, LookUpOptions);
-    for (const TField field : AlgoQuantityEditors) Editors().RegisterQuantityEditor(Spin(field), FGroupID);
-    for (const TField field : AlgoPriceEditors) Editors().RegisterPriceEditor(Spin(field), FGroupID);
-    TellEditorsOfGroup();
     return true;
   });
 }
 
-void TAlgoOrderEntryFrame::TellEditorsOfGroup() {
-  for (const TField field : PriceEditorsOfGroup) Editors().SetPriceSymbol(Spin(field), FSymbol.Symbol());
-  for (const TField field : QuantityEditorsOfGroup)
-    Editors().SetQuantitySymbol(Spin(field), FSymbol.Symbol());
+void TAlgoOrderEntryFrame::JoinGroup() {
+  if (!WorksOnProfileAccount()) {
+    Editors().RegisterAccountEditor(Edit(TField::edtAccount), FGroupID, LookUpMode, LookUpOptions);
+  }
+  Editors().RegisterPriceEditor(Spin(TField::edtPrice), FGroupID);
+  Editors().RegisterQuantityEditor(Spin(TField::edtQty), FGroupID);
+  Editors().RegisterSymbolEditor(Edit(TField::edtSymbol), FGroupID, LookUpMode, LookUpOptions);
+  for (const TField field : AlgoQuantityEditors) Editors().RegisterQuantityEditor(Spin(field), FGroupID);
+  for (const TField field : AlgoPriceEditors) Editors().RegisterPriceEditor(Spin(field), FGroupID);
+  TellEditorsOfGroup(FSymbol.Symbol());
+  const std::string shown = ShownSymbol();
+  if (!shown.empty()) TellEditorsOfGroup(shown);
+}
+
+void TAlgoOrderEntryFrame::TellEditorsOfGroup(const std::string& symbol) {
+  for (const TField field : PriceEditorsOfGroup) Editors().SetPriceSymbol(Spin(field), symbol);
+  for (const TField field : QuantityEditorsOfGroup) Editors().SetQuantitySymbol(Spin(field), symbol);
 }
 
 void TAlgoOrderEntryFrame::SymbolUpdate(const void* /*sender*/, const host::TItemDictionary* data) {
@@ -97,6 +108,7 @@ void TAlgoOrderEntryFrame::SpreadUpdate(const void* /*sender*/, const host::TSpr
 void TAlgoOrderEntryFrame::SkinChanged(std::string_view name) { SetSkin(name); }
 
 void TAlgoOrderEntryFrame::ConfigUpdate() {
+  const TSizeNotice notice(*this);
   auto& config = host::TCustomConfigManager::GetInstance();
   const std::string section = config.CurrentSection();
   Check(TField::cbPopup).SetChecked(!config.ReadBoolean(section, "ConfirmationPlaceOrd"));
@@ -105,6 +117,7 @@ void TAlgoOrderEntryFrame::ConfigUpdate() {
   const auto mode = text::ParseWhole(config.ReadText(PlatformSection, "DefaultGroupDataMode"));
   FGlobalValueUpdateMode = mode && std::in_range<std::int32_t>(*mode) ? static_cast<std::int32_t>(*mode) : -1;
   UpdateScale();
+  notice.Send();
 }
 
 void TAlgoOrderEntryFrame::UpdateScale() {

@@ -7,11 +7,20 @@
 #include "plugin/host_contract/language_manager.h"
 #include "plugin/host_contract/order_adapter.h"
 #include "plugin/host_contract/user_app_profile.h"
+#include "text/text.h"
 #include "views/entry/pick_lists.h"
 
 namespace algo::views::entry {
 
 namespace {
+
+// Where the exchange code stands in the list, whatever its letter case; the first place when it is not there.
+std::int32_t IndexOfExchange(const std::vector<std::string>& codes, const std::string& code) {
+  if (codes.empty()) return -1;
+  const auto found = std::find_if(codes.begin(), codes.end(),
+                                  [&code](const std::string& each) { return text::EqualNoCase(each, code); });
+  return found == codes.end() || code.empty() ? 0 : static_cast<std::int32_t>(found - codes.begin());
+}
 
 // Where the entry stands in the list; the first place when it is not there, -1 in an empty list.
 std::int32_t IndexOrFirst(const std::vector<std::string>& list, const std::string& entry) {
@@ -68,30 +77,74 @@ void TPickLists::InitExchangeList() {
     items.push_back(code);
     if (!name.empty()) items.back().append("(").append(name).append(")");
   }
-  const std::int32_t index = IndexOrFirst(codes, remembered);
+  const std::int32_t index = IndexOfExchange(codes, remembered);
   FAlgoExchList = std::move(codes);
   combo.Refill(std::move(items), index);
   refill.NotifyChanges();
 }
 
 void TPickLists::InitializeOrderType(std::int32_t exchangeIndex) {
-  TRefill refill(*this);
-  const TChosen remembered = Chosen();
+  ReadOffers(exchangeIndex);
+  ShowOffers();
+}
+
+void TPickLists::ReadOffers(std::int32_t exchangeIndex) {
   const bool known = exchangeIndex >= 0 && exchangeIndex < std::ssize(FAlgoExchList);
   const std::string exchange = known ? FAlgoExchList[static_cast<std::size_t>(exchangeIndex)] : std::string();
   // Both lists are complete before either is shown: a host that fails half-way must not leave a combo box
   // whose items stand for other entries.
   TOffer algos = AlgosOf(exchange);
-  TOffer orderTypes = OrderTypesOf(exchange);
+  FReadTypes = OrderTypesOf(exchange);
+  FReadAlgos = std::move(algos);
+}
+
+void TPickLists::ShowOffers() {
+  TRefill refill(*this);
+  const TChosen remembered = Chosen();
+  TOffer algos = std::exchange(FReadAlgos, {});
   FAlgoTypeList = std::move(algos.ids);
   FOrderTypeConstList = std::move(algos.codes);
-  FOrderTypeList = std::move(orderTypes.ids);
+  FOfferedTypes = std::exchange(FReadTypes, {});
   const bool noneStays = remembered.algoType.empty() && !FAlgoMayStandIn;
   FForm.Combo(TField::cmbOrderType)
       .Refill(std::move(algos.texts), noneStays ? -1 : IndexOrFirst(FAlgoTypeList, remembered.algoType));
-  FForm.Combo(TField::cmbMType)
-      .Refill(std::move(orderTypes.texts), IndexOrFirst(FOrderTypeList, remembered.orderType));
+  ShowOrderTypes(remembered.orderType);
   refill.NotifyChanges();
+}
+
+void TPickLists::ShowOrderTypes(const std::string& chosen) {
+  TOffer shown = FOfferedTypes;
+  const auto own = std::find(shown.ids.begin(), shown.ids.end(), FOwnTypeId);
+  const bool offered = own != shown.ids.end();
+  if (!FOwnTypeId.empty() && (!offered || FOwnType == TOwnType::First)) {
+    if (offered) {
+      shown.texts.erase(shown.texts.begin() + (own - shown.ids.begin()));
+      shown.ids.erase(own);
+    }
+    const bool first = FOwnType == TOwnType::First;
+    shown.ids.insert(first ? shown.ids.begin() : shown.ids.end(), FOwnTypeId);
+    shown.texts.insert(first ? shown.texts.begin() : shown.texts.end(), host::ResourceText(FOwnTypeId));
+  }
+  FOrderTypeList = std::move(shown.ids);
+  FForm.Combo(TField::cmbMType).Refill(std::move(shown.texts), IndexOrFirst(FOrderTypeList, chosen));
+}
+
+void TPickLists::SelectOrderType(std::string_view id) {
+  if (FOwnType != TOwnType::NotShown) {
+    TRefill refill(*this);
+    FOwnTypeId = id;
+    ShowOrderTypes(std::string(id));
+    refill.NotifyChanges();
+    return;
+  }
+  const auto found = std::find(FOrderTypeList.begin(), FOrderTypeList.end(), id);
+  auto& combo = FForm.Combo(TField::cmbMType);
+  const auto index = static_cast<std::int32_t>(found - FOrderTypeList.begin());
+  if (found != FOrderTypeList.end() && index < combo.Count()) {
+    combo.SetIndex(index);
+  } else {
+    combo.SelectFirst();
+  }
 }
 
 void TPickLists::RefillOrderLists() {
@@ -102,8 +155,13 @@ void TPickLists::RefillOrderLists() {
 }
 
 void TPickLists::OfferNothing() {
-  for (auto* list : {&FAlgoTypeList, &FOrderTypeConstList, &FOrderTypeList}) list->clear();
-  for (const TField combo : {TField::cmbOrderType, TField::cmbMType}) FForm.Combo(combo).Refill({}, -1);
+  FAlgoTypeList.clear();
+  FOrderTypeConstList.clear();
+  FOfferedTypes = {};
+  FForm.Combo(TField::cmbOrderType).Refill({}, -1);
+  ShowOrderTypes({});
+  // Announced anew with the next choice, the same one included, so that its fields come back.
+  FHandled = {};
 }
 
 auto TPickLists::AlgosOf(const std::string& exchange) -> TOffer {
@@ -134,7 +192,7 @@ auto TPickLists::OrderTypesOf(const std::string& exchange) -> TOffer {
 }
 
 void TPickLists::SelectExchange(const std::string& code) {
-  FForm.Combo(TField::cmbExch).SetIndex(IndexOrFirst(FAlgoExchList, code));
+  FForm.Combo(TField::cmbExch).SetIndex(IndexOfExchange(FAlgoExchList, code));
 }
 
 }  // namespace algo::views::entry

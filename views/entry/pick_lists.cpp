@@ -27,7 +27,8 @@ std::int32_t ResetIndex(const model::TParamRow& param) {
 
 }  // namespace
 
-TPickLists::TPickLists(TEntryForm& form, THandlers handlers) : FForm(form), FHandlers(std::move(handlers)) {}
+TPickLists::TPickLists(TEntryForm& form, TOwnType ownType, THandlers handlers)
+    : FForm(form), FHandlers(std::move(handlers)), FOwnType(ownType) {}
 
 auto TPickLists::Chosen() const -> TChosen {
   return {std::string(ChosenEntry(TField::cmbExch)), std::string(ChosenEntry(TField::cmbOrderType)),
@@ -118,20 +119,15 @@ void TPickLists::SelectAlgo(std::string_view code) {
   FForm.Combo(TField::cmbOrderType).SetIndex(IndexOfAlgo(code));
 }
 
+void TPickLists::ChooseNothing() {
+  auto& combo = FForm.Combo(TField::cmbOrderType);
+  combo.Refill(combo.Items(), -1);
+  FHandled.algoType.clear();
+}
+
 void TPickLists::SelectNoAlgo() {
   FAlgoMayStandIn = false;
   FForm.Combo(TField::cmbOrderType).SetIndex(-1);
-}
-
-void TPickLists::SelectOrderType(std::string_view id) {
-  const auto found = std::find(FOrderTypeList.begin(), FOrderTypeList.end(), id);
-  auto& combo = FForm.Combo(TField::cmbMType);
-  const auto index = static_cast<std::int32_t>(found - FOrderTypeList.begin());
-  if (found != FOrderTypeList.end() && index < combo.Count()) {
-    combo.SetIndex(index);
-  } else {
-    combo.SelectFirst();
-  }
 }
 
 }  // namespace algo::views::entry

@@ -13,6 +13,7 @@
 #include "model/algos.h"
 #include "model/order_types.h"
 #include "views/entry/entry_form.h"
+#include "views/entry/frame_purpose.h"
 
 namespace algo::views::entry {
 
@@ -33,13 +34,17 @@ class TPickLists {
   };
 
   /// The form outlives the lists.
-  TPickLists(TEntryForm& form, THandlers handlers);
+  TPickLists(TEntryForm& form, TOwnType ownType, THandlers handlers);
 
   /// Lists the configured exchanges; the chosen one stays chosen where it still is one.
   void InitExchangeList();
 
   /// Lists what the exchange at that index offers. Throws what the host throws, with both lists as they were.
   void InitializeOrderType(std::int32_t exchangeIndex);
+
+  /// The two steps of it: reading, which may fail and changes nothing then, and showing what was read.
+  void ReadOffers(std::int32_t exchangeIndex);
+  void ShowOffers();
 
   /// Both of these, as one refill.
   void RefillOrderLists();
@@ -62,13 +67,17 @@ class TPickLists {
   /// Chooses that algorithm; none when it is not offered.
   void SelectAlgo(std::string_view code);
 
+  /// Takes the choice of an algorithm back, silently, as if it had never been made.
+  void ChooseNothing();
+
   /// Has no algorithm chosen from now on, not even by a refill, until AlgoMayStandIn or a choice.
   void SelectNoAlgo();
 
   /// Has a refill choose the first algorithm again where none was chosen before.
   void LetAlgoStandIn() { FAlgoMayStandIn = true; }
 
-  /// Chooses the host order type of that resource id; the first one when it is not offered.
+  /// Chooses the host order type of that resource id; the first one when it is not offered. Where the form
+  /// shows an order it is offered in any case, until the next call.
   void SelectOrderType(std::string_view id);
 
   TChosen Chosen() const;
@@ -107,6 +116,7 @@ class TPickLists {
 
   static TOffer AlgosOf(const std::string& exchange);
   static TOffer OrderTypesOf(const std::string& exchange);
+  void ShowOrderTypes(const std::string& chosen);
   std::int32_t IndexOfAlgo(std::string_view code) const;
   std::string_view EntryAt(TField combo, std::int32_t index) const;
   void FillChoices(const model::TParamRow& param, std::int32_t index);
@@ -118,6 +128,11 @@ class TPickLists {
   std::vector<std::string> FOrderTypeConstList;  ///< algorithm codes, parallel to cmbOrderType
   std::vector<std::string> FOrderTypeList;       ///< host order type resource ids, parallel to cmbMType
   TChosen FHandled;                              ///< the entries for which the change handlers ran last
+  TOffer FReadAlgos;                             ///< read and not shown yet
+  TOffer FReadTypes;
+  TOffer FOfferedTypes;    ///< what the exchange and the user's rights offer
+  std::string FOwnTypeId;  ///< the type of the order that is shown
+  TOwnType FOwnType;
   std::int32_t FRefillDepth = 0;
   bool FStylesListed = false;  ///< not before an algorithm that has styles was chosen
   bool FAlgoMayStandIn = true;

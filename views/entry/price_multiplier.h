@@ -13,11 +13,15 @@ namespace algo::views::entry {
 /// is no number counts as 1.
 std::optional<double> PriceMultiplier(const host::TMarketDataItem* item);
 
-/// The price to show for a price as the market has it.
-double PriceToShow(double raw, const host::TMarketDataItem* item);
+/// The multiplier by which a price can be divided; nothing for one that counts as 0 too.
+std::optional<double> PriceDivisor(const host::TMarketDataItem* item);
 
-/// The price to write into an order for a price as shown: divided by the multiplier, unless that is 0. Throws
-/// EConversionError when that gives no finite number.
-double PriceForOrder(double shown, const host::TMarketDataItem* item);
+/// The price to show for a price as the market has it, to 15 digits: more are noise of the multiplication.
+double PriceToShow(double raw, std::optional<double> multiplier);
+
+/// The price to write into an order for a price as shown. Rounded to 15 digits where the rounded one shows as
+/// the same price, so that 7.85 comes back from what it was shown as. Throws EConversionError when it is not
+/// finite.
+double PriceForOrder(double shown, std::optional<double> divisor);
 
 }  // namespace algo::views::entry

@@ -72,7 +72,8 @@ std::optional<model::TRuleFailure> TAlgoOrderEntryFrame::CheckAlgoFields() const
 
 void TAlgoOrderEntryFrame::FillCommonFields(host::TCustomClientOrder& order) const {
   // The price first: it is the one that may fail, and a failure leaves the order untouched.
-  const double price = PriceForOrder(Spin(TField::edtPrice).Value().value_or(0), FSymbol.Item());
+  const double price =
+      PriceForOrder(Spin(TField::edtPrice).Value().value_or(0), PriceDivisor(FSymbol.Item()));
   order.account = FCurrentAccount;
   order.symbol = Edit(TField::edtSymbol).Hint();
   const std::string_view exchange = FLists.ChosenEntry(TField::cmbExch);

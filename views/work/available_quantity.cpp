@@ -22,10 +22,9 @@ bool IsChildOf(const host::TCustomOrder& order, const host::TCustomOrder& parent
          order.orderNo != parent.orderNo;
 }
 
-double UsedByChildren(const host::TCustomOrder& parent) {
+double UsedByChildren(const host::TCustomOrder& parent, std::size_t count) {
   auto& store = host::TCustomOrderAdapter::GetInstance();
   double used = 0;
-  const std::size_t count = store.OrderCount();
   for (std::size_t i = 0; i < count; ++i) {
     const host::TCustomOrder* order = store.OrderAt(i);
     if (order == nullptr || !IsChildOf(*order, parent)) continue;
@@ -38,8 +37,9 @@ double UsedByChildren(const host::TCustomOrder& parent) {
 
 double GetWorkParentOrderAvailableQty(const host::TCustomOrder* parent) {
   if (parent == nullptr) return 0;
+  const std::size_t count = host::TCustomOrderAdapter::GetInstance().OrderCount();
   const bool workParent = (parent->flags & host::WorkParentMark) != 0;
-  const double used = workParent ? UsedByChildren(*parent) : parent->filled + parent->committed;
+  const double used = workParent ? UsedByChildren(*parent, count) : parent->filled + parent->committed;
   return std::max(parent->quantity - used, 0.0);
 }
 

@@ -1,5 +1,6 @@
 // The controls that the work order form adds, their captions and settings.
 
+#include <algorithm>
 #include <utility>
 
 #include "forms/dialog_form.h"
@@ -99,8 +100,9 @@ bool TAlgoWorkOrderFrame::SetLanguage(std::int32_t language) {
 void TAlgoWorkOrderFrame::SetWorkCaptions() {
   tedtOrderNum->Item()->SetCaption(GetResource("Res_OrderNo"));
   cbSide->Item()->SetCaption(GetResource("Res_Side"));
-  const bool selling = FMyOrder != nullptr && FMyOrder->side != host::SideBuy;
-  cbSide->Refill({GetResource("Res_AMSPrice_Buy"), GetResource("Res_AMSPrice_Sell")}, selling ? 1 : 0);
+  // The side of a parent that is shown stays; a new form shows the first one.
+  cbSide->Refill({GetResource("Res_AMSPrice_Buy"), GetResource("Res_AMSPrice_Sell")},
+                 std::max(cbSide->Index(), 0));
   Check(TField::cbLockPrice).SetCaption(GetResource("Res_OrderPrice"));
   sedtAvaliQty->Item()->SetCaption(GetResource("Res_AvailableQty"));
   sedtPecentage->Item()->SetCaption(GetResource("Res_Percentage"));

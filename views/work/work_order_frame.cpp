@@ -88,9 +88,10 @@ void TAlgoWorkOrderFrame::btnSubmitClick() {
 }
 
 void TAlgoWorkOrderFrame::UpdateOrder() {
-  // The text first: it is the one that may fail, and a failure leaves the order untouched.
+  // The identity is asked first; it is written with the rest, when the text, which may fail too, is there.
+  std::string user = host::TCustomUserAppProfile::GetInstance().UserIdentity();
   SetOrderAlgo(*FMyOrder);
-  FMyOrder->user = host::TCustomUserAppProfile::GetInstance().UserIdentity();
+  FMyOrder->user = std::move(user);
   FMyOrder->price = GetSpinEditValue(&Spin(TField::edtPrice));
   FMyOrder->quantity = GetSpinEditValue(&Spin(TField::edtQty));
   SetOrderType(*FMyOrder);
@@ -99,12 +100,13 @@ void TAlgoWorkOrderFrame::UpdateOrder() {
 
 void TAlgoWorkOrderFrame::btnClearClick() {
   const TFlagScope updating(FIsUpdating);
-  // The type first, because choosing one may fill the price. Whether there is a price to set was settled by
-  // the parent.
-  const bool priceMayBeSet = Control(TField::edtPrice).Enabled();
+  // The type first, because choosing one may fill the price; it also says whether there is a price to set.
+  // The box holds the price to the parent's here, so it does not lock it.
   Combo(TField::cmbMType).SelectFirst();
-  Control(TField::edtPrice).SetEnabled(priceMayBeSet);
-  Control(TField::cbLockPrice).SetEnabled(priceMayBeSet);
+  if (const model::TOrderTypeRow* type = Lists().ChosenOrderType()) {
+    Control(TField::edtPrice).SetEnabled(type->keepsPrice);
+    Control(TField::cbLockPrice).SetEnabled(type->keepsPrice);
+  }
   for (forms::TSpinEdit* editor : {&Spin(TField::edtQty), sedtPecentage, &Spin(TField::edtPrice)}) {
     editor->SetValue(std::nullopt);
   }

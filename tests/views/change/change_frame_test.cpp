@@ -111,12 +111,12 @@ TEST_F(ChangeFrame, OpensThePriceByTheOrdersFlags) {
   }
 }
 
-TEST_F(ChangeFrame, KeepsThePriceClosedWhereTheTypeShownInsteadWouldOpenIt) {
+TEST_F(ChangeFrame, KeepsThePriceOfATypeThatIsNotOfferedClosed) {
   Data().rights.erase("OEMarketOrder");
   TCustomClientOrder order = OrderWith("TMLO:AlgoId=CLOSE;");
   order.orderTypeFlags = 1;
   Change(order, [&](forms::TDialogForm&, TChangeFrame& frame) {
-    EXPECT_EQ(Combo(frame, "cmbMType").Text(), "Res_OrderType_Limit");
+    EXPECT_EQ(Combo(frame, "cmbMType").Text(), "Res_OrderType_Market");
     EXPECT_FALSE(Named(frame, "edtPrice").Enabled());
   });
 }

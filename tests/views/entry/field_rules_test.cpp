@@ -119,21 +119,22 @@ TEST_F(FieldRules, LetAMinusInOnlyWhereNumbersBelowZeroMayBe) {
   }
 }
 
-TEST_F(FieldRules, PassOverLettersAndTakeCommasAsSeparatorsWithoutMeaning) {
-  for (const TEditorRow& row : Rows) EXPECT_EQ(Typed(row.name, "x1 e,2+"), 12) << row.name;
+TEST_F(FieldRules, PassOverLettersAndTakeCommasBetweenGroupsOfThreeDigits) {
+  for (const TEditorRow& row : Rows) {
+    EXPECT_EQ(Typed(row.name, "x1 e2+"), 12) << row.name;
+    EXPECT_EQ(Typed(row.name, "1,234"), 1234) << row.name;
+    // No number, so what stood there comes back.
+    Spin(FFrame, row.name).SetValue(7);
+    EXPECT_EQ(Typed(row.name, "60,5"), 7) << row.name;
+  }
 }
 
-TEST_F(FieldRules, BendWhatIsTypedToTheNearerBound) {
-  for (const TEditorRow& row : Rows) {
-    if (!row.max) {
-      EXPECT_EQ(Typed(row.name, "987654321"), 987654321) << row.name;
-      continue;
-    }
-    // The bound itself stands for a parameter that is not given.
-    EXPECT_EQ(Typed(row.name, "987654321"), No) << row.name;
-  }
+TEST_F(FieldRules, LeaveWhatIsTypedBeyondABoundToBeSeenAndRefused) {
+  for (const TEditorRow& row : Rows) EXPECT_EQ(Typed(row.name, "987654321"), 987654321) << row.name;
   Spin(FFrame, "edtMaxVolPct").SetMax(75);
   EXPECT_EQ(Typed("edtMaxVolPct", "74"), 74);
+  EXPECT_EQ(Typed("edtMaxVolPct", "76"), 76);
+  EXPECT_EQ(Typed("edtMaxVolPct", "75"), No) << "the bound itself stands for a parameter that is not given";
 }
 
 TEST_F(FieldRules, EmptyAnEditorWhoseTextIsDeleted) {
@@ -241,8 +242,8 @@ TEST_F(FieldRules, LetTheDateEditsHoldADateAndATime) {
     EXPECT_EQ(typed("2024-01-15 14:05:09"), "2024-01-15 14:05:09") << name;
     EXPECT_EQ(typed("2024-02-29"), "2024-02-29 00:00:00") << name;
     EXPECT_EQ(typed("2023-02-29 10:00:00"), "2024-02-29 00:00:00") << name;
-    EXPECT_EQ(typed("10:00:00"), "2024-02-29 00:00:00") << name;
-    EXPECT_EQ(typed("0"), "2024-02-29 00:00:00") << name;
+    EXPECT_EQ(typed("10:00:00"), "2024-01-15 10:00:00") << name;
+    EXPECT_EQ(typed("0"), "2024-01-15 10:00:00") << name;
     EXPECT_EQ(typed(""), "") << name;
   }
 }

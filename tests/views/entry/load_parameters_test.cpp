@@ -98,10 +98,16 @@ TEST_F(LoadParameters, ReadsTimesInTheirCompactForm) {
   EXPECT_EQ(DateText(frame, "deETime"), "2024-12-31 23:59:59");
 }
 
+TEST_F(LoadParameters, ReadsALoneDateAndABlankBeforeTheTime) {
+  auto& frame = OpenFilled();
+  Load(frame, "TVOL", {"STime=20240115", "ETime=20240115 15:00:00"});
+  EXPECT_EQ(DateText(frame, "deSTime"), "2024-01-15 00:00:00");
+  EXPECT_EQ(DateText(frame, "deETime"), "2024-01-15 15:00:00");
+}
+
 TEST_F(LoadParameters, EndsAtATimeThatCannotBeRead) {
   auto& frame = OpenFilled();
-  for (const char* time :
-       {"x", "20240230-09:30:00", "20240115-25:00:00", "20240115", "2024-01-15 09:30:00"}) {
+  for (const char* time : {"x", "20240230-09:30:00", "20240115-25:00:00", "2024011", "2024-01-15 09:30:00"}) {
     ChooseAlgo(frame, "TVOL");
     Load(frame, "TVOL", {"STime=20240115-09:30:00", "VolPct=10"});
     EXPECT_THROW(Load(frame, "TVOL", {"VolPct=20", "STime=" + std::string(time)}), EConversionError) << time;

@@ -173,11 +173,22 @@ TEST_F(CommonRules, KeepTheFocusWhereItWas) {
   EXPECT_EQ(frame.Focused(), &Named(frame, "btnSubmit"));
 }
 
-TEST_F(CommonRules, LetWhatIsTypedBeyondABoundCountAsNotGiven) {
-  // A percentage typed at or beyond its bounds is emptied on leaving, so that no rule sees it.
+TEST_F(CommonRules, RefuseWhatIsTypedBeyondABoundInsteadOfSendingNoLimit) {
   auto& frame = OpenFilled();
   ChooseAlgo(frame, "TVOL");
-  for (const char* typed : {"0", "80", "99", "79"}) {
+  for (const char* typed : {"80.5", "99", "101", "800"}) {
+    Type(frame, "edtVolPct", typed);
+    EXPECT_EQ(Submit(frame), TTexts{"message Res_VolumePctFalse"}) << typed;
+    EXPECT_FALSE(Sent()) << typed;
+    EXPECT_EQ(Named(frame, "edtVolPct").Text(), typed) << "the slip stays to be seen";
+  }
+}
+
+TEST_F(CommonRules, LetWhatIsTypedAtABoundCountAsNotGiven) {
+  // A percentage typed at its bounds is emptied on leaving, so that no rule sees it.
+  auto& frame = OpenFilled();
+  ChooseAlgo(frame, "TVOL");
+  for (const char* typed : {"0", "80", "79"}) {
     Type(frame, "edtVolPct", typed);
     EXPECT_EQ(Submit(frame), TTexts{}) << typed;
     EXPECT_EQ(TakenOrder().TextProperty(440), typed == std::string("79")

@@ -132,12 +132,14 @@ TEST_F(VisibilityTest, ANewFormShowsTheFirstAlgorithmOfTheExchange) {
   }
 }
 
-TEST_F(VisibilityTest, WithoutAnAlgorithmNoAlgorithmGroupShows) {
+TEST_F(VisibilityTest, AnExchangeWithoutAlgorithmsLeavesTheAlgoAreaAsItIs) {
   auto& frame = Open();
   Data().lists.erase("ALGO/ALGOType/US");
+  Forget();
   Pick(frame, "cmbExch", "US");
   EXPECT_EQ(Combo(frame, "cmbOrderType").Index(), -1);
-  ExpectShown(frame, {"no algorithm", {}, {}}, "TVOL");
+  ExpectShown(frame, ShownRows[0], "TVOL");
+  EXPECT_TRUE(Seen("view_notify").empty());
 
   Pick(frame, "cmbExch", "HK");
   ExpectShown(frame, ShownRows[0], "no algorithm");

@@ -179,12 +179,12 @@ TEST_F(WorkEntry, ClearsThreeEditorsAndStaysOpen) {
   });
 }
 
-TEST_F(WorkEntry, ClearsWithoutAnyOrderTypeToSelect) {
+TEST_F(WorkEntry, ClearsToTheParentsTypeWhereNoneIsOffered) {
   Data().lists["ALGO/OrderType/HK"] = {};
   TCustomClientOrder parent = ParentOrder();
   Work(parent, [&](forms::TDialogForm&, TChangeFrame& frame) {
     Click(frame, "btnClear");
-    EXPECT_EQ(Combo(frame, "cmbMType").Index(), -1);
+    EXPECT_EQ(Combo(frame, "cmbMType").Text(), "Res_OrderType_Limit");
     EXPECT_EQ(Named(frame, "edtQty").Text(), "");
   });
   EXPECT_TRUE(Told().empty());
