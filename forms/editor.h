@@ -32,12 +32,12 @@ class ALGO_SHARED TEditor : public TControl {
   void MoveCaretToEnd();
   /// The selected text, empty when nothing is.
   std::string SelectedText() const;
+  /// What would be taken of a text that is put in as a whole; AcceptsText says of that whether it is taken.
+  virtual std::string Pasted(std::string_view text) const { return Normalized(text); }
 
  protected:
   /// The text with the characters that the editor keeps in place of others that mean the same.
   virtual std::string Normalized(std::string_view text) const { return std::string(text); }
-  /// What is taken of a text that is put in as a whole.
-  virtual std::string Pasted(std::string_view text) const { return Normalized(text); }
   /// Whether `key` may stand behind `typed`.
   virtual bool Accepts(std::string_view typed, char key) const = 0;
   /// Takes `typed` as what stands in the editor while the trader is typing.

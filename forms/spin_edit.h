@@ -64,12 +64,13 @@ class ALGO_SHARED TSpinEdit : public TEditor {
   const TNumberFormat& Format() const { return FFormat; }
   void SetFormat(const TNumberFormat& format);
 
+  std::string Pasted(std::string_view text) const override;
+
  protected:
   bool Accepts(std::string_view typed, char key) const override;
   void SetTyped(std::string typed) override;
   void TakeUp() override;
   std::string Normalized(std::string_view text) const override;
-  std::string Pasted(std::string_view text) const override;
 
  private:
   friend class TFrame;

@@ -70,8 +70,8 @@ class THideScope {
 template <class TFrame>
 std::optional<bool> Ask(const TQuestion<TFrame>& question, const std::shared_ptr<TKeptDialog<TFrame>>& kept,
                         host::TCustomClientOrder& order) {
-  // Held here, because the provider may go meanwhile.
-  const auto dialog = kept;
+  // Held here, because the provider, and with it the kept one, may go meanwhile.
+  const auto dialog = kept;  // NOLINT(performance-unnecessary-copy-initialization)
   const auto form = dialog->form;
   const auto frame = dialog->frame;
   if (dialog->busy || form->Showing()) return std::nullopt;

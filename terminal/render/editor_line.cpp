@@ -2,6 +2,7 @@
 
 #include <QPointer>
 #include <QValidator>
+#include <algorithm>
 
 namespace algo::terminal::render {
 
@@ -12,8 +13,18 @@ class TAcceptedText final : public QValidator {
   TAcceptedText(const forms::TEditor& editor, const TFrameInput& input, QObject* parent)
       : QValidator(parent), FEditor(editor), FInput(input) {}
 
-  State validate(QString& text, int& /*position*/) const override {
-    return FInput.Frame() && FEditor.AcceptsText(FromQt(text)) ? Acceptable : Invalid;
+  State validate(QString& text, int& position) const override {
+    if (!FInput.Frame()) return Invalid;
+    const std::string put = FromQt(text);
+    const std::string taken = FEditor.Pasted(put);
+    if (!FEditor.AcceptsText(taken)) return Invalid;
+    // A text that is pasted, dropped or typed reaches the line alike; what the editor leaves out of it must
+    // not stand there.
+    if (taken != put) {
+      text = ToQt(taken);
+      position = std::min(position, static_cast<int>(text.size()));
+    }
+    return Acceptable;
   }
 
  private:

@@ -2,6 +2,7 @@
 
 #include <QAbstractItemView>
 #include <QApplication>
+#include <QClipboard>
 #include <QComboBox>
 #include <QStyle>
 #include <QStyleOptionButton>
@@ -38,24 +39,36 @@ TInputResult TakesChange(const forms::TFrame& frame, const forms::TControl& cont
 
 }  // namespace
 
-TInputResult TWidgetInputPlayer::Type(const TFramePointer& frame, forms::TControl& control,
-                                      std::string_view text) {
+template <class TAct>
+TInputResult TWidgetInputPlayer::Replace(const TFramePointer& frame, forms::TControl& control, TAct&& act) {
   if (dynamic_cast<forms::TEditor*>(&control) == nullptr) return TInputResult::Unsuited;
   if (const auto result = TakesChange(*frame, control); result != TInputResult::Taken) return result;
   QWidget& input = InputOf(FWindows.ViewOf(frame), control);
   input.setFocus(Qt::TabFocusReason);
   if (const auto result = TakesChange(*frame, control); result != TInputResult::Taken) return result;
   QTest::keyClick(&input, Qt::Key_A, Qt::ControlModifier);
-  if (text.empty()) {
-    QTest::keyClick(&input, Qt::Key_Delete);
-    return TInputResult::Taken;
-  }
-  for (const QChar key : render::ToQt(text)) {
-    // Control characters are not text, and some of them are keys that do other things.
-    if (key.category() == QChar::Other_Control) continue;
-    QTest::sendKeyEvent(QTest::Click, &input, Qt::Key_unknown, QString(key), Qt::NoModifier);
-  }
+  act(input);
   return TInputResult::Taken;
+}
+
+TInputResult TWidgetInputPlayer::Type(const TFramePointer& frame, forms::TControl& control,
+                                      std::string_view text) {
+  return Replace(frame, control, [text](QWidget& input) {
+    if (text.empty()) QTest::keyClick(&input, Qt::Key_Delete);
+    for (const QChar key : render::ToQt(text)) {
+      // Control characters are not text, and some of them are keys that do other things.
+      if (key.category() == QChar::Other_Control) continue;
+      QTest::sendKeyEvent(QTest::Click, &input, Qt::Key_unknown, QString(key), Qt::NoModifier);
+    }
+  });
+}
+
+TInputResult TWidgetInputPlayer::Paste(const TFramePointer& frame, forms::TControl& control,
+                                       std::string_view text) {
+  return Replace(frame, control, [text](QWidget& input) {
+    QGuiApplication::clipboard()->setText(render::ToQt(text));
+    QTest::keyClick(&input, Qt::Key_V, Qt::ControlModifier);
+  });
 }
 
 TInputResult TWidgetInputPlayer::Enter(const TFramePointer& frame, forms::TControl& control) {

@@ -15,6 +15,8 @@ class TWidgetInputPlayer final : public drive::TInputPlayer {
 
   forms::TInputResult Type(const TFramePointer& frame, forms::TControl& control,
                            std::string_view text) override;
+  forms::TInputResult Paste(const TFramePointer& frame, forms::TControl& control,
+                            std::string_view text) override;
   forms::TInputResult Enter(const TFramePointer& frame, forms::TControl& control) override;
   forms::TInputResult Click(const TFramePointer& frame, forms::TControl& control) override;
   forms::TInputResult Pick(const TFramePointer& frame, forms::TControl& control, std::int32_t index) override;
@@ -24,6 +26,10 @@ class TWidgetInputPlayer final : public drive::TInputPlayer {
   void Settle() override;
 
  private:
+  /// Selects the whole text of the editor's line and lets the act put in another.
+  template <class TAct>
+  forms::TInputResult Replace(const TFramePointer& frame, forms::TControl& control, TAct&& act);
+
   TScriptWindows& FWindows;
 };
 
