@@ -15,11 +15,11 @@ struct TRange {
   std::string_view code;
   TParam param;
   std::string_view key;
-  double low;
-  std::optional<double> high;
+  int low;
+  std::optional<int> high;
 };
 
-constexpr std::optional<double> Open = std::nullopt;
+constexpr std::optional<int> Open = std::nullopt;
 
 const TRange AllRanges[] = {
     {"TVOL", TParam::VolPct, "VolPct", 0, 80},
@@ -69,18 +69,11 @@ const TRange AllRanges[] = {
     {"SNIPER", TParam::ServePct, "ServePct", 0, 100},
 };
 
-// The text of the number alone, for the few numbers that the ranges need.
-std::string HalfBehind(double bound) {
-  if (bound == 0) return "0.5";
-  if (bound == -100) return "-99.5";
-  return bound == -500 ? "-499.5" : "?";
+// The text of the number half a step inside a whole bound.
+std::string HalfBehind(int bound) {
+  return bound < 0 ? std::to_string(bound + 1) + ".5" : std::to_string(bound) + ".5";
 }
-std::string HalfBefore(double bound) {
-  if (bound == 75) return "74.5";
-  if (bound == 80) return "79.5";
-  if (bound == 100) return "99.5";
-  return bound == 500 ? "499.5" : "?";
-}
+std::string HalfBefore(int bound) { return std::to_string(bound - 1) + ".5"; }
 
 TEST(ComposedRanges, HoldANumberStrictlyInsideAlone) {
   for (const TRange& range : AllRanges) {

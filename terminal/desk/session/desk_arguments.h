@@ -8,7 +8,7 @@
 
 #include "terminal/desk/session/desk_options.h"
 
-namespace CLI {
+namespace CLI {  // NOLINT(readability-identifier-naming): the library's own name
 class App;
 }
 

@@ -140,7 +140,7 @@ TEST_F(StubbornHostTest, AHandlerIsCalledAsLongAsTheObjectToWhichItsRegistration
 TEST_F(StubbornHostTest, AnOwnerThatIsGoneIsNotCalledByAHostThatFailedAtTakingItsHandlerBack) {
   struct TOwnerOfOne {
     explicit TOwnerOfOne(std::vector<std::string>& log)
-        : registration(ListenToSkins([&log](std::string_view skin) { log.emplace_back(skin); }, this)) {}
+        : registration(ListenToSkins([&log](std::string_view skin) { log.emplace_back(skin); }, &log)) {}
     TRegistration registration;
   };
   skins->fails = true;

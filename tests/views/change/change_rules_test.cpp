@@ -1,6 +1,8 @@
 // The check of a changed order: every rule of the algorithms' fields, and none of the rules about the order's
 // identity.
 
+#include <cstdint>
+
 #include "tests/views/order_dialogs.h"
 #include "text/errors.h"
 
@@ -248,11 +250,11 @@ TEST_F(ChangeRules, FailAtTheAlgorithmJustBehindTheListAndPassThoseBeyond) {
   Change(order, [&](forms::TDialogForm&, TChangeFrame& frame) {
     auto& algos = Combo(frame, "cmbOrderType");
     std::vector<std::string> items = algos.Items();
-    ASSERT_EQ(items.size(), 12U);
+    const auto behind = static_cast<std::int32_t>(items.size());
     items.insert(items.end(), {"behind", "beyond"});
-    algos.Refill(items, 12);
+    algos.Refill(items, behind);
     EXPECT_THROW(frame.CheckOrderValid(), EListIndexError);
-    algos.Refill(items, 13);
+    algos.Refill(items, behind + 1);
     EXPECT_TRUE(frame.CheckOrderValid());
     algos.Refill(items, -1);
     EXPECT_TRUE(frame.CheckOrderValid());

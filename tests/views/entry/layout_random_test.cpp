@@ -147,7 +147,7 @@ bool IsQuantity(string_view number) {
   return number.size() < largest.size() || (number.size() == largest.size() && number <= largest);
 }
 
-constexpr std::array<string_view, 52> Keys{
+constexpr auto Keys = std::to_array<string_view>({
     "Account",    "Account-Lock", "Symbol",  "Symbol-Lock",    "Quantity",   "Quantity-Lock", "Price",
     "Price-Lock", "OrderType",    "Type",    "OrderType-Lock", "Exchange",   "Exchange-Lock", "Popup",
     "Clear",      "Style",        "AccuVol", "Opening",        "Closing",    "CloseSim",      "Func",
@@ -156,7 +156,7 @@ constexpr std::array<string_view, 52> Keys{
     "DiffPct",    "MaxShowQty",   "RandPct", "ReloadPct",      "VolPct",     "MaxVolPct",     "MinOrdAmt",
     "WPx",        "ThrPx1",       "ThrPx2",  "ThrVolPct1",     "ThrVolPct2", "Waves",         "OpenPct",
     "ClosePct",   "StopLossPx",   "StopQty",
-};
+});
 
 std::string WriteItems(const TItems& items) {
   std::string line;
