@@ -27,8 +27,7 @@ forms::TSize TQtToolkit::MeasureText(std::string_view text, const forms::TFont& 
 
 std::chrono::local_days TQtToolkit::Today() const {
   const QDate today = QDate::currentDate();
-  return std::chrono::local_days{std::chrono::year(today.year()) / static_cast<unsigned>(today.month()) /
-                                 static_cast<unsigned>(today.day())};
+  return std::chrono::local_days{std::chrono::year(today.year()) / today.month() / today.day()};
 }
 
 }  // namespace algo::terminal::render
