@@ -1,5 +1,7 @@
 // What follows from a choice of exchange, algorithm or host order type, and what the form is emptied to.
 
+#include <string>
+
 #include "model/order_types.h"
 #include "plugin/host_contract/user_app_profile.h"
 #include "plugin/host_contract/view_functions.h"
@@ -27,6 +29,7 @@ void TAlgoOrderEntryFrame::cmbExchChange() {
   const std::int32_t index = Combo(TField::cmbExch).Index();
   if (index < 0) return;
   FLists.ExchangeHandled();
+  const std::string exchange = FLists.Chosen().exchange;
   Check(TField::cbLockMOrder).SetChecked(false);
   Check(TField::cbLockOrderType).SetChecked(false);
   try {
@@ -37,7 +40,8 @@ void TAlgoOrderEntryFrame::cmbExchChange() {
     ResetView();
     throw;
   }
-  FLists.ShowOffers();
+  // A host that chose another exchange while it was asked has that one's offers shown already.
+  if (FLists.Chosen().exchange == exchange) FLists.ShowOffers();
 }
 
 void TAlgoOrderEntryFrame::cmbOrderTypeChange() {

@@ -84,8 +84,10 @@ void TPickLists::InitExchangeList() {
 }
 
 void TPickLists::InitializeOrderType(std::int32_t exchangeIndex) {
+  const std::string exchange = Chosen().exchange;
   ReadOffers(exchangeIndex);
-  ShowOffers();
+  // A host that chose another exchange while it was asked has that one's offers shown already.
+  if (Chosen().exchange == exchange) ShowOffers();
 }
 
 void TPickLists::ReadOffers(std::int32_t exchangeIndex) {
