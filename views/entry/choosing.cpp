@@ -1,6 +1,6 @@
 // What follows from a choice of exchange, algorithm or host order type, and what the form is emptied to.
 
-#include <string>
+#include <utility>
 
 #include "model/order_types.h"
 #include "plugin/host_contract/user_app_profile.h"
@@ -29,19 +29,18 @@ void TAlgoOrderEntryFrame::cmbExchChange() {
   const std::int32_t index = Combo(TField::cmbExch).Index();
   if (index < 0) return;
   FLists.ExchangeHandled();
-  const std::string exchange = FLists.Chosen().exchange;
   Check(TField::cbLockMOrder).SetChecked(false);
   Check(TField::cbLockOrderType).SetChecked(false);
+  TPickLists::TOffers offers;
   try {
-    FLists.ReadOffers(index);
+    offers = FLists.OffersAt(index);
   } catch (...) {
     // Better nothing to choose from than what another exchange offers.
     FLists.OfferNothing();
     ResetView();
     throw;
   }
-  // A host that chose another exchange while it was asked has that one's offers shown already.
-  if (FLists.Chosen().exchange == exchange) FLists.ShowOffers();
+  FLists.ShowOffers(std::move(offers));
 }
 
 void TAlgoOrderEntryFrame::cmbOrderTypeChange() {

@@ -65,9 +65,6 @@ class TPickLists::TRefill {
 void TPickLists::InitExchangeList() {
   TRefill refill(*this);
   auto& combo = FForm.Combo(TField::cmbExch);
-  std::string remembered = Chosen().exchange;
-  if (remembered.empty()) remembered = combo.Text();
-
   std::vector<std::string> codes = ConfiguredList("ALGO/Exchange");
   std::erase(codes, std::string());
   std::vector<std::string> items;
@@ -77,55 +74,56 @@ void TPickLists::InitExchangeList() {
     items.push_back(code);
     if (!name.empty()) items.back().append("(").append(name).append(")");
   }
+  // Looked at after the host was asked, which may have chosen another one meanwhile.
+  std::string remembered = Chosen().exchange;
+  if (remembered.empty()) remembered = combo.Text();
   const std::int32_t index = IndexOfExchange(codes, remembered);
   FAlgoExchList = std::move(codes);
   combo.Refill(std::move(items), index);
   refill.NotifyChanges();
 }
 
-void TPickLists::InitializeOrderType(std::int32_t exchangeIndex) {
-  const std::string exchange = Chosen().exchange;
-  ReadOffers(exchangeIndex);
-  // A host that chose another exchange while it was asked has that one's offers shown already.
-  if (Chosen().exchange == exchange) ShowOffers();
+void TPickLists::InitializeOrderType(std::int32_t exchangeIndex) { ShowOffers(OffersAt(exchangeIndex)); }
+
+auto TPickLists::OffersAt(std::int32_t exchangeIndex) const -> TOffers {
+  TOffers offers{
+      .exchange = std::string(EntryAt(TField::cmbExch, exchangeIndex)), .algos = {}, .orderTypes = {}};
+  // Both are complete before either is shown: a host that fails half-way must not leave a combo box whose
+  // items stand for other entries.
+  offers.algos = AlgosOf(offers.exchange);
+  offers.orderTypes = OrderTypesOf(offers.exchange);
+  return offers;
 }
 
-void TPickLists::ReadOffers(std::int32_t exchangeIndex) {
-  const bool known = exchangeIndex >= 0 && exchangeIndex < std::ssize(FAlgoExchList);
-  const std::string exchange = known ? FAlgoExchList[static_cast<std::size_t>(exchangeIndex)] : std::string();
-  // Both lists are complete before either is shown: a host that fails half-way must not leave a combo box
-  // whose items stand for other entries.
-  TOffer algos = AlgosOf(exchange);
-  FReadTypes = OrderTypesOf(exchange);
-  FReadAlgos = std::move(algos);
-}
-
-void TPickLists::ShowOffers() {
-  TRefill refill(*this);
+void TPickLists::ShowOffers(TOffers offers) {
   const TChosen remembered = Chosen();
-  TOffer algos = std::exchange(FReadAlgos, {});
-  FAlgoTypeList = std::move(algos.ids);
-  FOrderTypeConstList = std::move(algos.codes);
-  FOfferedTypes = std::exchange(FReadTypes, {});
+  if (remembered.exchange != offers.exchange) return;
+  TRefill refill(*this);
+  FAlgoTypeList = std::move(offers.algos.ids);
+  FOrderTypeConstList = std::move(offers.algos.codes);
+  FOfferedTypes = std::move(offers.orderTypes);
   const bool noneStays = remembered.algoType.empty() && !FAlgoMayStandIn;
   FForm.Combo(TField::cmbOrderType)
-      .Refill(std::move(algos.texts), noneStays ? -1 : IndexOrFirst(FAlgoTypeList, remembered.algoType));
+      .Refill(std::move(offers.algos.texts),
+              noneStays ? -1 : IndexOrFirst(FAlgoTypeList, remembered.algoType));
   ShowOrderTypes(remembered.orderType);
   refill.NotifyChanges();
 }
 
 void TPickLists::ShowOrderTypes(const std::string& chosen) {
+  const std::string ownId = FOwnTypeId;
+  std::string ownText = ownId.empty() ? std::string() : host::ResourceText(ownId);
   TOffer shown = FOfferedTypes;
-  const auto own = std::find(shown.ids.begin(), shown.ids.end(), FOwnTypeId);
+  const auto own = std::find(shown.ids.begin(), shown.ids.end(), ownId);
   const bool offered = own != shown.ids.end();
-  if (!FOwnTypeId.empty() && (!offered || FOwnType == TOwnType::First)) {
+  if (!ownId.empty() && (!offered || FOwnType == TOwnType::First)) {
     if (offered) {
       shown.texts.erase(shown.texts.begin() + (own - shown.ids.begin()));
       shown.ids.erase(own);
     }
     const bool first = FOwnType == TOwnType::First;
-    shown.ids.insert(first ? shown.ids.begin() : shown.ids.end(), FOwnTypeId);
-    shown.texts.insert(first ? shown.texts.begin() : shown.texts.end(), host::ResourceText(FOwnTypeId));
+    shown.ids.insert(first ? shown.ids.begin() : shown.ids.end(), ownId);
+    shown.texts.insert(first ? shown.texts.begin() : shown.texts.end(), std::move(ownText));
   }
   FOrderTypeList = std::move(shown.ids);
   FForm.Combo(TField::cmbMType).Refill(std::move(shown.texts), IndexOrFirst(FOrderTypeList, chosen));

@@ -82,30 +82,33 @@ const model::TOrderTypeRow* TPickLists::ChosenOrderType() const {
   return model::FindOrderTypeById(Chosen().orderType);
 }
 
-void TPickLists::FillChoices(const model::TParamRow& param, std::int32_t index) {
+// The host is asked for all texts of a list first: it may choose something else, or have the list read anew,
+// while it is asked.
+
+void TPickLists::FillChoices(const model::TParamRow& param) {
   std::vector<std::string> items;
   items.reserve(param.choices.size());
   for (const model::TChoiceItem& item : param.choices) items.push_back(ItemText(item));
-  FForm.Combo(FieldOf(param.param)).Refill(std::move(items), index);
+  auto& combo = FForm.Combo(FieldOf(param.param));
+  const bool reset = param.reset == model::TReset::Refilled || combo.Index() < 0;
+  combo.Refill(std::move(items), reset ? ResetIndex(param) : combo.Index());
 }
 
 void TPickLists::FillPickLists() {
   for (const model::TParamRow& row : model::ParamRows()) {
-    if (row.kind != model::TValueKind::Choice || row.reset == model::TReset::Refilled) continue;
-    const std::int32_t index = FForm.Combo(FieldOf(row.param)).Index();
-    FillChoices(row, index < 0 ? ResetIndex(row) : index);
+    if (row.kind == model::TValueKind::Choice && row.reset != model::TReset::Refilled) FillChoices(row);
   }
-  std::vector<std::string> algos;
-  algos.reserve(FAlgoTypeList.size());
-  for (const std::string& id : FAlgoTypeList) algos.push_back(host::ResourceText(id));
+  const std::vector<std::string> ids = FAlgoTypeList;
+  std::vector<std::string> texts;
+  texts.reserve(ids.size());
+  for (const std::string& id : ids) texts.push_back(host::ResourceText(id));
   auto& combo = FForm.Combo(TField::cmbOrderType);
-  combo.Refill(std::move(algos), combo.Index());
+  if (ids == FAlgoTypeList) combo.Refill(std::move(texts), combo.Index());
 }
 
 void TPickLists::FillStyleList() {
-  const model::TParamRow& style = model::ParamRow(model::TParam::Style);
   FStylesListed = true;
-  FillChoices(style, ResetIndex(style));
+  FillChoices(model::ParamRow(model::TParam::Style));
 }
 
 std::int32_t TPickLists::IndexOfAlgo(std::string_view code) const {

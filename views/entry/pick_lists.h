@@ -26,6 +26,20 @@ class TPickLists {
     std::function<void()> orderTypeChanged;
   };
 
+  /// What a refill puts into a combo box and the lists beside it.
+  struct TOffer {
+    std::vector<std::string> ids;
+    std::vector<std::string> codes;
+    std::vector<std::string> texts;
+  };
+
+  /// What an exchange offers, complete before any of it is shown.
+  struct TOffers {
+    std::string exchange;
+    TOffer algos;
+    TOffer orderTypes;
+  };
+
   /// The chosen entries: exchange code and resource ids, each empty where none is chosen.
   struct TChosen {
     std::string exchange;
@@ -42,9 +56,11 @@ class TPickLists {
   /// Lists what the exchange at that index offers. Throws what the host throws, with both lists as they were.
   void InitializeOrderType(std::int32_t exchangeIndex);
 
-  /// The two steps of it: reading, which may fail and changes nothing then, and showing what was read.
-  void ReadOffers(std::int32_t exchangeIndex);
-  void ShowOffers();
+  /// The two steps of it: reading, which may fail, with no effect on the lists, and showing what was read.
+  TOffers OffersAt(std::int32_t exchangeIndex) const;
+  /// With no effect when another exchange is chosen by then: a host that chose it while it was asked has that
+  /// one's offers shown already.
+  void ShowOffers(TOffers offers);
 
   /// Both of these, as one refill.
   void RefillOrderLists();
@@ -70,7 +86,7 @@ class TPickLists {
   /// Takes the choice of an algorithm back, silently, as if it had never been made.
   void ChooseNothing();
 
-  /// Has no algorithm chosen from now on, not even by a refill, until AlgoMayStandIn or a choice.
+  /// Has no algorithm chosen from now on, not even by a refill, until LetAlgoStandIn or a choice.
   void SelectNoAlgo();
 
   /// Has a refill choose the first algorithm again where none was chosen before.
@@ -107,19 +123,12 @@ class TPickLists {
  private:
   class TRefill;
 
-  /// What a refill puts into a combo box and the lists beside it.
-  struct TOffer {
-    std::vector<std::string> ids;
-    std::vector<std::string> codes;
-    std::vector<std::string> texts;
-  };
-
   static TOffer AlgosOf(const std::string& exchange);
   static TOffer OrderTypesOf(const std::string& exchange);
   void ShowOrderTypes(const std::string& chosen);
   std::int32_t IndexOfAlgo(std::string_view code) const;
   std::string_view EntryAt(TField combo, std::int32_t index) const;
-  void FillChoices(const model::TParamRow& param, std::int32_t index);
+  void FillChoices(const model::TParamRow& param);
 
   TEntryForm& FForm;
   THandlers FHandlers;
@@ -128,10 +137,8 @@ class TPickLists {
   std::vector<std::string> FOrderTypeConstList;  ///< algorithm codes, parallel to cmbOrderType
   std::vector<std::string> FOrderTypeList;       ///< host order type resource ids, parallel to cmbMType
   TChosen FHandled;                              ///< the entries for which the change handlers ran last
-  TOffer FReadAlgos;                             ///< read and not shown yet
-  TOffer FReadTypes;
-  TOffer FOfferedTypes;    ///< what the exchange and the user's rights offer
-  std::string FOwnTypeId;  ///< the type of the order that is shown
+  TOffer FOfferedTypes;                          ///< what the exchange and the user's rights offer
+  std::string FOwnTypeId;                        ///< the type of the order that is shown
   TOwnType FOwnType;
   std::int32_t FRefillDepth = 0;
   bool FStylesListed = false;  ///< not before an algorithm that has styles was chosen
