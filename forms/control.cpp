@@ -41,6 +41,10 @@ void TControl::SetVisible(bool visible) {
 void TControl::SetEnabled(bool enabled) {
   if (FEnabled == enabled) return;
   FEnabled = enabled;
+  const auto alive = FFrame.KeepAlive();
+  // Left before it is drawn, so that no toolkit hands the focus on by itself.
+  FFrame.Layout().BeginUpdate();
+  FFrame.Layout().EndUpdate();
   AppearanceChanged();
 }
 

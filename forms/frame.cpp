@@ -33,6 +33,16 @@ void TFrame::SetFocus(TControl* control) {
   left->Commit();
 }
 
+void TFrame::LeaveUnfocusable() {
+  const auto alive = KeepAlive();
+  if (!alive || FFocused == nullptr || FFocused->CanFocus()) return;
+  try {
+    // An input of its own: an exit handler that fails must not stop what hid or disabled the control.
+    RunInput([this] { SetFocus(nullptr); });
+  } catch (...) {  // NOLINT(bugprone-empty-catch): a frame without a boundary has nobody to tell
+  }
+}
+
 void TFrame::AddObserver(TFrameObserver& observer) { FObservers.push_back(&observer); }
 
 void TFrame::RemoveObserver(TFrameObserver& observer) {

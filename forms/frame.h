@@ -119,6 +119,7 @@ class ALGO_SHARED TFrame : public std::enable_shared_from_this<TFrame> {
   friend class TLayoutControl;
   friend class TDialogForm;
 
+  void LeaveUnfocusable();
   void Press(TControl& control);
   void NotifyControlChanged(const TControl& control);
   void NotifyLayoutChanged();

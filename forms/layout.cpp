@@ -69,13 +69,17 @@ void TLayoutControl::BeginUpdate() { ++FUpdateDepth; }
 
 void TLayoutControl::EndUpdate() {
   assert(FUpdateDepth > 0);
-  --FUpdateDepth;
-  if (FUpdateDepth == 0 && FChangePending) Changed();
+  // Still inside the update, so that what the leaving changes is drawn along with the rest.
+  if (FUpdateDepth == 1 && FFrame != nullptr) FFrame->LeaveUnfocusable();
+  if (--FUpdateDepth > 0 || !std::exchange(FChangePending, false)) return;
+  if (FFrame != nullptr) FFrame->NotifyLayoutChanged();
 }
 
 void TLayoutControl::Changed() {
-  FChangePending = FUpdateDepth > 0;
-  if (!FChangePending && FFrame != nullptr) FFrame->NotifyLayoutChanged();
+  FChangePending = true;
+  if (FUpdateDepth > 0) return;
+  BeginUpdate();
+  EndUpdate();
 }
 
 }  // namespace algo::forms

@@ -58,6 +58,7 @@ class ALGO_SHARED TLayoutControl {
   TControl* NextInTabOrder(const TControl* control, TTabDirection direction) const;
 
   /// Between the two calls changes are gathered, so that a renderer is notified once, at the outermost end.
+  /// Before that, a control that has the focus and can take it no longer is left, and nothing has it then.
   void BeginUpdate();
   void EndUpdate();
 

@@ -5,6 +5,7 @@
 #include <QLineEdit>
 #include <QPointer>
 #include <QVBoxLayout>
+#include <utility>
 
 #include "terminal/render/completion_list.h"
 
@@ -112,7 +113,7 @@ void TFrameView::ShowNames(const forms::TFrame& frame) {
 }
 
 void TFrameView::ControlChanged(const forms::TControl& control) {
-  if (TControlView* view = Find(control)) view->Refresh();
+  if (TControlView* view = Find(control)) Draw([view] { view->Refresh(); });
 }
 
 void TFrameView::LayoutChanged() {
@@ -120,9 +121,26 @@ void TFrameView::LayoutChanged() {
   if (!frame) return;
   // Everything is repainted once, when the layout is final.
   setUpdatesEnabled(false);
-  ShowAll(*frame);
+  Draw([&] { ShowAll(*frame); });
   Settle(*this);
   setUpdatesEnabled(true);
+}
+
+template <class TStep>
+void TFrameView::Draw(TStep&& step) {
+  const QPointer<QWidget> before = QApplication::focusWidget();
+  const bool outer = std::exchange(FDrawing, true);
+  step();
+  FDrawing = outer;
+  if (FDrawing) return;
+  // The desktop hands the focus of a widget that is hidden or disabled on to the next one by itself; the
+  // widget gets it back, at the latest when it can have it again.
+  if (QApplication::focusWidget() != before) FFocusAstray = true;
+  if (!FFocusAstray) return;
+  FocusChanged();
+  const auto frame = FInput.Frame();
+  const TControlView* view = frame && frame->Focused() != nullptr ? Find(*frame->Focused()) : nullptr;
+  FFocusAstray = view != nullptr && !view->Input().hasFocus();
 }
 
 void TFrameView::FocusChanged() {
@@ -150,7 +168,8 @@ void TFrameView::FrameDestroyed() {
 
 void TFrameView::DesktopFocusChanged(QWidget* before, QWidget* now) {
   const auto frame = FInput.Frame();
-  if (!frame) return;
+  if (!frame || FDrawing) return;
+  if (now != nullptr) FFocusAstray = false;
   if (now != nullptr && isAncestorOf(now)) {
     if (TControlView* view = ViewOf(now); view != nullptr && frame->Focused() != &view->Control()) {
       FInput.Focus(view->Control(), FFocusCause);

@@ -48,6 +48,8 @@ class TFrameView final : public QWidget, private forms::TFrameObserver {
   void ShowAll(const forms::TFrame& frame);
   void ShowNames(const forms::TFrame& frame);
   void DesktopFocusChanged(QWidget* before, QWidget* now);
+  template <class TStep>
+  void Draw(TStep&& step);
   /// The view that receives keys and mouse through `watched`; nullptr if there is none.
   TControlView* ViewOf(const QObject* watched) const;
   bool FilterKey(TControlView& view, const QEvent& event);
@@ -60,6 +62,8 @@ class TFrameView final : public QWidget, private forms::TFrameObserver {
   std::unordered_map<const forms::TControl*, std::unique_ptr<TControlView>> FViews;
   std::unordered_map<const QObject*, TControlView*> FByInput;
   std::vector<QWidget*> FTabChain;  ///< the widgets in the order in which Tab goes through them now
+  bool FDrawing = false;      ///< widgets are being changed: where the focus goes is not the trader's doing
+  bool FFocusAstray = false;  ///< a change of widgets took the focus from where the frame has it
   forms::TFocusCause FFocusCause = forms::TFocusCause::Other;  ///< how the focus came last
 };
 

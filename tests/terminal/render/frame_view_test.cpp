@@ -3,6 +3,8 @@
 #include <QAbstractButton>
 #include <QComboBox>
 #include <QLabel>
+#include <functional>
+#include <string>
 
 #include "tests/terminal/render/paint_count.h"
 #include "tests/terminal/render/rendered_form.h"
@@ -54,6 +56,50 @@ TEST_F(TShownForm, TabGoesTheWayOfTheForm) {
   frame->Layout().Move(*frame->quantity.Item(), frame->top);
   EXPECT_EQ(expectTabsFrom(&frame->kind), 6);
   EXPECT_TRUE(frame->account.Focused());
+}
+
+TEST_F(TShownForm, AFieldThatIsHiddenOrDisabledIsLeftAndNoOtherTakesTheFocusInItsPlace) {
+  const std::function<void(bool)> ways[] = {
+      [this](bool shown) { frame->quantity.SetVisible(shown); },
+      [this](bool enabled) { frame->quantity.SetEnabled(enabled); },
+      [this](bool shown) { frame->quantity.Item()->SetVisible(shown); },
+      [this](bool enabled) { frame->quantity.Item()->SetEnabled(enabled); },
+      [this](bool shown) { frame->top.SetVisible(shown); },
+  };
+  std::string left;
+  for (const auto& control : frame->Controls()) {
+    control->OnExit = [&left, name = control->Name()] { left += name + " "; };
+  }
+  for (const auto& way : ways) {
+    SCOPED_TRACE(&way - ways);
+    left.clear();
+    GoTo(frame->quantity);
+    QTest::keyClicks(&Input(frame->quantity), "12");
+    way(false);
+    EXPECT_EQ(frame->Focused(), nullptr);
+    QWidget* holder = QApplication::focusWidget();
+    EXPECT_TRUE(holder == nullptr || !view->isAncestorOf(holder));
+    EXPECT_EQ(frame->quantity.Value(), 12);
+    EXPECT_EQ(left, "edtQuantity ");
+    way(true);
+    EXPECT_EQ(frame->Focused(), nullptr);
+    frame->quantity.SetValue(std::nullopt);
+  }
+}
+
+TEST_F(TShownForm, AFieldThatIsDisabledForTheTimeOfAnUpdateKeepsTheFocusAndWhatWasTyped) {
+  GoTo(frame->quantity);
+  QTest::keyClicks(&Input(frame->quantity), "12");
+  {
+    const forms::TLayoutUpdate update(frame->Layout());
+    frame->quantity.SetEnabled(false);
+    frame->quantity.SetEnabled(true);
+  }
+  EXPECT_TRUE(frame->quantity.Focused());
+  EXPECT_TRUE(Input(frame->quantity).hasFocus());
+  EXPECT_EQ(frame->quantity.Value(), std::nullopt);
+  QTest::keyClicks(&Input(frame->quantity), "3");
+  EXPECT_EQ(frame->quantity.Text(), "123");
 }
 
 TEST_F(TShownForm, TheFirstFieldThatTakesInputIsTheFormsFirst) {
