@@ -12,7 +12,8 @@ TComboBox::TComboBox(TFrame& frame, std::string name)
 
 void TComboBox::SetIndex(std::int32_t index) {
   if (index < -1 || index >= Count()) throw EListIndexError(index);
-  if (FIndex == index) return;
+  if (FIndex == index && !FUnsettled) return;
+  FUnsettled = false;
   FIndex = index;
   ValueChanged();
 }

@@ -27,6 +27,10 @@ class ALGO_SHARED TComboBox : public TControl {
   void SelectFirst() { SetIndex(FItems.empty() ? -1 : 0); }
   void SelectLast() { SetIndex(Count() - 1); }
 
+  /// What the last choice should have led to did not happen: the next one counts as another choice, also when
+  /// it is of the same item.
+  void Unsettle() { FUnsettled = true; }
+
   /// Puts a new list in place with `index` picked, with no change event: a refill is not a choice.
   void Refill(std::vector<std::string> items, std::int32_t index);
 
@@ -36,6 +40,7 @@ class ALGO_SHARED TComboBox : public TControl {
  private:
   std::vector<std::string> FItems;
   std::int32_t FIndex = -1;
+  bool FUnsettled = false;
 };
 
 class ALGO_SHARED TCheckBox : public TControl {

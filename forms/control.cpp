@@ -91,7 +91,12 @@ void TControl::SetSize(const TSize& size) {
 void TControl::Commit() {
   const auto alive = FFrame.KeepAlive();
   TakeUp();
-  Run(FHostEditor);
+  try {
+    Run(FHostEditor);
+  } catch (...) {
+    Run(OnHostEditorFailed);
+    throw;
+  }
   Run(OnExit);
 }
 

@@ -79,6 +79,8 @@ class ALGO_SHARED TControl {
 
   /// Runs when the control was left or was sent the commit notification.
   std::function<void()> OnExit;
+  /// Runs in place of OnExit when the host editor's reaction failed; the failure runs on afterwards.
+  std::function<void()> OnHostEditorFailed;
   /// Runs for the trader's click.
   std::function<void()> OnClick;
   /// Runs when the trader presses Enter in the control.

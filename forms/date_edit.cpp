@@ -27,10 +27,9 @@ std::optional<text::TDateTime> TDateEdit::EnteredValue() const {
   return FValue;
 }
 
-std::string TDateEdit::Text() const {
-  if (FTyped) return *FTyped;
-  return FValue ? text::DateTimeText(*FValue) : std::string();
-}
+std::string TDateEdit::Text() const { return FTyped ? *FTyped : ValueText(); }
+
+std::string TDateEdit::ValueText() const { return FValue ? text::DateTimeText(*FValue) : std::string(); }
 
 void TDateEdit::SetText(std::string_view text) { SetValue(text::ParseDateTime(text)); }
 

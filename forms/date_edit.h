@@ -29,6 +29,8 @@ class ALGO_SHARED TDateEdit : public TEditor {
   void SetPickKeepsTime(bool keeps) { FPickKeepsTime = keeps; }
 
   std::string Text() const override;
+  /// The value as text, whatever is being typed; empty for none.
+  std::string ValueText() const;
   /// Assigns the date-time that `text` shows (a lone date means midnight); any other text empties the editor.
   void SetText(std::string_view text) override;
 

@@ -1,6 +1,7 @@
 #include "forms/dialog_form.h"
 
 #include <cassert>
+#include <exception>
 #include <utility>
 
 #include "forms/frame.h"
@@ -69,14 +70,26 @@ void TDialogForm::Close() {
     return;
   }
   TCloseAction action = TCloseAction::Hide;
-  if (OnClose) OnClose(*this, action);
-  if (action == TCloseAction::None) return;
-  Hide();
-  if (action != TCloseAction::Free) return;
-  // Whoever holds the form still may close it again, when the one who answered is gone.
-  OnClose = nullptr;
-  Freed();
-  if (FFrame) FFrame->Detach();
+  // What fails does not keep the form from closing whole; the first failure is reported when it is closed.
+  std::exception_ptr failure;
+  const auto attempt = [&failure](const auto& step) {
+    try {
+      step();
+    } catch (...) {
+      if (!failure) failure = std::current_exception();
+    }
+  };
+  if (OnClose) attempt([&] { OnClose(*this, action); });
+  if (action != TCloseAction::None) attempt([this] { Hide(); });
+  if (action == TCloseAction::Free) {
+    // Whoever holds the form still may close it again, when the one who answered is gone.
+    OnClose = nullptr;
+    attempt([this] { Freed(); });
+    if (FFrame) attempt([this] { FFrame->Detach(); });
+  }
+  if (!failure) return;
+  if (!FFrame) std::rethrow_exception(failure);
+  FFrame->Failed(failure);
 }
 
 void TDialogForm::SetModalResult(std::int32_t result) {

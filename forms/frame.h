@@ -7,6 +7,7 @@
 
 #include <chrono>
 #include <cstdint>
+#include <exception>
 #include <functional>
 #include <memory>
 #include <string>
@@ -111,6 +112,9 @@ class ALGO_SHARED TFrame : public std::enable_shared_from_this<TFrame> {
   std::shared_ptr<TFrame> KeepAlive() { return weak_from_this().lock(); }
 
  protected:
+  /// What went wrong in a form around the frame. Frames that must let no exception out override it.
+  virtual void Failed(const std::exception_ptr& failure) { std::rethrow_exception(failure); }
+
   /// Runs one input of the trader. Frames that must let no exception out override it.
   virtual void RunInput(const std::function<void()>& input) { input(); }
 

@@ -68,8 +68,9 @@ void TSpinEdit::SetValue(std::optional<double> value) {
   ValueChanged();
 }
 
-std::string TSpinEdit::Text() const {
-  if (FTyped) return *FTyped;
+std::string TSpinEdit::Text() const { return FTyped ? *FTyped : ValueText(); }
+
+std::string TSpinEdit::ValueText() const {
   if (!FValue) return {};
   if (FFormat.grouped) return text::GroupedNumber(*FValue, FFormat.decimals);
   return text::PlainNumber(*FValue);

@@ -40,6 +40,8 @@ class ALGO_SHARED TSpinEdit : public TEditor {
 
   /// The text being typed, else the value in the editor's format.
   std::string Text() const override;
+  /// The value in the editor's format, whatever is being typed; empty for none.
+  std::string ValueText() const;
   /// Assigns the number that `text` shows; an empty text empties the value, a text that is no number changes
   /// nothing.
   void SetText(std::string_view text) override;

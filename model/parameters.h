@@ -87,7 +87,8 @@ struct TParamRow {
   TReset reset = TReset::Empty;
   bool missingSelectsLast =
       false;  ///< a text without the key chooses the not-set item, instead of leaving the choice
-  bool notWritten = false;  ///< no algorithm writes it, though a text that has it is read
+  bool notWritten = false;    ///< no algorithm writes it, though a text that has it is read
+  bool alwaysChosen = false;  ///< a change of language chooses the last item where none was chosen
 };
 
 namespace parameter_rows {
@@ -116,6 +117,11 @@ constexpr TParamRow Choice(TParam param, std::string_view key, std::string_view 
 
 constexpr TParamRow NotWritten(TParamRow row) {
   row.notWritten = true;
+  return row;
+}
+
+constexpr TParamRow AlwaysChosen(TParamRow row) {
+  row.alwaysChosen = true;
   return row;
 }
 
@@ -157,7 +163,7 @@ inline constexpr std::array Table{
     Number(TParam::JoinThr, "JoinThr", "edtJoinThr", FromZero),
     Whole(TParam::JoinQty, "JoinQty", "edtJoinQty", FromZero),
     Number(TParam::RandTimeOut, "RandTimeout", "edtRandTimeOut", Percent),
-    Choice(TParam::Ref, "Ref", "cmbRef", RefChoices),
+    AlwaysChosen(Choice(TParam::Ref, "Ref", "cmbRef", RefChoices)),
     Number(TParam::DiffPct, "DiffPct", "edtDiffPct", {-100, 100}),
     Number(TParam::ServePct, "ServePct", "edtServePct", Percent),
     Number(TParam::MinQty, "MinQty", "edtMinQty", FromZero),

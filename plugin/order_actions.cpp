@@ -1,4 +1,4 @@
-// The order actions: which form answers which, and what happens to the order when the trader says OK.
+#include "plugin/order_actions.h"
 
 #include <algorithm>
 #include <cstdint>
@@ -10,7 +10,6 @@
 #include "plugin/host_contract/language_manager.h"
 #include "plugin/host_contract/order_action_manager.h"
 #include "plugin/host_contract/view_functions.h"
-#include "plugin/view_provider.h"
 #include "views/boundary/boundary.h"
 #include "views/boundary/flag_scope.h"
 
@@ -64,32 +63,67 @@ class THideScope {
   std::shared_ptr<forms::TDialogForm> FForm;
 };
 
-/// Loads the order into the frame, asks the trader, and takes the action when the answer is OK. Returns what
-/// the host says to it; nothing when no action was taken, because of another answer or because the dialog is
-/// busy with another order.
+/// Runs a step when the block ends, however it ends.
+template <class TStep>
+class TAtEnd {
+ public:
+  explicit TAtEnd(TStep step) : FStep(std::move(step)) {}
+  ~TAtEnd() { FStep(); }
+  TAtEnd(const TAtEnd&) = delete;
+  TAtEnd& operator=(const TAtEnd&) = delete;
+
+ private:
+  TStep FStep;
+};
+
+/// Has a frame give back what it has registered unless its form came to show.
+class TDetachUnlessShown {
+ public:
+  explicit TDetachUnlessShown(std::shared_ptr<views::change::TAlgoOrderChangeFrame> frame)
+      : FFrame(std::move(frame)) {}
+  ~TDetachUnlessShown() {
+    if (!FFrame) return;
+    try {
+      FFrame->Detach();
+    } catch (...) {  // NOLINT(bugprone-empty-catch): the failure that led here is the one to report
+    }
+  }
+  TDetachUnlessShown(const TDetachUnlessShown&) = delete;
+  TDetachUnlessShown& operator=(const TDetachUnlessShown&) = delete;
+
+  void Shown() { FFrame = nullptr; }
+
+ private:
+  std::shared_ptr<views::change::TAlgoOrderChangeFrame> FFrame;
+};
+
+/// Loads the order into the frame, asks the trader, and takes the action when the answer is OK. What the host
+/// says to it is in `answer` as soon as it has said it; nothing when no action was taken, because of another
+/// answer or because the dialog is busy with another order.
 template <class TFrame>
-std::optional<bool> Ask(const TQuestion<TFrame>& question, const std::shared_ptr<TKeptDialog<TFrame>>& kept,
-                        host::TCustomClientOrder& order) {
+void Ask(const TQuestion<TFrame>& question, const std::shared_ptr<TKeptDialog<TFrame>>& kept,
+         host::TCustomClientOrder& order, std::optional<bool>& answer) {
   // Held here, because the provider, and with it the kept one, may go meanwhile.
   const auto dialog = kept;  // NOLINT(performance-unnecessary-copy-initialization)
   const auto form = dialog->form;
   const auto frame = dialog->frame;
-  if (dialog->busy || form->Showing()) return std::nullopt;
+  if (dialog->busy || form->Showing()) return;
   const views::TFlagScope busy(dialog->busy);
   const views::change::TOrderLoad load(*frame);
-  if (const auto language = std::exchange(dialog->language, std::nullopt)) frame->SetLanguage(*language);
-  if (question.captioned == TCaptioned::BeforeLoading)
-    form->SetCaption(host::ResourceText(question.captionId));
+  if (const auto language = dialog->language) {
+    frame->SetLanguage(*language);
+    // Only now: a language that could not be taken up is tried again with the next order.
+    if (dialog->language == language) dialog->language.reset();
+  }
+  const auto caption = [&] { form->SetCaption(host::ResourceText(question.captionId)); };
+  if (question.captioned == TCaptioned::BeforeLoading) caption();
   (*frame.*question.load)(&order);
-  if (question.captioned == TCaptioned::AfterLoading)
-    form->SetCaption(host::ResourceText(question.captionId));
+  if (question.captioned == TCaptioned::AfterLoading) caption();
   FitToFrame(*form, *frame);
-  if (dialog->gone) return std::nullopt;
+  if (dialog->gone) return;
   THideScope shown(form);
-  std::optional<bool> answer;
-  if (SaysOk(*form)) answer = TakeAction(order, question.action);
+  if (SaysOk(*form) && !dialog->gone) answer = TakeAction(order, question.action);
   shown.Hide();
-  return answer;
 }
 
 using TChangeFrame = views::change::TAlgoOrderChangeFrame;
@@ -105,91 +139,105 @@ constexpr TQuestion<TWorkFrame> AskWork{&TWorkFrame::WorkOrder, "Res_Conf_WorkOr
 
 }  // namespace
 
-void TIAlgoEntryOrder::TakeOrderAction(const void* /*sender*/, host::TChannelRecord* record) {
+TOrderActions::TOrderActions(host::TIBaseView& provider, bool showChangeModally, TAddView addView)
+    : FProvider(&provider), FShowChangeModally(showChangeModally), FAddView(std::move(addView)) {}
+
+void TOrderActions::Take(host::TChannelRecord* record) {
   auto* action = dynamic_cast<host::TOrderTakeActionRecord*>(record);
-  if (action == nullptr) return;
+  if (action == nullptr || FProvider == nullptr) return;
   auto* order = dynamic_cast<host::TCustomClientOrder*>(action->order);
   // Orders from elsewhere are left to whoever else listens.
   if (order == nullptr || order->NamedText(host::OriginalProperty) != views::entry::AlgoEntryOrigin) return;
-  // A dialog that is still being made can take no order.
-  if (*FMakingDialog) return;
   switch (static_cast<host::TOrderAction>(action->action)) {
     case New:
       return AddOrder(*order, *action);
     case Change:
-      return ChangeOrder(*order, *action);
+      return ChangeOrder(*order);
     case Work:
-      return AddWorkOrder(*order, *action);
+      return AddWorkOrder(*order);
   }
 }
 
-void TIAlgoEntryOrder::AddOrder(host::TCustomClientOrder& order, host::TOrderTakeActionRecord& record) {
+void TOrderActions::AddOrder(host::TCustomClientOrder& order, host::TOrderTakeActionRecord& record) {
   CreateDefaultView();
-  if (const auto accepted = Ask(AskNew, FChange, order)) record.result = *accepted;
+  if (!FChange) return;
+  std::optional<bool> answer;
+  // Written also where something fails behind the answer: an order that the host took must not look refused.
+  const TAtEnd store([&] { record.result = answer.value_or(record.result); });
+  Ask(AskNew, FChange, order, answer);
 }
 
-void TIAlgoEntryOrder::ChangeOrder(host::TCustomClientOrder& order,
-                                   host::TOrderTakeActionRecord& /*record*/) {
+void TOrderActions::ChangeOrder(host::TCustomClientOrder& order) {
   if (!FShowChangeModally) return CreateNonShowModelView(order);
   CreateDefaultView();
-  Ask(AskChange, FChange, order);
+  std::optional<bool> answer;
+  if (FChange) Ask(AskChange, FChange, order, answer);
 }
 
-void TIAlgoEntryOrder::AddWorkOrder(host::TCustomClientOrder& order,
-                                    host::TOrderTakeActionRecord& /*record*/) {
+void TOrderActions::AddWorkOrder(host::TCustomClientOrder& order) {
   if ((order.flags & host::WorkParentMark) == 0) return;
   CreateDefaultWorkView();
-  Ask(AskWork, FWork, order);
+  std::optional<bool> answer;
+  if (FWork) Ask(AskWork, FWork, order, answer);
 }
 
-void TIAlgoEntryOrder::CreateDefaultView() {
-  if (FChange) return;
-  const auto making = FMakingDialog;
-  const views::TFlagScope scope(*making);
+// Making a dialog calls into the host, which may ask for the same dialog or destroy the provider meanwhile:
+// what was made is kept only where it is still wanted.
+
+void TOrderActions::CreateDefaultView() {
+  if (FChange || FMakingChange) return;
+  const views::TFlagScope making(FMakingChange);
   auto made = std::make_shared<TKeptDialog<TChangeFrame>>();
   made->frame = std::make_shared<TChangeFrame>();
   made->frame->SetShownModally(true);
-  AddView(made->frame);
+  if (!FAddView(made->frame)) return;
   try {
-    made->form = host::GetDialogForm(*this);
-    made->form->SetFrame(made->frame);
+    made->form = MakeForm();
+    if (made->form) made->form->SetFrame(made->frame);
   } catch (...) {
-    TIBaseView::CloseInstance(host::HandleOf(*made->frame));
+    if (FProvider != nullptr) FProvider->CloseInstance(host::HandleOf(*made->frame));
     throw;
   }
-  FChange = std::move(made);
+  if (FProvider != nullptr) FChange = std::move(made);
 }
 
-void TIAlgoEntryOrder::CreateDefaultWorkView() {
-  if (FWork) return;
-  const auto making = FMakingDialog;
-  const views::TFlagScope scope(*making);
+void TOrderActions::CreateDefaultWorkView() {
+  if (FWork || FMakingWork) return;
+  const views::TFlagScope making(FMakingWork);
   auto made = std::make_shared<TKeptDialog<TWorkFrame>>();
-  made->form = host::GetDialogForm(*this);
+  made->form = MakeForm();
+  if (!made->form) return;
   made->frame = std::make_shared<TWorkFrame>();
   made->form->SetFrame(made->frame);
-  made->frame->SetOnAlgoTypeChange([this] { WorkOrderAlgoTypeChange(); });
-  AddView(made->frame);
-  FWork = std::move(made);
+  made->frame->SetOnAlgoTypeChange([self = weak_from_this()] {
+    if (const auto actions = self.lock()) actions->WorkOrderAlgoTypeChange();
+  });
+  if (FAddView(made->frame)) FWork = std::move(made);
 }
 
-void TIAlgoEntryOrder::CreateNonShowModelView(host::TCustomClientOrder& order) {
+void TOrderActions::CreateNonShowModelView(host::TCustomClientOrder& order) {
   const std::string key = order.key;
   if (const auto open = FOpenChanges.find(key); open != FOpenChanges.end()) {
-    return open->second.form->BringToFront();
+    const auto form = open->second.form;
+    return form->BringToFront();
   }
   THostedFrame<TChangeFrame> made{nullptr, std::make_shared<TChangeFrame>()};
-  made.form = host::GetDialogForm(*this);
-  made.form->OnClose = [this](forms::TDialogForm& sender, forms::TCloseAction& action) {
-    OnCloseView(sender, action);
+  // Goes with everything that it has registered, wherever the making ends.
+  TDetachUnlessShown unshown(made.frame);
+  made.form = MakeForm();
+  if (!made.form) return;
+  made.form->OnClose = [self = weak_from_this()](forms::TDialogForm& sender, forms::TCloseAction& action) {
+    action = forms::TCloseAction::Free;
+    if (const auto actions = self.lock()) views::AtBoundary([&] { actions->OnCloseView(sender); });
   };
   made.form->SetFrame(made.frame);
   made.frame->ChangeOrder(&order);
-  // Loading calls into the host, which may have asked for the same order meanwhile.
-  if (FOpenChanges.contains(key)) return;
+  if (FProvider == nullptr) return;
   made.form->SetCaption(host::ResourceText("Res_Conf_ChangeOrder"));
   FitToFrame(*made.form, *made.frame);
   made.form->SetStaysOnTop(true);
+  // Asked again: the host may have shown the same order meanwhile.
+  if (FProvider == nullptr || FOpenChanges.contains(key)) return;
   const auto form = made.form;
   FOpenChanges.insert_or_assign(key, std::move(made));
   try {
@@ -197,12 +245,19 @@ void TIAlgoEntryOrder::CreateNonShowModelView(host::TCustomClientOrder& order) {
   } catch (...) {
     // An order whose form does not show can be changed again.
     FOpenChanges.erase(key);
+    form->OnClose = nullptr;
     throw;
   }
+  unshown.Shown();
 }
 
-void TIAlgoEntryOrder::OnCloseView(forms::TDialogForm& sender, forms::TCloseAction& action) {
-  action = forms::TCloseAction::Free;
+std::shared_ptr<forms::TDialogForm> TOrderActions::MakeForm() {
+  if (FProvider == nullptr) return nullptr;
+  auto form = host::GetDialogForm(*FProvider);
+  return FProvider == nullptr ? nullptr : form;
+}
+
+void TOrderActions::OnCloseView(forms::TDialogForm& sender) {
   const auto open = std::find_if(FOpenChanges.begin(), FOpenChanges.end(),
                                  [&sender](const auto& each) { return each.second.form.get() == &sender; });
   if (open == FOpenChanges.end()) return;
@@ -211,8 +266,42 @@ void TIAlgoEntryOrder::OnCloseView(forms::TDialogForm& sender, forms::TCloseActi
   closed.mapped().frame->Detach();
 }
 
-void TIAlgoEntryOrder::WorkOrderAlgoTypeChange() {
+void TOrderActions::WorkOrderAlgoTypeChange() {
   if (FWork && FWork->form) FitToFrame(*FWork->form, *FWork->frame);
+}
+
+void TOrderActions::MarkLanguage(std::int32_t language) {
+  if (FChange) FChange->language = language;
+  if (FWork) FWork->language = language;
+}
+
+void TOrderActions::SetLanguage(std::int32_t language) {
+  // A copy: what the frames set off may close a form.
+  for (const auto& [key, open] : std::map(FOpenChanges)) {
+    open.frame->SetLanguage(language);
+    if (open.frame->Form() != nullptr)
+      open.frame->Form()->SetCaption(host::ResourceText("Res_Conf_ChangeOrder"));
+  }
+}
+
+void TOrderActions::End() {
+  FProvider = nullptr;
+  const auto endDialog = [](auto kept) {
+    if (!kept) return;
+    kept->gone = true;
+    // One that shows ends with Cancel, whatever it was answered.
+    views::AtBoundary([&] {
+      if (kept->form->Modal()) kept->form->SetModalResult(forms::ModalCancel);
+    });
+    kept->form.reset();
+  };
+  endDialog(std::exchange(FChange, nullptr));
+  while (!FOpenChanges.empty()) {
+    // Out of the list first: closing calls back and looks for the form there.
+    const auto open = FOpenChanges.extract(FOpenChanges.begin());
+    views::AtBoundary([&] { open.mapped().form->Close(); });
+  }
+  endDialog(std::exchange(FWork, nullptr));
 }
 
 }  // namespace algo::plugin

@@ -28,32 +28,30 @@ const TMenuRow& MenuRow(std::int32_t level) { return level == 0 || level == 1 ? 
 }  // namespace
 
 TIAlgoEntryOrder::TIAlgoEntryOrder(const void* owner) : TIBaseView(owner) {
+  auto alive = std::weak_ptr(FAlive);
   FListening = host::ListenToChannel(
       host::OrderActionChannel,
-      [this](const void* sender, host::TChannelRecord* record) {
-        views::AtBoundary([&] { TakeOrderAction(sender, record); });
+      [this, alive](const void* /*sender*/, host::TChannelRecord* record) {
+        // None yet while the provider is made.
+        const auto actions = alive.expired() ? nullptr : FActions;
+        if (actions) views::AtBoundary([&] { actions->Take(record); });
       },
       this);
   auto& config = host::TCustomConfigManager::GetInstance();
   const std::string model = config.ReadText(config.CurrentSection(), "ChangeOrderShowModel");
-  FShowChangeModally = !(model.starts_with('n') || model.starts_with('N'));
+  const bool showChangeModally = !(model.starts_with('n') || model.starts_with('N'));
+  FActions = std::make_shared<TOrderActions>(*this, showChangeModally,
+                                             [this, alive](std::shared_ptr<host::TViewFrame> frame) {
+                                               if (alive.expired()) return false;
+                                               AddView(std::move(frame));
+                                               return true;
+                                             });
 }
 
 TIAlgoEntryOrder::~TIAlgoEntryOrder() {
   views::AtBoundary([this] { FListening.Release(); });
-  if (FChange) {
-    FChange->gone = true;
-    FChange->form.reset();
-  }
-  while (!FOpenChanges.empty()) {
-    // Out of the list first: closing calls back and looks for the form there.
-    const auto open = FOpenChanges.extract(FOpenChanges.begin());
-    views::AtBoundary([&] { open.mapped().form->Close(); });
-  }
-  if (FWork) {
-    FWork->gone = true;
-    FWork->form.reset();
-  }
+  FAlive.reset();
+  if (FActions) FActions->End();
   views::AtBoundary([this] { CloseAllInstances(); });
 }
 
@@ -94,7 +92,12 @@ bool TIAlgoEntryOrder::GetDefaultSize(std::int32_t& /*width*/, std::int32_t& /*h
 
 host::TInstanceHandle TIAlgoEntryOrder::OpenNewInstance() {
   return views::AtBoundary(host::TInstanceHandle{0}, [this] {
+    const std::weak_ptr alive(FAlive);
     auto frame = std::make_shared<views::entry::TAlgoOrderEntryFrame>();
+    if (alive.expired()) {
+      frame->Detach();
+      return host::TInstanceHandle{0};
+    }
     const host::TInstanceHandle handle = host::HandleOf(*frame);
     AddView(std::move(frame));
     return handle;
@@ -107,15 +110,11 @@ void TIAlgoEntryOrder::CloseInstance(host::TInstanceHandle instance) {
 
 bool TIAlgoEntryOrder::SetLanguage(host::TInstanceHandle instance, std::int32_t language) {
   return views::AtBoundary(false, [&] {
+    const auto actions = FActions;
+    // Before the host is asked for a text: one that fails leaves the mark.
+    actions->MarkLanguage(language);
     TIBaseView::SetLanguage(instance, language);
-    if (FChange) FChange->language = language;
-    if (FWork) FWork->language = language;
-    // A copy: what the frames set off may close a form.
-    for (const auto& [key, open] : std::map(FOpenChanges)) {
-      open.frame->SetLanguage(language);
-      if (open.frame->Form() != nullptr)
-        open.frame->Form()->SetCaption(host::ResourceText("Res_Conf_ChangeOrder"));
-    }
+    actions->SetLanguage(language);
     return true;
   });
 }

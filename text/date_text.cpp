@@ -121,7 +121,10 @@ std::size_t WriteCompactDateTime(TDateTime value, char* out) {
 }
 
 std::optional<TDateTime> ParseCompactDateTime(std::string_view text) {
-  while (text.ends_with(' ')) text.remove_suffix(1);
+  // A hyphen parts date and time as a blank does, and both may stand behind.
+  while (!text.empty() && std::string_view(" -\t").find(text.back()) != std::string_view::npos) {
+    text.remove_suffix(1);
+  }
   for (const std::string_view form : {CompactForm, CompactBlankForm, CompactDateForm}) {
     if (const auto time = ToDateTime(ReadForm(text, form))) return time;
   }

@@ -28,8 +28,9 @@ inline constexpr std::size_t CompactDateTimeLength = 17;
 /// that length.
 std::size_t WriteCompactDateTime(TDateTime value, char* out);
 
-/// The date-time that "YYYYMMDD-HH:MM:SS" shows, also with a blank in place of the hyphen and blanks behind;
-/// a lone date means midnight. Nothing for any other text and for a date or time that does not exist.
+/// The date-time that "YYYYMMDD-HH:MM:SS" shows, also with a blank in place of the hyphen and with blanks or
+/// hyphens behind; a lone date means midnight. Nothing for any other text and for a date or time that does
+/// not exist.
 std::optional<TDateTime> ParseCompactDateTime(std::string_view text);
 
 /// The time of day that "HH:MM" or "HH:MM:SS" shows, blanks around it allowed; nothing for any other text.

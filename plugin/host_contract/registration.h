@@ -28,6 +28,9 @@ class ALGO_SHARED TRegistration {
   /// afterwards in any case: a service that failed is not asked again.
   void Release();
 
+  /// Leaves what is registered as it is: something else takes it back.
+  void Dismiss() { FRelease = nullptr; }
+
   /// Whether something is registered.
   bool Active() const { return FRelease != nullptr; }
 

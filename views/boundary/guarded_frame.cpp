@@ -1,5 +1,7 @@
 #include "views/boundary/guarded_frame.h"
 
+#include "plugin/host_contract/view_functions.h"
+
 namespace algo::views {
 
 TGuardedFrame::~TGuardedFrame() { FAlive.reset(); }
@@ -21,6 +23,14 @@ void TGuardedFrame::RunInput(const std::function<void()>& input) {
   if (Detached()) return;
   const TNestedLoopScope nested;
   AtBoundary(input);
+}
+
+void TGuardedFrame::Failed(const std::exception_ptr& failure) {
+  AtBoundary([&failure] { std::rethrow_exception(failure); });
+}
+
+void TGuardedFrame::NotifyViewChanged() {
+  if (!Detached()) host::SendViewNotify(*this, host::ViewChanged);
 }
 
 }  // namespace algo::views

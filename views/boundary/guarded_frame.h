@@ -38,6 +38,10 @@ class TGuardedFrame : public host::TViewFrame {
   bool Detached() const { return !FAlive; }
 
   void RunInput(const std::function<void()>& input) override;
+  void Failed(const std::exception_ptr& failure) override;
+
+  /// Tells the host that the view changed its size or its looks; with no effect once it is detached.
+  void NotifyViewChanged();
 
   /// What is registered with the host for the life of the frame.
   host::TRegistrations& Registrations() { return FRegistrations; }

@@ -65,8 +65,10 @@ void TAlgoOrderChangeFrame::btnBuyClick() { Confirm(); }
 void TAlgoOrderChangeFrame::btnSellClick() { Confirm(); }
 
 void TAlgoOrderChangeFrame::Confirm() {
-  if (FMyOrder == nullptr) return;
-  if (GetWorkOrder(*FMyOrder) || CheckOrderValid()) SubmitChange();
+  OneAtATime([this] {
+    if (FMyOrder == nullptr) return;
+    if (GetWorkOrder(*FMyOrder) || CheckOrderValid()) SubmitChange();
+  });
 }
 
 double TAlgoOrderChangeFrame::ChangedPrice() const {
@@ -79,7 +81,9 @@ double TAlgoOrderChangeFrame::ChangedPrice() const {
 
 void TAlgoOrderChangeFrame::SubmitChange() {
   const auto quantity = static_cast<double>(text::TruncateToWhole(Spin(TField::edtQty).Value().value_or(0)));
-  host::TCustomSubscribeAdapter::GetInstance().Subscribe(FMyOrder->symbol, host::PriceDataSet, false);
+  // A copy: the order may go with the form while the host has its symbol.
+  const std::string symbol = FMyOrder->symbol;
+  host::TCustomSubscribeAdapter::GetInstance().Subscribe(symbol, host::PriceDataSet, false);
   // The host may have closed the form while it was asked.
   if (FMyOrder == nullptr) return;
   const double price = ChangedPrice();

@@ -19,7 +19,9 @@ bool TAlgoOrderChangeFrame::PriceMayBeSet(const host::TCustomOrder& order) {
 void TAlgoOrderChangeFrame::InitializeViewbyOrder(host::TCustomClientOrder& order) {
   const forms::TLayoutUpdate update(Layout());
   auto& editors = host::TEditorManager::GetInstance();
-  for (const TField field : entry::PriceEditors) editors.SetPriceSymbol(Spin(field), order.symbol);
+  for (const TField field : entry::PriceEditors) {
+    if (!Detached()) editors.SetPriceSymbol(Spin(field), order.symbol);
+  }
   // Only looked at: the frame follows no symbol of its own.
   const host::TMarketDataItem* item =
       host::TCustomSubscribeAdapter::GetInstance().Subscribe(order.symbol, host::PriceDataSet, false);

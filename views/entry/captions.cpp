@@ -30,7 +30,7 @@ bool TAlgoOrderEntryFrame::SetLanguage(std::int32_t /*language*/) {
         Combo(TField::cmbStyle).SetIndex(style);
     }
     notice.Send();
-    return true;
+    return !Detached();
   });
 }
 

@@ -4,7 +4,6 @@
 
 #include "model/order_types.h"
 #include "plugin/host_contract/user_app_profile.h"
-#include "plugin/host_contract/view_functions.h"
 #include "views/entry/entry_frame.h"
 
 namespace algo::views::entry {
@@ -27,8 +26,8 @@ void TAlgoOrderEntryFrame::ResetInputUI() {
 
 void TAlgoOrderEntryFrame::cmbExchChange() {
   const std::int32_t index = Combo(TField::cmbExch).Index();
-  if (index < 0) return;
   FLists.ExchangeHandled();
+  if (index < 0) return;
   Check(TField::cbLockMOrder).SetChecked(false);
   Check(TField::cbLockOrderType).SetChecked(false);
   TPickLists::TOffers offers;
@@ -37,7 +36,7 @@ void TAlgoOrderEntryFrame::cmbExchChange() {
   } catch (...) {
     // Better nothing to choose from than what another exchange offers.
     FLists.OfferNothing();
-    ResetView();
+    AlgoHidden();
     throw;
   }
   FLists.ShowOffers(std::move(offers));
@@ -47,18 +46,35 @@ void TAlgoOrderEntryFrame::cmbOrderTypeChange() {
   if (Combo(TField::cmbOrderType).Index() < 0) {
     // An order whose algorithm is not offered shows no fields; a form of the trader's own stays as it is.
     FLists.AlgoHandled();
-    if (FPurpose.showsOneOrder) ResetView();
-    return;
+    if (!FPurpose.showsOneOrder) return;
+    ResetView();
+  } else {
+    FLists.AlgoHandled();
+    LayOutAlgo();
   }
-  FLists.AlgoHandled();
-  LayOutAlgo();
-  host::SendViewNotify(*this, host::ViewChanged);
+  AlgoShown();
+}
+
+void TAlgoOrderEntryFrame::AlgoShown() {
+  try {
+    NotifyViewChanged();
+  } catch (...) {
+    if (FOnAlgoTypeChange) FOnAlgoTypeChange();
+    throw;
+  }
   if (FOnAlgoTypeChange) FOnAlgoTypeChange();
 }
 
-void TAlgoOrderEntryFrame::LayOutAlgo() {
-  const forms::TLayoutUpdate update(Layout());
+void TAlgoOrderEntryFrame::AlgoHidden() {
   try {
+    AlgoShown();
+  } catch (...) {  // NOLINT(bugprone-empty-catch): the failure that led here is the one to report
+  }
+}
+
+void TAlgoOrderEntryFrame::LayOutAlgo() {
+  try {
+    const forms::TLayoutUpdate update(Layout());
     ResetView();
     ResetInputUI();
     InitializeView();
@@ -66,6 +82,7 @@ void TAlgoOrderEntryFrame::LayOutAlgo() {
     // An algorithm without its fields must not be sent.
     ResetView();
     FLists.ChooseNothing();
+    AlgoHidden();
     throw;
   }
 }

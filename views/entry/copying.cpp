@@ -1,5 +1,7 @@
 // Orders and prices picked in other views of the terminal, copied into the form.
 
+#include <cmath>
+
 #include "model/parameter_text.h"
 #include "text/number_text.h"
 #include "views/boundary/flag_scope.h"
@@ -64,11 +66,13 @@ void TAlgoOrderEntryFrame::DoCopyPrice(const host::TCustomClientOrder& order) {
     const std::string previousSymbol = FSymbol.Symbol();
     if (!order.symbol.empty() && Control(TField::edtSymbol).Enabled()) CopySymbol(order.symbol);
     auto& price = Spin(TField::edtPrice);
-    if (order.price != 0 && price.Enabled())
+    if (std::isfinite(order.price) && order.price != 0 && price.Enabled())
       price.SetValue(PriceToShow(order.price, PriceMultiplier(FSymbol.Item())));
     auto& quantity = Spin(TField::edtQty);
-    if (order.quantity != 0) {
-      if (quantity.Enabled()) quantity.SetValue(static_cast<double>(text::TruncateToWhole(order.quantity)));
+    const auto whole = static_cast<double>(text::TruncateToWhole(order.quantity));
+    // A fraction of one is a quantity, of which nothing whole is left; one that no order can have is none.
+    if (whole != 0 || (order.quantity != 0 && std::abs(order.quantity) < 1)) {
+      if (quantity.Enabled()) quantity.SetValue(whole);
       FSymbol.SetQuantityFilled(true);
     } else {
       FSymbol.SetQuantityFilled(order.symbol == previousSymbol);

@@ -4,7 +4,6 @@
 
 #include "plugin/host_contract/look_and_feel_service.h"
 #include "plugin/host_contract/user_app_profile.h"
-#include "plugin/host_contract/view_functions.h"
 #include "text/text.h"
 
 namespace algo::views::entry {
@@ -49,9 +48,24 @@ TAlgoOrderEntryFrame::TAlgoOrderEntryFrame(const TFramePurpose& purpose)
   FMade = true;
 }
 
+TAlgoOrderEntryFrame::TRelease::~TRelease() {
+  try {
+    registrations.ReleaseAll();
+  } catch (...) {  // NOLINT(bugprone-empty-catch): there is nobody to report it to
+  }
+}
+
+TAlgoOrderEntryFrame::TSizeNotice::~TSizeNotice() {
+  if (std::uncaught_exceptions() == FFailures) return;
+  try {
+    Send();
+  } catch (...) {  // NOLINT(bugprone-empty-catch): the failure that led here is the one to report
+  }
+}
+
 void TAlgoOrderEntryFrame::TSizeNotice::Send() const {
   const bool resized = FFrame.TViewFrame::GetWidth() != FWidth || FFrame.TViewFrame::GetHeight() != FHeight;
-  if (FFrame.FMade && resized) host::SendViewNotify(FFrame, host::ViewChanged);
+  if (FFrame.FMade && resized) FFrame.NotifyViewChanged();
 }
 
 void TAlgoOrderEntryFrame::SetSkin(std::string_view /*name*/) {
@@ -59,7 +73,7 @@ void TAlgoOrderEntryFrame::SetSkin(std::string_view /*name*/) {
     auto& skin = host::TCustomLookAndFeelService::GetInstance();
     SideButton(TField::btnBuy).SetColor(host::ButtonColorSlot, skin.ColorOf(host::BuyColor, 0));
     SideButton(TField::btnSell).SetColor(host::ButtonColorSlot, skin.ColorOf(host::SellColor, 0));
-    host::SendViewNotify(*this, host::ViewChanged);
+    NotifyViewChanged();
   });
 }
 
@@ -70,8 +84,8 @@ std::string TAlgoOrderEntryFrame::GetLayoutData() {
 bool TAlgoOrderEntryFrame::SetLayoutData(std::string_view text) {
   return AtBoundary(false, [&] {
     FLayoutText.Read(text);
-    host::SendViewNotify(*this, host::ViewChanged);
-    return true;
+    NotifyViewChanged();
+    return !Detached();
   });
 }
 

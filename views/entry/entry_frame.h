@@ -8,9 +8,10 @@
 // lists, the followed symbol and the layout text. Its own sources: entry_frame.cpp (making, unmaking, what
 // the host asks of a view), host_link.cpp (what is registered with the host), events.cpp (what the controls
 // set off), captions.cpp, choosing.cpp (what follows from a choice), submit.cpp (from the click to the host),
-// order_type.cpp, work_parent.cpp and copying.cpp.
+// work_parent.cpp and copying.cpp.
 
 #include <cstdint>
+#include <exception>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -20,6 +21,7 @@
 #include "plugin/host_contract/channel_manager.h"
 #include "plugin/host_contract/language_manager.h"
 #include "plugin/host_contract/orders.h"
+#include "views/boundary/flag_scope.h"
 #include "views/boundary/guarded_frame.h"
 #include "views/entry/entry_form.h"
 #include "views/entry/followed_symbol.h"
@@ -135,6 +137,15 @@ class TAlgoOrderEntryFrame : public TGuardedFrame {
   /// Tells the trader what a failed rule says.
   void Tell(const model::TRuleFailure& failure) const;
 
+  /// Runs one click that sends something. A further one that comes before this one has its answer, from
+  /// inside a dialog or from the host, does nothing: one click is one order.
+  template <class TSend>
+  void OneAtATime(TSend&& send) {
+    if (FSending) return;
+    const TFlagScope sending(FSending);
+    send();
+  }
+
   /// Registers a quantity editor of its own with the host for the life of the frame.
   void RegisterQuantityEditor(forms::TSpinEdit& control);
 
@@ -143,6 +154,13 @@ class TAlgoOrderEntryFrame : public TGuardedFrame {
 
   /// Run after the algorithm was changed, and with it the size of the form.
   std::function<void()> FOnAlgoTypeChange;
+
+  /// Registers the editors in the group that GetGroupID names, and tells them their symbol.
+  virtual void JoinGroup();
+
+  /// Registers an editor anew, which moves it to another group; taken back where the frame went meanwhile.
+  /// False then.
+  bool Rejoin(host::TRegistration registration);
 
   /// The symbol of the order that the frame shows; empty where it shows none.
   virtual std::string ShownSymbol() const { return {}; }
@@ -157,7 +175,6 @@ class TAlgoOrderEntryFrame : public TGuardedFrame {
  private:
   // host_link.cpp
   void RegisterWithHost();
-  void JoinGroup();
   void TellEditorsOfGroup(const std::string& symbol);
   void SymbolUpdate(const void* sender, const host::TItemDictionary* data);
   void SpreadUpdate(const void* sender, const host::TSpreadDictionary* data);
@@ -173,21 +190,28 @@ class TAlgoOrderEntryFrame : public TGuardedFrame {
   void ResetView() { FForm.HideAlgo(); }
   void InitializeView();
   void LayOutAlgo();
+  void AlgoShown();
+  void AlgoHidden();
   void cmbExchChange();
   void cmbOrderTypeChange();
   void cmbMOrderTypeChange();
 
-  /// Notifies the host when the frame needs another size than at the beginning.
+  /// Notifies the host when the frame needs another size than at the beginning: by Send, or on the way out
+  /// where something failed before it.
   class TSizeNotice {
    public:
     explicit TSizeNotice(TAlgoOrderEntryFrame& frame)
         : FFrame(frame), FWidth(frame.TViewFrame::GetWidth()), FHeight(frame.TViewFrame::GetHeight()) {}
+    ~TSizeNotice();
+    TSizeNotice(const TSizeNotice&) = delete;
+    TSizeNotice& operator=(const TSizeNotice&) = delete;
     void Send() const;
 
    private:
     TAlgoOrderEntryFrame& FFrame;
     std::int32_t FWidth;
     std::int32_t FHeight;
+    int FFailures = std::uncaught_exceptions();
   };
 
   // captions.cpp
@@ -200,11 +224,27 @@ class TAlgoOrderEntryFrame : public TGuardedFrame {
   void EnterPressed(TField field);
   void edtAccountExit();
   void edtSymbolExit();
+  void AccountEditorFailed();
+  void SymbolEditorFailed();
+  void SubmitPressed();
+  void WorkPressed();
   void cbClearClick();
   void StoreSetting(std::string_view key, bool value) const;
 
   // submit.cpp
-  std::optional<model::TRuleFailure> CheckCommon() const;
+  /// What an order is made of besides its algorithm, as the form has it.
+  struct TEntries {
+    std::int32_t side;
+    std::string account;
+    std::string symbol;
+    const host::TMarketDataItem* item;
+    std::int64_t quantity;
+    std::int32_t algoIndex;
+    bool operator==(const TEntries&) const = default;
+  };
+  TEntries Entries() const;
+  std::optional<model::TRuleFailure> CheckCommon(const TEntries& entries) const;
+  bool Passes(bool algoToo);
   void FillCommonFields(host::TCustomClientOrder& order) const;
 
   // copying.cpp
@@ -225,11 +265,19 @@ class TAlgoOrderEntryFrame : public TGuardedFrame {
   std::int32_t FOrderType = SideNotChosen;  ///< the side, despite its name
   std::string FCurrentAccount;
   std::int32_t FGlobalValueUpdateMode = -1;
-  bool FMade = false;  ///< from the end of the construction on
+  bool FSending = false;  ///< a click that sends something has no answer yet
+  bool FMade = false;     ///< from the end of the construction on
   TEntryForm FForm;
   TPickLists FLists;
   TFollowedSymbol FSymbol;
   TLayoutText FLayoutText;
+
+  /// Takes back what is registered before the members go that it refers to, also where the making failed.
+  struct TRelease {
+    host::TRegistrations& registrations;
+    ~TRelease();
+  };
+  TRelease FRelease{Registrations()};
 };
 
 }  // namespace algo::views::entry

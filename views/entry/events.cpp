@@ -2,6 +2,7 @@
 // setting.
 
 #include <string>
+#include <utility>
 
 #include "plugin/host_contract/config_manager.h"
 #include "text/text.h"
@@ -22,7 +23,9 @@ void TAlgoOrderEntryFrame::WireEvents() {
   }
   Control(TField::cbLockPrice).OnChange = Handler(&TThis::cbLockPriceChange);
   Control(TField::edtAccount).OnExit = Handler(&TThis::edtAccountExit);
+  Control(TField::edtAccount).OnHostEditorFailed = Handler(&TThis::AccountEditorFailed);
   Control(TField::edtSymbol).OnExit = Handler(&TThis::edtSymbolExit);
+  Control(TField::edtSymbol).OnHostEditorFailed = Handler(&TThis::SymbolEditorFailed);
   Control(TField::cmbExch).OnChange = Handler(&TThis::cmbExchChange);
   Control(TField::cmbOrderType).OnChange = Handler(&TThis::cmbOrderTypeChange);
   Control(TField::cmbMType).OnChange = Handler(&TThis::cmbMOrderTypeChange);
@@ -30,22 +33,41 @@ void TAlgoOrderEntryFrame::WireEvents() {
   Control(TField::cbClear).OnClick = Handler(&TThis::cbClearClick);
   Control(TField::btnBuy).OnClick = Handler(&TThis::btnBuyClick);
   Control(TField::btnSell).OnClick = Handler(&TThis::btnSellClick);
-  Control(TField::btnSubmit).OnClick = Handler(&TThis::btnSubmitClick);
+  Control(TField::btnSubmit).OnClick = Handler(&TThis::SubmitPressed);
   Control(TField::btnClear).OnClick = Handler(&TThis::btnClearClick);
-  Control(TField::btnWork).OnClick = Handler(&TThis::btnWorkClick);
+  Control(TField::btnWork).OnClick = Handler(&TThis::WorkPressed);
 }
 
 void TAlgoOrderEntryFrame::EnterPressed(TField field) { FForm.FocusNext(EnterPath(field)); }
 
 void TAlgoOrderEntryFrame::edtAccountExit() {
+  // None while the host is asked, so that a failure does not leave the former account to what is shown now.
+  std::string former = std::exchange(FCurrentAccount, {});
   // A user who sees no account field works on the profile's account, whatever the field holds.
-  if (WorksOnProfileAccount()) return;
-  FCurrentAccount = std::string(text::Trim(Edit(TField::edtAccount).Text()));
+  const bool fixed = WorksOnProfileAccount();
+  FCurrentAccount = fixed ? std::move(former) : std::string(text::Trim(Edit(TField::edtAccount).Text()));
+}
+
+void TAlgoOrderEntryFrame::AccountEditorFailed() { FCurrentAccount.clear(); }
+
+void TAlgoOrderEntryFrame::SymbolEditorFailed() {
+  // What the editor did not take up must not be sent as what it held before.
+  if (text::Trim(Edit(TField::edtSymbol).Text()) != FSymbol.Symbol()) FSymbol.Forget();
 }
 
 void TAlgoOrderEntryFrame::edtSymbolExit() {
+  // A form that shows an order follows no symbol: its market data would fill in another quantity and price.
+  if (FPurpose.showsOneOrder) return;
   const std::string hint = Edit(TField::edtSymbol).Hint();
   SetSymbol(text::Trim(hint));
+}
+
+void TAlgoOrderEntryFrame::SubmitPressed() {
+  OneAtATime([this] { btnSubmitClick(); });
+}
+
+void TAlgoOrderEntryFrame::WorkPressed() {
+  OneAtATime([this] { btnWorkClick(); });
 }
 
 void TAlgoOrderEntryFrame::cbLockPriceChange() { UpdatePriceEditorState(); }

@@ -72,8 +72,10 @@ constexpr bool IsHiddenBySome(std::string_view element) {
   return std::any_of(model::AlgoTable.begin(), model::AlgoTable.end(),
                      [element](const model::TAlgoRow& algo) { return Hides(algo, element); });
 }
-constexpr bool IsShownAgain(const TFieldRow& row) { return !row.staysHidden && IsHiddenBySome(row.item); }
-constexpr bool IsGroupShownAgain(const TGroupRow& row) { return IsHiddenBySome(row.name); }
+constexpr bool IsShownAgain(const TFieldRow& row) {
+  return row.shownAgain || (!row.staysHidden && IsHiddenBySome(row.item));
+}
+constexpr bool IsGroupShownAgain(const TGroupRow& row) { return row.shownAgain || IsHiddenBySome(row.name); }
 
 /// The groups for which `Holds`, in the order of the form.
 template <auto Holds>

@@ -54,6 +54,11 @@ struct TWords : TFieldRow {
     row.keyInput = true;
     return row;
   }
+  constexpr TWords ShownAgain() const {
+    TWords row = *this;
+    row.shownAgain = true;
+    return row;
+  }
   constexpr TWords StaysHidden() const {
     TWords row = *this;
     row.staysHidden = true;

@@ -51,7 +51,7 @@ inline constexpr std::array<TGroupRow, GroupCount> Groups{{
     {lgExc, "lgExc", lgICEBERG, Vertical},
     {lgSTOP, "lgSTOP", lgAlgo, Vertical, "Res_Algo_STOP"},
     {lgPEG, "lgPEG", lgAlgo, Vertical, "Res_Algo_PEG"},
-    {lgPEGExcept, "lgPEGExcept", lgPEG, Vertical},
+    {.group = lgPEGExcept, .name = "lgPEGExcept", .parent = lgPEG, .direction = Vertical, .shownAgain = true},
     {lgSNIPER, "lgSNIPER", lgAlgo, Vertical, "Res_Algo_SNIPER"},
     {lgRef, "lgRef", lgAlgo, Vertical, "Res_Algo_Ref"},
     {lgTime, "lgTime", lgAlgo, Vertical, "Res_Algo_Delay"},
@@ -115,7 +115,8 @@ inline constexpr std::array Fields = std::to_array<TFieldRow>({
         .Exit(TExitRule::Zero).HostEditor(THost::Price, 3).InChange(TInChange::Opens).SavedAt(46),
     Param(edtThrVolPct2, model::TParam::ThrVolPct2, "liThrVolPct2", lgTVOLth, "Res_Algo_ThrVolPct2").Format(Plain)
         .Exit(TExitRule::ZeroOrMax).ClickSelectsAll().SavedAt(48),
-    Param(cmbJoin, model::TParam::Join, "liJoin", lgPEG, "Res_Algo_Join").InChange(TInChange::Opens).SavedAt(25),
+    Param(cmbJoin, model::TParam::Join, "liJoin", lgPEG, "Res_Algo_Join").ShownAgain().InChange(TInChange::Opens)
+        .SavedAt(25),
     Param(edtJoinThr, model::TParam::JoinThr, "liJoinThr", lgPEG, "Res_Algo_JoinThr").Format(Figure7)
         .Exit(TExitRule::Zero).ClickSelectsAll().InChange(TInChange::Opens).SavedAt(33),
     // Saved twice, with the same value: whichever of the two a reader takes, it gets the same.
@@ -134,7 +135,7 @@ inline constexpr std::array Fields = std::to_array<TFieldRow>({
     Param(edtServePct, model::TParam::ServePct, "liServePct", lgSNIPER, "Res_Algo_ServePct").Format(Plain)
         .Exit(TExitRule::ZeroOrMax).ClickSelectsAll().SavedAt(29),
     Param(edtTimeOut, model::TParam::TimeOut, "liTimeOut", lgTime, "Res_Algo_Timeout").Format(Figure7)
-        .Exit(TExitRule::Zero).ClickSelectsAll().InChange(TInChange::Opens).SavedAt(31),
+        .ShownAgain().Exit(TExitRule::Zero).ClickSelectsAll().InChange(TInChange::Opens).SavedAt(31),
     Param(edtRandTimeOut, model::TParam::RandTimeOut, "liRandTimeOut", lgTime, "Res_Algo_RandTimeout").Format(Figure7)
         .Step(0.01).Exit(TExitRule::ZeroOrMax).ClickSelectsAll().InChange(TInChange::Opens).SavedAt(35),
     Param(cmbIceberg, model::TParam::Iceberg, "liIceberg", lgICEBERG, "Res_Algo_Iceberg").InChange(TInChange::Opens)

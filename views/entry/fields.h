@@ -133,6 +133,7 @@ struct TGroupRow {
   std::string_view captionId = {};  ///< resource id; empty for a group without caption
   std::uint8_t movesInPlace =
       0;  ///< moves to the column that the chosen algorithm says, in this order, from 1; 0: never
+  bool shownAgain = false;  ///< is shown before an algorithm is applied, though none hides it
 };
 
 enum class TFieldKind : std::uint8_t { Edit, Spin, Combo, Date, Check, Button, SpeedButton };
@@ -220,6 +221,7 @@ struct TFieldRow {
   bool pickKeepsTime = false;        ///< of date edits: a day picked from a calendar keeps the time of day
   bool keyInput = false;             ///< its caption stands out
   bool staysHidden = false;          ///< once an algorithm hid its item, none shows it again
+  bool shownAgain = false;           ///< is shown before an algorithm is applied, though none hides it
   std::optional<TField> locks = {};  ///< of a lock box: the field that it disables while it is checked
   THostEditor hostEditor = {};
   TInChange inChange = TInChange::Keeps;

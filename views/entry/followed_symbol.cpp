@@ -1,5 +1,6 @@
 #include "views/entry/followed_symbol.h"
 
+#include <algorithm>
 #include <cmath>
 #include <limits>
 #include <optional>
@@ -30,46 +31,68 @@ TFollowedSymbol::TFollowedSymbol(TEntryForm& form, host::TOwner owner,
                                  host::TCustomSubscribeAdapter::TListener listener)
     : FForm(form), FOwner(owner), FListener(std::move(listener)) {}
 
+void TFollowedSymbol::End() {
+  FEnded = true;
+  Unfollow();
+}
+
 void TFollowedSymbol::Unfollow() {
+  ++FTurn;
   // Forgotten first: an item that the host refuses to take back must not serve the next symbol.
   FCurrentSymbol.clear();
   host::TMarketDataItem* item = std::exchange(FCurrentItem, nullptr);
-  if (item != nullptr) Subscriptions().Unsubscribe(item, FOwner);
+  if (std::exchange(FListening, false) && item != nullptr) Subscriptions().Unsubscribe(item, FOwner);
 }
 
 void TFollowedSymbol::SetSymbol(std::string_view symbol) {
+  if (FEnded) return;
   // Entered again, a symbol that is followed stays so, even when the host fails.
   if (symbol == FCurrentSymbol) return Prefill();
+  const std::string next(symbol);
+  const auto turn = FTurn + 1;
   try {
-    Follow(std::string(symbol));
-    Prefill();
+    if (Follow(next)) Prefill();
   } catch (...) {
     // No symbol, rather than one with the former one's quantity and price.
-    Forget();
+    if (turn == FTurn) Forget();
     throw;
   }
 }
 
-void TFollowedSymbol::Follow(const std::string& symbol) {
+bool TFollowedSymbol::Follow(const std::string& symbol) {
+  // The host may have another symbol followed, or the form closed, in each of these calls: that is the later
+  // wish then.
+  const auto overtaken = [this, turn = FTurn + 1] { return turn != FTurn; };
   Unfollow();
+  if (overtaken()) return false;
   // First, so that what the host delivers while it takes the listener finds its symbol.
   FCurrentSymbol = symbol;
   if (!symbol.empty()) {
-    FCurrentItem = Subscriptions().Subscribe(symbol, host::PriceDataSet, true);
-    if (FCurrentItem != nullptr) Subscriptions().AddListener(FCurrentItem, FListener, FOwner);
+    host::TMarketDataItem* item = Subscriptions().Subscribe(symbol, host::PriceDataSet, true);
+    if (overtaken()) return false;
+    FCurrentItem = item;
+    if (item != nullptr) {
+      Subscriptions().AddListener(item, FListener, FOwner);
+      if (overtaken()) {
+        if (item != FCurrentItem) Subscriptions().Unsubscribe(item, FOwner);
+        return false;
+      }
+      FListening = true;
+    }
   }
   auto& editor = FForm.Edit(TField::edtSymbol);
   if (editor.Hint() != FCurrentSymbol) {
     editor.SetText(FCurrentSymbol);
     editor.Commit();
   }
+  return !FEnded;
 }
 
 void TFollowedSymbol::Prefill() {
-  // Before the editors are told, where the host may fail: what the former symbol filled in is not this one's.
+  TellEditors();
+  if (FEnded) return;
   FPriceSet = false;
   FQtySet = false;
-  TellEditors();
   UpdateSymbolInfo();
 }
 
@@ -83,9 +106,15 @@ void TFollowedSymbol::Forget() {
 
 void TFollowedSymbol::TellEditors() const {
   auto& editors = host::TEditorManager::GetInstance();
-  editors.SetPriceSymbol(FForm.Spin(TField::edtPrice), FCurrentSymbol);
-  for (const TField field : QuantityEditors) editors.SetQuantitySymbol(FForm.Spin(field), FCurrentSymbol);
-  for (const TField field : AlgoPriceEditors) editors.SetPriceSymbol(FForm.Spin(field), FCurrentSymbol);
+  const auto tellPrice = [&](TField field) {
+    if (!FEnded) editors.SetPriceSymbol(FForm.Spin(field), FCurrentSymbol);
+  };
+  const auto tellQuantity = [&](TField field) {
+    if (!FEnded) editors.SetQuantitySymbol(FForm.Spin(field), FCurrentSymbol);
+  };
+  tellPrice(TField::edtPrice);
+  std::ranges::for_each(QuantityEditors, tellQuantity);
+  std::ranges::for_each(AlgoPriceEditors, tellPrice);
 }
 
 void TFollowedSymbol::SymbolUpdate(const host::TItemDictionary* data) {
@@ -104,7 +133,8 @@ void TFollowedSymbol::SpreadUpdate(const host::TSpreadDictionary* data) {
 void TFollowedSymbol::UpdateSymbolInfo() {
   if (FCurrentItem == nullptr || FCurrentItem->State() == host::ItemEmpty || FCopying) return;
   if (!FQtySet) PrefillQuantity();
-  if (!FPriceSet) PrefillPrice();
+  // What the quantity set off may have ended the following.
+  if (!FPriceSet && FCurrentItem != nullptr) PrefillPrice();
 }
 
 void TFollowedSymbol::PrefillQuantity() {

@@ -27,8 +27,11 @@ class TFollowedSymbol {
   /// market data anew.
   void SetSymbol(std::string_view symbol);
 
-  /// Ends the subscription; nothing is followed afterwards, even when the host fails at it.
-  void Unfollow();
+  /// Ends the subscription for good: no symbol is followed from now on, even when the host fails at it.
+  void End();
+
+  /// Leaves no symbol, with the editor's code emptied; a failure of the host is dropped.
+  void Forget();
 
   /// Market data came: what belongs to the symbol is taken up, everything else passed over.
   void SymbolUpdate(const host::TItemDictionary* data);
@@ -51,9 +54,9 @@ class TFollowedSymbol {
   bool& Copying() { return FCopying; }
 
  private:
-  void Follow(const std::string& symbol);
+  void Unfollow();
+  bool Follow(const std::string& symbol);
   void Prefill();
-  void Forget();
   void TellEditors() const;
   void PrefillQuantity();
   void PrefillPrice();
@@ -64,6 +67,9 @@ class TFollowedSymbol {
   host::TCustomSubscribeAdapter::TListener FListener;
   std::string FCurrentSymbol;
   host::TMarketDataItem* FCurrentItem = nullptr;
+  std::uint32_t FTurn = 0;  ///< counts the changes of symbol, so that one inside another is noticed
+  bool FListening = false;  ///< to the item
+  bool FEnded = false;
   bool FPriceSet = false;
   bool FQtySet = false;
   std::int32_t FLotSize = 0;

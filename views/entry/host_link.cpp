@@ -1,6 +1,7 @@
 // What ties a frame to the host for its life: the host editors that serve its fields, the notifications that
 // it listens to, and the settings that it follows.
 
+#include <algorithm>
 #include <array>
 #include <utility>
 
@@ -60,7 +61,7 @@ void TAlgoOrderEntryFrame::RegisterWithHost() {
   all.Add(host::ListenToChannel(host::CopyOrderChannel, Handler(&TAlgoOrderEntryFrame::CopyOrder), this));
   all.Add(host::ListenToSpreads(Handler(&TAlgoOrderEntryFrame::SpreadUpdate), this));
   all.Add(host::ListenToSkins(Handler(&TAlgoOrderEntryFrame::SkinChanged), this));
-  all.Add(host::TRegistration([this] { FSymbol.Unfollow(); }));
+  all.Add(host::TRegistration([this] { FSymbol.End(); }));
 }
 
 bool TAlgoOrderEntryFrame::SetGroupID(std::string_view id) {
@@ -79,22 +80,36 @@ bool TAlgoOrderEntryFrame::SetGroupID(std::string_view id) {
 }
 
 void TAlgoOrderEntryFrame::JoinGroup() {
-  if (!WorksOnProfileAccount()) {
-    Editors().RegisterAccountEditor(Edit(TField::edtAccount), FGroupID, LookUpMode, LookUpOptions);
-  }
-  Editors().RegisterPriceEditor(Spin(TField::edtPrice), FGroupID);
-  Editors().RegisterQuantityEditor(Spin(TField::edtQty), FGroupID);
-  Editors().RegisterSymbolEditor(Edit(TField::edtSymbol), FGroupID, LookUpMode, LookUpOptions);
-  for (const TField field : AlgoQuantityEditors) Editors().RegisterQuantityEditor(Spin(field), FGroupID);
-  for (const TField field : AlgoPriceEditors) Editors().RegisterPriceEditor(Spin(field), FGroupID);
+  const std::string group = FGroupID;
+  const auto price = [&](TField field) { return Rejoin(host::RegisterPriceEditor(Spin(field), group)); };
+  const auto quantity = [&](TField field) {
+    return Rejoin(host::RegisterQuantityEditor(Spin(field), group));
+  };
+  const bool joined =
+      (WorksOnProfileAccount() ||
+       Rejoin(host::RegisterAccountEditor(Edit(TField::edtAccount), group, LookUpMode, LookUpOptions))) &&
+      price(TField::edtPrice) && quantity(TField::edtQty) &&
+      Rejoin(host::RegisterSymbolEditor(Edit(TField::edtSymbol), group, LookUpMode, LookUpOptions)) &&
+      std::ranges::all_of(AlgoQuantityEditors, quantity) && std::ranges::all_of(AlgoPriceEditors, price);
+  if (!joined) return;
   TellEditorsOfGroup(FSymbol.Symbol());
   const std::string shown = ShownSymbol();
   if (!shown.empty()) TellEditorsOfGroup(shown);
 }
 
+bool TAlgoOrderEntryFrame::Rejoin(host::TRegistration registration) {
+  // The first registration is the one that takes the editor back, unless that has happened already.
+  if (!Detached()) registration.Dismiss();
+  return !Detached();
+}
+
 void TAlgoOrderEntryFrame::TellEditorsOfGroup(const std::string& symbol) {
-  for (const TField field : PriceEditorsOfGroup) Editors().SetPriceSymbol(Spin(field), symbol);
-  for (const TField field : QuantityEditorsOfGroup) Editors().SetQuantitySymbol(Spin(field), symbol);
+  for (const TField field : PriceEditorsOfGroup) {
+    if (!Detached()) Editors().SetPriceSymbol(Spin(field), symbol);
+  }
+  for (const TField field : QuantityEditorsOfGroup) {
+    if (!Detached()) Editors().SetQuantitySymbol(Spin(field), symbol);
+  }
 }
 
 void TAlgoOrderEntryFrame::SymbolUpdate(const void* /*sender*/, const host::TItemDictionary* data) {

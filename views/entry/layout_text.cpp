@@ -74,7 +74,7 @@ std::optional<std::string> TLayoutText::Value(const TLayoutRow& row, const std::
     case TKind::Choice:
       return UnlessEmpty(std::string(FLists.ChosenEntry(row.field)));
     case TKind::Time:
-      return UnlessEmpty(FForm.Date(row.field).Text());
+      return UnlessEmpty(FForm.Date(row.field).ValueText());
     case TKind::Quantity:
     case TKind::Price:
     case TKind::Number:
@@ -82,7 +82,7 @@ std::optional<std::string> TLayoutText::Value(const TLayoutRow& row, const std::
       break;
   }
   if (!FForm.Spin(row.field).Value()) return std::nullopt;
-  return WithoutSeparators(FForm.Spin(row.textFrom).Text());
+  return WithoutSeparators(FForm.Spin(row.textFrom).ValueText());
 }
 
 void TLayoutText::Read(std::string_view line) {

@@ -92,16 +92,26 @@ auto TPickLists::OffersAt(std::int32_t exchangeIndex) const -> TOffers {
   // items stand for other entries.
   offers.algos = AlgosOf(offers.exchange);
   offers.orderTypes = OrderTypesOf(offers.exchange);
+  for (TOffer* offer : {&offers.algos, &offers.orderTypes}) {
+    for (const std::string& id : offer->ids) offer->texts.push_back(host::ResourceText(id));
+  }
   return offers;
 }
 
 void TPickLists::ShowOffers(TOffers offers) {
-  const TChosen remembered = Chosen();
+  TChosen remembered = Chosen();
   if (remembered.exchange != offers.exchange) return;
   TRefill refill(*this);
   FAlgoTypeList = std::move(offers.algos.ids);
   FOrderTypeConstList = std::move(offers.algos.codes);
   FOfferedTypes = std::move(offers.orderTypes);
+  FOffering = std::move(offers.exchange);
+  if (FOwnType != TOwnType::NotShown && !remembered.algoType.empty() &&
+      std::find(FAlgoTypeList.begin(), FAlgoTypeList.end(), remembered.algoType) == FAlgoTypeList.end()) {
+    // The algorithm of an order that is shown gives way to none, never to another one.
+    FAlgoMayStandIn = false;
+    remembered.algoType.clear();
+  }
   const bool noneStays = remembered.algoType.empty() && !FAlgoMayStandIn;
   FForm.Combo(TField::cmbOrderType)
       .Refill(std::move(offers.algos.texts),
@@ -150,7 +160,13 @@ void TPickLists::SelectOrderType(std::string_view id) {
 void TPickLists::RefillOrderLists() {
   TRefill refill(*this);
   InitExchangeList();
-  InitializeOrderType(FForm.Combo(TField::cmbExch).Index());
+  try {
+    InitializeOrderType(FForm.Combo(TField::cmbExch).Index());
+  } catch (...) {
+    // Better nothing to choose from than what another exchange offers.
+    if (Chosen().exchange != FOffering) OfferNothing();
+    throw;
+  }
   refill.NotifyChanges();
 }
 
@@ -158,10 +174,14 @@ void TPickLists::OfferNothing() {
   FAlgoTypeList.clear();
   FOrderTypeConstList.clear();
   FOfferedTypes = {};
+  FOffering.clear();
   FForm.Combo(TField::cmbOrderType).Refill({}, -1);
-  ShowOrderTypes({});
-  // Announced anew with the next choice, the same one included, so that its fields come back.
+  FOrderTypeList.clear();
+  FForm.Combo(TField::cmbMType).Refill({}, -1);
+  FForm.HideAlgo();
+  // Handled anew with the next choice, the same one included, so that its fields come back.
   FHandled = {};
+  FForm.Combo(TField::cmbExch).Unsettle();
 }
 
 auto TPickLists::AlgosOf(const std::string& exchange) -> TOffer {
@@ -172,7 +192,6 @@ auto TPickLists::AlgosOf(const std::string& exchange) -> TOffer {
     if (row == nullptr) continue;
     offer.ids.emplace_back(row->resourceId);
     offer.codes.emplace_back(row->code);
-    offer.texts.push_back(host::ResourceText(row->resourceId));
   }
   return offer;
 }
@@ -186,7 +205,6 @@ auto TPickLists::OrderTypesOf(const std::string& exchange) -> TOffer {
     if (row == nullptr || (!row->right.empty() && !profile.HasRight(row->right))) continue;
     offer.ids.emplace_back(row->resourceId);
     offer.codes.emplace_back(row->code);
-    offer.texts.push_back(host::ResourceText(row->resourceId));
   }
   return offer;
 }

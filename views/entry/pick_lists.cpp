@@ -90,7 +90,7 @@ void TPickLists::FillChoices(const model::TParamRow& param) {
   items.reserve(param.choices.size());
   for (const model::TChoiceItem& item : param.choices) items.push_back(ItemText(item));
   auto& combo = FForm.Combo(FieldOf(param.param));
-  const bool reset = param.reset == model::TReset::Refilled || combo.Index() < 0;
+  const bool reset = param.reset == model::TReset::Refilled || (combo.Index() < 0 && param.alwaysChosen);
   combo.Refill(std::move(items), reset ? ResetIndex(param) : combo.Index());
 }
 

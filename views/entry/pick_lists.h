@@ -65,7 +65,8 @@ class TPickLists {
   /// Both of these, as one refill.
   void RefillOrderLists();
 
-  /// Empties the lists that depend on the exchange.
+  /// Empties the lists that depend on the exchange and hides the algorithm's fields. The next choice of an
+  /// exchange, the same one included, lists anew.
   void OfferNothing();
 
   /// Shows the fixed lists and the algorithms in the user's language; what is chosen stays chosen.
@@ -137,6 +138,7 @@ class TPickLists {
   std::vector<std::string> FOrderTypeConstList;  ///< algorithm codes, parallel to cmbOrderType
   std::vector<std::string> FOrderTypeList;       ///< host order type resource ids, parallel to cmbMType
   TChosen FHandled;                              ///< the entries for which the change handlers ran last
+  std::string FOffering;                         ///< the exchange whose offers are listed
   TOffer FOfferedTypes;                          ///< what the exchange and the user's rights offer
   std::string FOwnTypeId;                        ///< the type of the order that is shown
   TOwnType FOwnType;

@@ -38,28 +38,43 @@ void TAlgoOrderEntryFrame::btnSubmitClick() {
 // The entries, checked and written into the order.
 
 bool TAlgoOrderEntryFrame::GetOrder(host::TCustomClientOrder& order) {
-  auto failure = CheckCommon();
-  if (!failure) failure = CheckAlgoFields();
-  if (failure) {
-    Tell(*failure);
-    return false;
-  }
+  if (!Passes(true)) return false;
   FillCommonFields(order);
   return true;
 }
 
-std::optional<model::TRuleFailure> TAlgoOrderEntryFrame::CheckCommon() const {
+bool TAlgoOrderEntryFrame::Passes(bool algoToo) {
+  const TEntries entries = Entries();
+  auto failure = CheckCommon(entries);
+  // A host that closed the form while it was asked, or filled in something else: that is not what the trader
+  // pressed the button for.
+  if (Detached() || Entries() != entries) return false;
+  if (!failure && algoToo) failure = CheckAlgoFields();
+  if (failure) Tell(*failure);
+  return !failure;
+}
+
+TAlgoOrderEntryFrame::TEntries TAlgoOrderEntryFrame::Entries() const {
+  return {.side = FOrderType,
+          .account = FCurrentAccount,
+          .symbol = Edit(TField::edtSymbol).Hint(),
+          .item = FSymbol.Item(),
+          .quantity = text::TruncateToWhole(Spin(TField::edtQty).Value().value_or(0)),
+          .algoIndex = Combo(TField::cmbOrderType).Index()};
+}
+
+std::optional<model::TRuleFailure> TAlgoOrderEntryFrame::CheckCommon(const TEntries& entries) const {
   return model::CheckCommonRules({
-      .side = FOrderType,
-      .account = FCurrentAccount,
+      .side = entries.side,
+      .account = entries.account,
       .accountKnown =
           [](std::string_view account) {
             return host::TCustomAccountAdapter::GetInstance().IsKnown(account);
           },
-      .symbol = Edit(TField::edtSymbol).Hint(),
-      .hasInstrument = FSymbol.Item() != nullptr,
-      .quantity = text::TruncateToWhole(Spin(TField::edtQty).Value().value_or(0)),
-      .algoChosen = Combo(TField::cmbOrderType).Index() >= 0,
+      .symbol = entries.symbol,
+      .hasInstrument = entries.item != nullptr,
+      .quantity = entries.quantity,
+      .algoChosen = entries.algoIndex >= 0,
   });
 }
 

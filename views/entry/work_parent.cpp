@@ -16,10 +16,7 @@ void TAlgoOrderEntryFrame::btnWorkClick() {
 }
 
 bool TAlgoOrderEntryFrame::GetWorkOrder(host::TCustomClientOrder& order) {
-  if (const auto failure = CheckCommon()) {
-    Tell(*failure);
-    return false;
-  }
+  if (!Passes(false)) return false;
   FillCommonFields(order);
   return true;
 }

@@ -6,6 +6,7 @@
 #include "forms/dialog_form.h"
 #include "plugin/host_contract/config_manager.h"
 #include "plugin/host_contract/editor_manager.h"
+#include "plugin/host_contract/listen.h"
 #include "plugin/host_contract/user_app_profile.h"
 #include "views/work/work_order_frame.h"
 
@@ -108,16 +109,12 @@ void TAlgoWorkOrderFrame::SetWorkCaptions() {
   sedtPecentage->Item()->SetCaption(GetResource("Res_Percentage"));
 }
 
-bool TAlgoWorkOrderFrame::SetGroupID(std::string_view id) {
-  return AtBoundary(false, [&] {
-    TAlgoOrderChangeFrame::SetGroupID(id);
-    if (id == FGroupID) return true;
-    FGroupID = id;
-    auto& editors = host::TEditorManager::GetInstance();
-    editors.RegisterQuantityEditor(*sedtAvaliQty, FGroupID);
-    if (FMyOrder != nullptr) editors.SetQuantitySymbol(*sedtAvaliQty, FMyOrder->symbol);
-    return true;
-  });
+void TAlgoWorkOrderFrame::JoinGroup() {
+  TAlgoOrderChangeFrame::JoinGroup();
+  if (Detached() || !Rejoin(host::RegisterQuantityEditor(*sedtAvaliQty, GetGroupID()))) return;
+  if (FMyOrder != nullptr) {
+    host::TEditorManager::GetInstance().SetQuantitySymbol(*sedtAvaliQty, FMyOrder->symbol);
+  }
 }
 
 void TAlgoWorkOrderFrame::FrameResize() {

@@ -8,7 +8,6 @@
 #include "model/order_types.h"
 #include "plugin/host_contract/editor_manager.h"
 #include "plugin/host_contract/user_app_profile.h"
-#include "plugin/host_contract/view_functions.h"
 #include "views/boundary/flag_scope.h"
 #include "views/work/available_quantity.h"
 
@@ -28,10 +27,10 @@ void TAlgoWorkOrderFrame::WorkOrder(host::TCustomClientOrder* order) {
   FMyOrder = order;
   if (FMyOrder != nullptr) {
     InitializeViewbyOrder(*FMyOrder);
-    AssignOrderInfo(*FMyOrder);
+    if (FMyOrder != nullptr) AssignOrderInfo(*FMyOrder);
   }
   FrameResize();
-  host::SendViewNotify(*this, host::ViewChanged);
+  NotifyViewChanged();
 }
 
 void TAlgoWorkOrderFrame::InitializeViewbyOrder(host::TCustomClientOrder& order) {
@@ -67,7 +66,7 @@ void TAlgoWorkOrderFrame::AssignOrderInfo(const host::TCustomClientOrder& order)
   Spin(TField::edtPrice).SetValue(priced ? std::optional(order.price) : std::nullopt);
   SetPriceMaxMinValue();
 
-  const double available = GetWorkParentOrderAvailableQty(FMyOrder);
+  const double available = GetWorkParentOrderAvailableQty(&order);
   sedtAvaliQty->SetValue(available);
   sedtAvaliQty->Item()->SetEnabled(false);
   sedtAvaliQty->SetReadOnly(true);
@@ -75,21 +74,24 @@ void TAlgoWorkOrderFrame::AssignOrderInfo(const host::TCustomClientOrder& order)
   quantity.SetValue(FAvailQtyAsQty ? std::optional(available) : std::nullopt);
   quantity.SetMin(0);
   quantity.SetMax(available);
-  const double share = order.quantity != 0 ? available / order.quantity * 100 : 0;
+  // Multiplied first, so that the whole percentages are whole and not above their own maximum.
+  const double share = order.quantity != 0 ? available * 100 / order.quantity : 0;
   sedtPecentage->SetMin(0);
   sedtPecentage->SetMax(share);
-  sedtPecentage->SetValue(order.quantity != 0 ? std::trunc(available * 100 / order.quantity) : 0);
+  sedtPecentage->SetValue(order.quantity != 0 ? std::trunc(share) : 0);
 }
 
 void TAlgoWorkOrderFrame::btnSubmitClick() {
-  if (FMyOrder == nullptr || !CheckInput()) return;
+  const bool answered = Form() != nullptr && Form()->ModalResult() != forms::ModalNone;
+  if (FMyOrder == nullptr || answered || !CheckInput()) return;
   UpdateOrder();
-  if (Form() != nullptr) Form()->SetModalResult(forms::ModalOk);
+  if (FMyOrder != nullptr && Form() != nullptr) Form()->SetModalResult(forms::ModalOk);
 }
 
 void TAlgoWorkOrderFrame::UpdateOrder() {
   // The identity is asked first; it is written with the rest, when the text, which may fail too, is there.
   std::string user = host::TCustomUserAppProfile::GetInstance().UserIdentity();
+  if (FMyOrder == nullptr) return;
   SetOrderAlgo(*FMyOrder);
   FMyOrder->user = std::move(user);
   FMyOrder->price = GetSpinEditValue(&Spin(TField::edtPrice));

@@ -30,9 +30,9 @@ class TAlgoWorkOrderFrame : public TAlgoOrderChangeFrame {
   void SetOnAlgoTypeChange(std::function<void()> changed) { FOnAlgoTypeChange = std::move(changed); }
 
   bool SetLanguage(std::int32_t language) override;
-  bool SetGroupID(std::string_view id) override;
 
  protected:
+  void JoinGroup() override;
   void InitializeViewbyOrder(host::TCustomClientOrder& order) override;
   virtual void AssignOrderInfo(const host::TCustomClientOrder& order);
 
@@ -67,7 +67,6 @@ class TAlgoWorkOrderFrame : public TAlgoOrderChangeFrame {
   forms::TSpinEdit* sedtAvaliQty = nullptr;
   forms::TSpinEdit* sedtPecentage = nullptr;
 
-  std::string FGroupID;
   std::vector<std::string> FOrderTIFList;  ///< time-in-force choices; kept, though no control shows them
   bool FAvailQtyAsQty = true;
   bool FConfirmWorkOrdPri = false;

@@ -16,6 +16,9 @@ namespace {
 
 constexpr double PriceLimit = 2000000000;
 
+// Rounded to as many digits as a figure holds whatever was calculated.
+double Exact(double figure) { return text::RoundToDigits(figure, 15); }
+
 bool Differs(double left, double right) { return std::abs(left - right) > model::PriceEpsilon; }
 
 }  // namespace
@@ -73,19 +76,24 @@ void TAlgoWorkOrderFrame::edtPecentagePropertiesChange() {
   if (FIsUpdating || FMyOrder == nullptr) return;
   const TFlagScope updating(FIsUpdating);
   const double lot = GetLotSize();
-  const double quantity = std::floor(FMyOrder->quantity * GetSpinEditValue(sedtPecentage) / 100);
+  if (FMyOrder == nullptr) return;
+  // Rounded before the lots are counted: 8.2 percent of 50000 is 4100, not the 4099.999... of binary figures.
+  const double quantity = std::floor(Exact(FMyOrder->quantity * GetSpinEditValue(sedtPecentage) / 100));
   Spin(TField::edtQty).SetValue(std::trunc(quantity / lot) * lot);
 }
 
 bool TAlgoWorkOrderFrame::CheckInput() {
   const auto failure = FirstFailure();
+  if (FMyOrder == nullptr) return false;
   if (failure) Tell(*failure);
-  return !failure && CheckOrderValid();
+  return !failure && CheckOrderValid() && FMyOrder != nullptr;
 }
 
 std::optional<model::TRuleFailure> TAlgoWorkOrderFrame::FirstFailure() const {
   using enum model::TMessageSource;
   using TRuleFailure = model::TRuleFailure;
+  // The host may let the order go while it is asked; whoever gave it to the form has it until the form ends.
+  const host::TCustomOrder& order = *FMyOrder;
   const std::string account = Edit(TField::edtAccount).Text();
   if (account.empty()) return TRuleFailure{HostCode, "DC10013001"};
   if (!host::TCustomAccountAdapter::GetInstance().IsKnown(account))
@@ -93,15 +101,14 @@ std::optional<model::TRuleFailure> TAlgoWorkOrderFrame::FirstFailure() const {
   if (Edit(TField::edtSymbol).Text().empty()) return TRuleFailure{HostCode, "DC1000001"};
   const double quantity = GetSpinEditValue(&Spin(TField::edtQty));
   if (quantity <= 0) return TRuleFailure{HostCode, "DC1004001"};
-  if (quantity > GetWorkParentOrderAvailableQty(FMyOrder))
-    return TRuleFailure{Resource, "Res_QuantityInvalid"};
-  if (FConfirmWorkOrdPri && Check(TField::cbLockPrice).Checked() && FMyOrder->price != 0) {
+  if (quantity > GetWorkParentOrderAvailableQty(&order)) return TRuleFailure{Resource, "Res_QuantityInvalid"};
+  if (FConfirmWorkOrdPri && Check(TField::cbLockPrice).Checked() && order.price != 0) {
     // A buying child may be cheaper than its parent; a selling one has the parent's price and no other.
     const double price = GetSpinEditValue(&Spin(TField::edtPrice));
-    if (FMyOrder->side == host::SideBuy && price - FMyOrder->price > model::PriceEpsilon) {
+    if (order.side == host::SideBuy && price - order.price > model::PriceEpsilon) {
       return TRuleFailure{Resource, "Res_ChangeUpPrice"};
     }
-    if (FMyOrder->side == host::SideSell && Differs(price, FMyOrder->price)) {
+    if (order.side == host::SideSell && Differs(price, order.price)) {
       return TRuleFailure{Resource, "Res_ChangeDownPrice"};
     }
   }
