@@ -41,6 +41,12 @@ std::shared_ptr<TViewFrame> TIBaseView::FindView(TInstanceHandle instance) const
   return found == FViews.end() ? nullptr : *found;
 }
 
+std::shared_ptr<TViewFrame> TIBaseView::ReleaseView(TInstanceHandle instance) {
+  auto view = FindView(instance);
+  if (view) std::erase(FViews, view);
+  return view;
+}
+
 bool TIBaseView::ContainView(TInstanceHandle instance) { return FindView(instance) != nullptr; }
 
 void TIBaseView::CloseInstance(TInstanceHandle instance) {

@@ -148,6 +148,11 @@ class ALGO_SHARED TIBaseView {
   /// [host → module, while the provider lives]
   virtual std::shared_ptr<TViewFrame> FindView(TInstanceHandle instance) const;
 
+  /// Hands the instance over: the provider keeps it no longer and does not close it when it goes. From then
+  /// on the frame is the host's, which ends it with Detach. nullptr, with no effect, for an unknown handle.
+  /// [host → module, while the instance is open]
+  virtual std::shared_ptr<TViewFrame> ReleaseView(TInstanceHandle instance);
+
  protected:
   /// Closes every instance; a failure does not spare the others, and the first one is thrown at the end.
   /// Derived classes whose frames need them alive call it in their destructor.

@@ -12,7 +12,7 @@ namespace algo::host {
 
 /// The version of this contract. It changes with every change of a header of this folder or of the form model
 /// that a module built before cannot live with.
-inline constexpr std::uint32_t ContractVersion = 2;
+inline constexpr std::uint32_t ContractVersion = 3;
 
 /// What a module gives a host. Lives as long as the module is loaded. None of the functions throws.
 struct TModuleEntry {

@@ -17,6 +17,9 @@ decltype(auto) CallModule(TCall&& call) {
   const std::string crossed = "exception crossed the boundary: ";
   try {
     return std::forward<TCall>(call)();
+  } catch (const ECommandError&) {
+    // The driver's own, for instance because the provider has gone in the middle.
+    throw;
   } catch (const std::exception& error) {
     throw ECommandError(crossed + error.what());
   } catch (...) {

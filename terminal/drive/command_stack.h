@@ -1,21 +1,35 @@
 #pragma once
 
-// The commands that are running: one, or several while dialogs are open, since the commands that are executed
-// in a dialog run inside the command that opened it. Events belong to the innermost command.
+// The commands that are running: one, or several while dialogs are open or service calls are acted in, since
+// what is executed there runs inside the command that led to it. Events belong to the innermost command.
 
+#include <array>
+#include <cstdint>
 #include <string>
 #include <utility>
 #include <vector>
 
 #include "terminal/drive/json.h"
+#include "terminal/host/service_operations.h"
 
 namespace algo::terminal::drive {
+
+/// Commands to carry out in the middle of one call of a service.
+struct TInsideEntry {
+  TServiceOperation call = TServiceOperation::ConfigRead;
+  std::uint32_t nth = 1;  ///< which of the command's calls of the operation
+  bool after = false;     ///< after the work of the call, not before it
+  const TCommandJson* commands = nullptr;
+};
 
 /// One command that is running.
 struct TRunningCommand {
   std::vector<const TCommandJson*>
       dialogScripts;  ///< the commands for each dialog that opens, first dialog first
   std::size_t dialogsOpened = 0;
+  std::vector<TInsideEntry> insideEntries;
+  std::array<std::uint32_t, ServiceOperationCount> calls{};  ///< how many of each operation there were
+  TAnswerJson inside = TAnswerJson::array();  ///< the entries that were reached, for the answer
   TAnswerJson events = TAnswerJson::array();
   TAnswerJson dialogs = TAnswerJson::array();  ///< the dialogs that have closed, for the answer
   std::string violation;                       ///< the first contract violation; empty while there is none

@@ -8,6 +8,7 @@ TDialogs::TDialogs(TFrameLabels& labels, TCommandStack& stack, TInputPlayer& inp
     : FLabels(labels), FRunning(stack), FInput(input), FExecute(std::move(execute)) {}
 
 void TDialogs::Play(forms::TDialogForm& form) {
+  if (FEnded) return form.SetModalResult(forms::ModalCancel);
   struct TShowing {
     TDialogs& dialogs;
     ~TShowing() {
@@ -30,7 +31,7 @@ void TDialogs::Play(forms::TDialogForm& form) {
   if (place < running.dialogScripts.size()) {
     for (const auto& command : *running.dialogScripts[place]) answers.push_back(FExecute(command));
   }
-  if (form.ModalResult() == forms::ModalNone) form.SetModalResult(forms::ModalCancel);
+  if (form.ModalResult() == forms::ModalNone || FEnded) form.SetModalResult(forms::ModalCancel);
 
   running.dialogs.push_back({{"frame", label},
                              {"caption", form.Caption()},

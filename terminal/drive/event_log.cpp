@@ -6,8 +6,8 @@
 
 namespace algo::terminal::drive {
 
-TEventLog::TEventLog(TFrameLabels& labels, TCommandStack& stack, TDialogs& dialogs)
-    : FLabels(labels), FRunning(stack), FDialogs(dialogs) {}
+TEventLog::TEventLog(TFrameLabels& labels, TCommandStack& stack, TDialogs& dialogs, TInsideCalls& inside)
+    : FLabels(labels), FRunning(stack), FDialogs(dialogs), FInside(inside) {}
 
 void TEventLog::MessageShown(std::string_view text) {
   FRunning.AddEvent({{"event", "message"}, {"text", text}});

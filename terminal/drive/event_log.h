@@ -5,6 +5,7 @@
 #include "terminal/drive/command_stack.h"
 #include "terminal/drive/dialogs.h"
 #include "terminal/drive/frame_labels.h"
+#include "terminal/drive/inside_calls.h"
 #include "terminal/host/host_events.h"
 
 namespace algo::terminal::drive {
@@ -12,7 +13,9 @@ namespace algo::terminal::drive {
 class TEventLog final : public THostEvents {
  public:
   /// All of them outlive the log.
-  TEventLog(TFrameLabels& labels, TCommandStack& stack, TDialogs& dialogs);
+  TEventLog(TFrameLabels& labels, TCommandStack& stack, TDialogs& dialogs, TInsideCalls& inside);
+
+  using THostEvents::WatchCalls;
 
   void MessageShown(std::string_view text) override;
   void ErrorCodeShown(std::string_view code) override;
@@ -32,6 +35,10 @@ class TEventLog final : public THostEvents {
   void FormBroughtToFront(forms::TDialogForm& form) override;
   void FormClosed(forms::TDialogForm& form) override;
   void RunModal(forms::TDialogForm& form) override { FDialogs.Play(form); }
+  std::uint32_t CallBegins(TServiceOperation operation) override { return FInside.CallBegins(operation); }
+  void CallEnds(TServiceOperation operation, std::uint32_t number) override {
+    FInside.CallEnds(operation, number);
+  }
 
  private:
   TAnswerJson EditorEvent(std::string_view event, TEditorKind kind, const forms::TControl& control);
@@ -40,6 +47,7 @@ class TEventLog final : public THostEvents {
   TFrameLabels& FLabels;
   TCommandStack& FRunning;
   TDialogs& FDialogs;
+  TInsideCalls& FInside;
 };
 
 }  // namespace algo::terminal::drive

@@ -28,6 +28,18 @@ void TFrameLabels::Forget(std::string_view label) {
   if (found != FFrames.end()) FFrames.erase(found);
 }
 
+std::map<std::string, std::shared_ptr<host::TViewFrame>> TFrameLabels::Opened() const {
+  std::map<std::string, std::shared_ptr<host::TViewFrame>> opened;
+  for (const auto& [label, frame] : FFrames) {
+    if (auto alive = frame.lock(); alive && !IsReserved(label)) opened.emplace(label, std::move(alive));
+  }
+  return opened;
+}
+
+void TFrameLabels::ForgetReserved() {
+  std::erase_if(FFrames, [](const auto& known) { return IsReserved(known.first); });
+}
+
 void TFrameLabels::RemoveExpired() {
   std::erase_if(FLabels, [](const auto& known) { return known.second.frame.expired(); });
   std::erase_if(FFrames, [](const auto& known) { return known.second.expired(); });
@@ -39,11 +51,15 @@ bool TFrameLabels::IsReserved(std::string_view label) {
 
 TFrameLabels::TNewFrameLabels::TNewFrameLabels(TFrameLabels& labels, std::string_view entry,
                                                std::string_view change)
-    : FLabels(labels), FFormer(labels.FLabelOfClass) {
+    : FLabels(labels), FFormer(labels.FLabelOfClass), FTaken(entry) {
+  labels.FTaken.insert(FTaken);
   if (!entry.empty()) labels.FLabelOfClass["TAlgoOrderEntryFrame"] = entry;
   if (!change.empty()) labels.FLabelOfClass["TAlgoOrderChangeFrame"] = change;
 }
 
-TFrameLabels::TNewFrameLabels::~TNewFrameLabels() { FLabels.FLabelOfClass.swap(FFormer); }
+TFrameLabels::TNewFrameLabels::~TNewFrameLabels() {
+  FLabels.FLabelOfClass.swap(FFormer);
+  FLabels.FTaken.erase(FTaken);
+}
 
 }  // namespace algo::terminal::drive

@@ -6,6 +6,7 @@
 
 #include <map>
 #include <memory>
+#include <set>
 #include <string>
 #include <string_view>
 
@@ -28,6 +29,15 @@ class TFrameLabels {
   /// Scripts no longer know a frame by the label. Its frame keeps it in events as long as it lives.
   void Forget(std::string_view label);
 
+  /// Whether a view is being opened under the label.
+  bool IsTaken(std::string_view label) const { return FTaken.contains(label); }
+
+  /// The frames that scripts know by labels that they gave themselves, and the labels.
+  std::map<std::string, std::shared_ptr<host::TViewFrame>> Opened() const;
+
+  /// Scripts no longer know the frames that were labelled automatically.
+  void ForgetReserved();
+
   /// Removes the frames that no longer exist, so that a new one may have the same address.
   void RemoveExpired();
 
@@ -49,6 +59,7 @@ class TFrameLabels {
    private:
     TFrameLabels& FLabels;
     std::map<std::string, std::string, std::less<>> FFormer;
+    std::string FTaken;
   };
 
  private:
@@ -59,6 +70,7 @@ class TFrameLabels {
 
   std::map<const forms::TFrame*, TKnown> FLabels;
   std::map<std::string, std::weak_ptr<host::TViewFrame>, std::less<>> FFrames;
+  std::set<std::string, std::less<>> FTaken;
   std::map<std::string, std::string, std::less<>> FLabelOfClass{
       {"TAlgoOrderEntryFrame", ""}, {"TAlgoOrderChangeFrame", "change"}, {"TAlgoWorkOrderFrame", "work"}};
 };

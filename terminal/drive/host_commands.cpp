@@ -14,12 +14,16 @@ namespace {
 void Host(TSession& session, const TArguments& arguments, TAnswerJson& /*answer*/) {
   TCommandJson changes = arguments.All();
   // What is left are the changes to the host's data.
-  for (const char* common : {"do", "id", "modal"}) changes.erase(common);
+  for (const char* common : {"do", "id", "modal", "inside"}) changes.erase(common);
   MergeHostData(changes, session.Host().Data());
 }
 
 void ConfigChanged(TSession& session, const TArguments& /*arguments*/, TAnswerJson& /*answer*/) {
   CallModule([&] { session.Host().NotifyConfigChanged(); });
+}
+
+void DropProvider(TSession& session, const TArguments& /*arguments*/, TAnswerJson& /*answer*/) {
+  session.DropProvider();
 }
 
 void Load(TSession& session, const TArguments& /*arguments*/, TAnswerJson& /*answer*/) { session.Load(); }
@@ -37,7 +41,8 @@ void Unload(TSession& session, const TArguments& /*arguments*/, TAnswerJson& ans
 }
 
 constexpr std::array Commands{TCommand{"host", Host}, TCommand{"config_changed", ConfigChanged},
-                              TCommand{"load", Load}, TCommand{"unload", Unload}};
+                              TCommand{"load", Load}, TCommand{"drop_provider", DropProvider},
+                              TCommand{"unload", Unload}};
 
 }  // namespace
 

@@ -5,6 +5,7 @@
 #include <charconv>
 #include <utility>
 
+#include "terminal/drive/fault_merge.h"
 #include "text/date_text.h"
 
 namespace algo::terminal::drive {
@@ -53,12 +54,7 @@ void Merge(std::string_view name, const TCommandJson& value, TTextSet& into) {
 }
 
 void Merge(std::string_view name, const TCommandJson& value, TFaults& into) {
-  TTextSet operations;
-  Merge(name, value, operations);
-  for (const auto& operation : operations) {
-    if (!TFaults::IsKnown(operation)) throw ECommandError("no service has an operation '" + operation + "'");
-  }
-  into.Set(std::move(operations));
+  MergeFaults(name, value, into);
 }
 
 /// A member of a structure by the name that scripts use for it.

@@ -68,7 +68,12 @@ void CloseForm(TSession& session, const TArguments& arguments, TAnswerJson& /*an
   if (form == nullptr || form->Modal() || !form->Showing()) {
     throw ECommandError("'" + arguments.Text("frame") + "' sits in no form that shows beside others");
   }
-  CallModule([&] { session.Input().Close(*form); });
+  try {
+    session.Input().Close(*form);
+  } catch (...) {
+    if (form->Showing()) throw ECommandError("the form did not close");
+    CallModule([] { throw; });
+  }
 }
 
 constexpr std::array Commands{

@@ -17,6 +17,9 @@ class TLoadedModule {
   /// is the component that owns the provider.
   TLoadedModule(const std::string& file, const void* owner);
 
+  /// Whether the provider has not been destroyed.
+  bool HasProvider() const { return FProvider != nullptr; }
+  /// The provider, which has not been destroyed.
   host::TIBaseView& Provider() const { return *FProvider; }
   const host::TModuleEntry& Entry() const { return FLibrary.Entry(); }
 

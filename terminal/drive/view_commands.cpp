@@ -2,7 +2,7 @@
 
 #include <array>
 
-#include "plugin/host_contract/order_adapter.h"
+#include "plugin/host_contract/orders.h"
 #include "terminal/drive/call_module.h"
 #include "terminal/drive/command_table.h"
 #include "terminal/drive/lookup.h"
@@ -19,22 +19,23 @@ TAnswerJson MenuLevel(host::TIBaseView& provider, std::int32_t level) {
 }
 
 void Provider(TSession& session, const TArguments& /*arguments*/, TAnswerJson& answer) {
-  host::TIBaseView& provider = session.Provider();
+  // Asked for anew each time: it may go in the middle of an answer.
+  const auto provider = [&session]() -> host::TIBaseView& { return session.Provider(); };
   TAnswerJson result;
   CallModule([&] {
-    result["name"] = provider.GetName();
-    result["view_id"] = provider.GetViewID();
-    result["menu_level"] = provider.GetMenuLevel();
+    result["name"] = provider().GetName();
+    result["view_id"] = provider().GetViewID();
+    result["menu_level"] = provider().GetMenuLevel();
     result["menu"] = TAnswerJson::array();
-    for (const std::int32_t level : {0, 1, 2}) result["menu"].push_back(MenuLevel(provider, level));
-    result["visible"] = provider.GetIsVisible();
+    for (const std::int32_t level : {0, 1, 2}) result["menu"].push_back(MenuLevel(provider(), level));
+    result["visible"] = provider().GetIsVisible();
     std::string caption;
-    const bool hasCaption = provider.GetDefaultCaption(caption);
+    const bool hasCaption = provider().GetDefaultCaption(caption);
     result["default_caption"] = {{"result", hasCaption}, {"caption", caption}};
     // What a view leaves untouched keeps the host's default.
     std::int32_t width = 640;
     std::int32_t height = 480;
-    const bool hasSize = provider.GetDefaultSize(width, height);
+    const bool hasSize = provider().GetDefaultSize(width, height);
     result["default_size"] = {{"result", hasSize}, {"width", width}, {"height", height}};
   });
   answer.update(result);
@@ -51,10 +52,11 @@ void Open(TSession& session, const TArguments& arguments, TAnswerJson& answer) {
   const auto& label = arguments.Text("frame");
   host::TIBaseView& provider = session.Provider();
   if (TFrameLabels::IsReserved(label)) throw ECommandError("no view can be opened under '" + label + "'");
-  if (session.Labels().Find(label)) throw ECommandError("'" + label + "' is open already");
+  if (session.Labels().Find(label) || session.Labels().IsTaken(label))
+    throw ECommandError("'" + label + "' is open already");
   const TFrameLabels::TNewFrameLabels making(session.Labels(), label, {});
   const auto handle = CallModule([&] { return provider.OpenNewInstance(); });
-  const auto frame = provider.FindView(handle);
+  const auto frame = session.Provider().FindView(handle);
   if (!frame) throw ECommandError("the view could not be opened");
   session.Labels().Assign(frame, label);
   AddSize(*frame, answer);
@@ -64,7 +66,7 @@ void Close(TSession& session, const TArguments& arguments, TAnswerJson& /*answer
   const auto frame = OpenedFrameOf(session, arguments);
   // The label goes first: events still carry it, but for scripts the instance is gone.
   session.Labels().Forget(arguments.Text("frame"));
-  CallModule([&] { session.Provider().CloseInstance(host::HandleOf(*frame)); });
+  session.CloseView(frame);
 }
 
 void Language(TSession& session, const TArguments& arguments, TAnswerJson& answer) {
@@ -104,9 +106,10 @@ void Size(TSession& session, const TArguments& arguments, TAnswerJson& answer) {
 
 void Compose(TSession& session, const TArguments& arguments, TAnswerJson& answer) {
   const auto frame = OpenedFrameOf(session, arguments);
-  const auto order = host::MakeClientOrder();
-  CallModule([&] { session.Module().Entry().setOrderAlgo(*frame, *order); });
-  answer["text"] = order->TextProperty(host::AlgoTextProperty);
+  // The host's own order, for which it asks no service.
+  host::TCustomClientOrder order;
+  CallModule([&] { session.Module().Entry().setOrderAlgo(*frame, order); });
+  answer["text"] = order.TextProperty(host::AlgoTextProperty);
 }
 
 constexpr std::array Commands{

@@ -5,18 +5,18 @@
 namespace algo::terminal {
 
 void TMemoryChannelManager::Subscribe(std::int32_t channel, THandler handler, host::TOwner owner) {
-  FHost.Check("channel.subscribe");
-  FChannels[channel].Add(std::move(handler), owner);
+  FHost.Call(TServiceOperation::ChannelSubscribe, [&] { FChannels[channel].Add(std::move(handler), owner); });
 }
 
 void TMemoryChannelManager::Unsubscribe(std::int32_t channel, host::TOwner owner) {
-  FChannels[channel].Remove(owner);
+  FHost.Call(TServiceOperation::ChannelUnsubscribe, [&] { FChannels[channel].Remove(owner); });
 }
 
 void TMemoryChannelManager::Post(std::int32_t channel, host::TChannelRecord* record) {
-  FHost.Check("channel.post");
-  Deliver(channel, record);
-  if (record != nullptr) FHost.events.Posted(channel, *record);
+  FHost.Call(TServiceOperation::ChannelPost, [&] {
+    Deliver(channel, record);
+    if (record != nullptr) FHost.events.Posted(channel, *record);
+  });
 }
 
 void TMemoryChannelManager::Deliver(std::int32_t channel, host::TChannelRecord* record) {

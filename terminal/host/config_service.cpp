@@ -9,8 +9,7 @@ namespace algo::terminal {
 std::string TMemoryConfigManager::CurrentSection() { return FHost.data.section; }
 
 std::string TMemoryConfigManager::ReadText(std::string_view section, std::string_view key) {
-  FHost.Check("config.read");
-  return FHost.data.Setting(section, key);
+  return FHost.Call(TServiceOperation::ConfigRead, [&] { return FHost.data.Setting(section, key); });
 }
 
 std::int32_t TMemoryConfigManager::ReadInteger(std::string_view section, std::string_view key) {
@@ -23,16 +22,19 @@ bool TMemoryConfigManager::ReadBoolean(std::string_view section, std::string_vie
 
 void TMemoryConfigManager::Store(std::string_view section, std::string_view key, std::string_view value,
                                  bool writeThrough) {
-  FHost.Check("config.store");
-  FHost.storage.StoreSetting(section, key, value);
-  FHost.data.config[std::string(section)].insert_or_assign(std::string(key), std::string(value));
-  FHost.events.Stored(section, key, value, writeThrough);
+  FHost.Call(TServiceOperation::ConfigStore, [&] {
+    FHost.storage.StoreSetting(section, key, value);
+    FHost.data.config[std::string(section)].insert_or_assign(std::string(key), std::string(value));
+    FHost.events.Stored(section, key, value, writeThrough);
+  });
 }
 
 void TMemoryConfigManager::AddListener(std::function<void()> listener, host::TOwner owner) {
-  FListeners.Add(std::move(listener), owner);
+  FHost.Call(TServiceOperation::ConfigListen, [&] { FListeners.Add(std::move(listener), owner); });
 }
 
-void TMemoryConfigManager::RemoveListener(host::TOwner owner) { FListeners.Remove(owner); }
+void TMemoryConfigManager::RemoveListener(host::TOwner owner) {
+  FHost.Call(TServiceOperation::ConfigUnlisten, [&] { FListeners.Remove(owner); });
+}
 
 }  // namespace algo::terminal

@@ -36,55 +36,60 @@ void TMemoryEditorManager::RegisterQuantityEditor(forms::TSpinEdit& control, std
 }
 
 void TMemoryEditorManager::RemoveAccountEditor(forms::TTextEdit& control) {
-  Remove(TEditorKind::Account, control);
+  Remove(TEditorKind::Account, control, {});
 }
 
 void TMemoryEditorManager::RemoveSymbolEditor(forms::TTextEdit& control) {
-  Remove(TEditorKind::Symbol, control);
+  Remove(TEditorKind::Symbol, control, {});
 }
 
 void TMemoryEditorManager::RemovePriceEditor(forms::TSpinEdit& control) {
-  control.SetStepGrid({});
-  Remove(TEditorKind::Price, control);
+  Remove(TEditorKind::Price, control, [&control] { control.SetStepGrid({}); });
 }
 
 void TMemoryEditorManager::RemoveQuantityEditor(forms::TSpinEdit& control) {
-  control.SetStepGrid({});
-  Remove(TEditorKind::Quantity, control);
+  Remove(TEditorKind::Quantity, control, [&control] { control.SetStepGrid({}); });
 }
 
 void TMemoryEditorManager::SetPriceSymbol(forms::TSpinEdit& control, std::string_view symbol) {
-  SetSymbol(TEditorKind::Price, control, symbol);
-  control.SetStepGrid(GridFor(FHost.data.priceGrid, symbol));
+  SetSymbol(TEditorKind::Price, control, symbol, FHost.data.priceGrid);
 }
 
 void TMemoryEditorManager::SetQuantitySymbol(forms::TSpinEdit& control, std::string_view symbol) {
-  SetSymbol(TEditorKind::Quantity, control, symbol);
-  control.SetStepGrid(GridFor(FHost.data.quantityGrid, symbol));
+  SetSymbol(TEditorKind::Quantity, control, symbol, FHost.data.quantityGrid);
 }
 
 void TMemoryEditorManager::SetAccountLayoutAccount(forms::TTextEdit& control, std::string_view account) {
-  FHost.events.LayoutAccountSet(control, account);
-  control.SetText(account);
-  control.Commit();
+  FHost.Call(TServiceOperation::EditorAccount, [&] {
+    FHost.events.LayoutAccountSet(control, account);
+    control.SetText(account);
+    control.Commit();
+  });
 }
 
 void TMemoryEditorManager::Register(TEditorKind kind, forms::TControl& control, std::string_view groupId,
                                     std::function<void()> reaction) {
-  FHost.Check("editor.register");
-  control.SetHostEditor(std::move(reaction));
-  FHost.events.EditorRegistered(kind, control, groupId);
+  FHost.Call(TServiceOperation::EditorRegister, [&] {
+    control.SetHostEditor(std::move(reaction));
+    FHost.events.EditorRegistered(kind, control, groupId);
+  });
 }
 
-void TMemoryEditorManager::Remove(TEditorKind kind, forms::TControl& control) {
-  control.SetHostEditor({});
-  FHost.events.EditorRemoved(kind, control);
+void TMemoryEditorManager::Remove(TEditorKind kind, forms::TControl& control,
+                                  const std::function<void()>& restore) {
+  FHost.Call(TServiceOperation::EditorRemove, [&] {
+    if (restore) restore();
+    control.SetHostEditor({});
+    FHost.events.EditorRemoved(kind, control);
+  });
 }
 
-void TMemoryEditorManager::SetSymbol(TEditorKind kind, const forms::TControl& control,
-                                     std::string_view symbol) {
-  FHost.Check("editor.symbol");
-  FHost.events.EditorSymbolSet(kind, control, symbol);
+void TMemoryEditorManager::SetSymbol(TEditorKind kind, forms::TSpinEdit& control, std::string_view symbol,
+                                     const TStepGridOf& gridOf) {
+  FHost.Call(TServiceOperation::EditorSymbol, [&] {
+    FHost.events.EditorSymbolSet(kind, control, symbol);
+    control.SetStepGrid(GridFor(gridOf, symbol));
+  });
 }
 
 void TMemoryEditorManager::LookUpSymbol(forms::TTextEdit& control) const {

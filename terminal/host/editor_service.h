@@ -39,8 +39,9 @@ class TMemoryEditorManager final : public host::TEditorManager {
  private:
   void Register(TEditorKind kind, forms::TControl& control, std::string_view groupId,
                 std::function<void()> reaction);
-  void Remove(TEditorKind kind, forms::TControl& control);
-  void SetSymbol(TEditorKind kind, const forms::TControl& control, std::string_view symbol);
+  void Remove(TEditorKind kind, forms::TControl& control, const std::function<void()>& restore);
+  void SetSymbol(TEditorKind kind, forms::TSpinEdit& control, std::string_view symbol,
+                 const TStepGridOf& gridOf);
   void LookUpSymbol(forms::TTextEdit& control) const;
 
   const THostContext& FHost;

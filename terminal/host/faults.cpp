@@ -1,32 +1,48 @@
 #include "terminal/host/faults.h"
 
-#include <algorithm>
-#include <array>
-#include <utility>
+#include <cassert>
 
 namespace algo::terminal {
 
 namespace {
 
-constexpr std::array<std::string_view, 24> Operations{
-    "config.read",      "config.store",      "language.text", "profile.right",     "profile.data",
-    "orders.list",      "orders.new",        "orders.count",  "orders.at",         "action.take",
-    "channel.post",     "channel.subscribe", "market.listen", "market.instrument", "subscribe.add",
-    "subscribe.remove", "skin.color",        "account.known", "message.text",      "message.code",
-    "editor.register",  "editor.symbol",     "form.make",     "view.notify"};
+constexpr int ThrownNumber = 17;
 
 }  // namespace
 
-bool TFaults::IsKnown(std::string_view operation) {
-  return std::find(Operations.begin(), Operations.end(), operation) != Operations.end();
+void TFaults::Set(const std::set<std::string, std::less<>>& operations) {
+  std::vector<TFault> faults;
+  for (const auto& name : operations) {
+    const TServiceOperationRow* row = FindServiceOperation(name);
+    assert(row != nullptr);
+    if (row == nullptr) continue;
+    TFault& fault = faults.emplace_back();
+    fault.operation = row->operation;
+  }
+  SetAll(faults);
 }
 
-void TFaults::Set(std::set<std::string, std::less<>> operations) { FOperations = std::move(operations); }
+void TFaults::SetAll(const std::vector<TFault>& faults) {
+  FFaults.clear();
+  for (const auto& fault : faults) FFaults.push_back({fault, 0, 0});
+}
 
-void TFaults::Check(std::string_view operation) const {
-  if (FOperations.contains(operation)) {
-    throw EHostFault("The host fails at " + std::string(operation));
+std::optional<TFaultAnswer> TFaults::Strike(TServiceOperation operation) {
+  std::optional<TFaultAnswer> answer;
+  for (auto& fault : FFaults) {
+    if (fault.operation != operation) continue;
+    ++fault.calls;
+    const bool strikes =
+        fault.calls >= fault.from && (!fault.times || fault.calls - fault.from < *fault.times);
+    if (strikes && !answer) answer = TFaultAnswer{fault.kind, fault.struck++};
   }
+  if (!answer) return answer;
+  if (answer->kind == TFaultKind::Exception) {
+    throw EHostFault("The host fails at " + std::string(RowOf(operation).name));
+  }
+  // What a host in another language lets out need not be an exception of this one.
+  if (answer->kind == TFaultKind::Int) throw ThrownNumber;  // NOLINT(hicpp-exception-baseclass)
+  return answer;
 }
 
 }  // namespace algo::terminal

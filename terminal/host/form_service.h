@@ -1,35 +1,15 @@
 #pragma once
 
-// The window system without windows: dialog forms that are operated through the host's events.
+// The window system without windows: makes dialog forms, and holds those that show.
 
 #include <cstdint>
 #include <memory>
-#include <vector>
 
 #include "plugin/host_contract/view_functions.h"
 #include "terminal/host/host_context.h"
+#include "terminal/host/memory_form.h"
 
 namespace algo::terminal {
-
-/// The open modeless forms. The host holds them, so that they live until they are closed.
-using TShownForms = std::vector<std::shared_ptr<forms::TDialogForm>>;
-
-class TMemoryForm final : public forms::TDialogForm {
- public:
-  /// Both outlive the form.
-  TMemoryForm(THostEvents& events, TShownForms& shown) : FEvents(events), FShown(shown) {}
-
- protected:
-  void RunModal() override;
-  void Shown() override;
-  void Hidden() override;
-  void BroughtToFront() override;
-  void AppearanceChanged() override;
-
- private:
-  THostEvents& FEvents;
-  TShownForms& FShown;
-};
 
 class TMemoryViewService final : public host::TCustomViewService {
  public:

@@ -11,6 +11,10 @@ std::string_view NameOf(TEditorKind kind) {
 
 THostEvents::~THostEvents() = default;
 
+std::uint32_t THostEvents::CallBegins(TServiceOperation /*operation*/) { return 0; }
+
+void THostEvents::CallEnds(TServiceOperation /*operation*/, std::uint32_t /*number*/) {}
+
 void THostEvents::FormAppearanceChanged(forms::TDialogForm& /*form*/) {}
 
 }  // namespace algo::terminal

@@ -12,6 +12,7 @@
 #include "plugin/host_contract/channel_manager.h"
 #include "plugin/host_contract/orders.h"
 #include "plugin/host_contract/view_frame.h"
+#include "terminal/host/service_operations.h"
 
 namespace algo::terminal {
 
@@ -63,6 +64,22 @@ class THostEvents {
 
   /// Plays the trader while the form shows modally. Must give the form a modal result before it returns.
   virtual void RunModal(forms::TDialogForm& form) = 0;
+
+  /// Whether the calls of services are told of, with CallBegins and CallEnds.
+  bool WatchesCalls() const { return FWatchesCalls; }
+
+  /// A call of the operation has come in: nothing has been done of it, and it may still fail. Returns a
+  /// number for it that CallEnds is given.
+  virtual std::uint32_t CallBegins(TServiceOperation operation);
+  /// The work of that call has been done.
+  virtual void CallEnds(TServiceOperation operation, std::uint32_t number);
+
+ protected:
+  /// Has the calls of services told of from now on, or no longer.
+  void WatchCalls(bool watch) { FWatchesCalls = watch; }
+
+ private:
+  bool FWatchesCalls = false;
 };
 
 }  // namespace algo::terminal

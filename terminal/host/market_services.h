@@ -50,6 +50,8 @@ class TMemoryMarketAdapter final : public host::TCustomMarketAdapter {
 
  private:
   const THostContext& FHost;
+  // What was handed out stays, also when the host's data are replaced in the middle of a call.
+  std::map<std::string, host::TInstrument, std::less<>> FRecords;
   TListeners<const void*, const host::TSpreadDictionary*> FListeners;
 };
 

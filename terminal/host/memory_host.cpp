@@ -1,5 +1,7 @@
 #include "terminal/host/memory_host.h"
 
+#include <utility>
+
 #include "plugin/host_contract/installed_service.h"
 #include "terminal/host/channel_service.h"
 #include "terminal/host/config_service.h"
@@ -91,6 +93,21 @@ void TMemoryHost::SetMarket(std::string_view symbol, std::span<const TFieldText>
 void TMemoryHost::NotifySpreadChanged(std::span<const std::string> codes) {
   FServices->market->Notify(codes);
 }
+
+void TMemoryHost::CallInFront(TServiceOperation operation, const std::function<void()>& work) {
+  bool& own = FServices->context.ownCalls;
+  FServices->context.Call(operation, [&] {
+    struct TOwnCalls {
+      bool& flag;
+      bool former;
+      ~TOwnCalls() { flag = former; }
+    };
+    const TOwnCalls ownCalls{own, std::exchange(own, true)};
+    work();
+  });
+}
+
+void TMemoryHost::ReleaseForms() { FServices->views->ReleaseForms(); }
 
 void TMemoryHost::PostAsHost(std::int32_t channel, host::TChannelRecord& record) {
   FServices->channels->Deliver(channel, &record);

@@ -4,6 +4,7 @@
 // what they see of the module to one receiver of events.
 
 #include <cstdint>
+#include <functional>
 #include <map>
 #include <memory>
 #include <optional>
@@ -17,6 +18,7 @@
 #include "terminal/host/order_journal.h"
 #include "terminal/host/order_storage.h"
 #include "terminal/host/order_store.h"
+#include "terminal/host/service_operations.h"
 
 namespace algo::terminal {
 
@@ -69,6 +71,13 @@ class TMemoryHost {
 
   /// Notifies every spread table listener that the tables with these codes changed.
   void NotifySpreadChanged(std::span<const std::string> codes);
+
+  /// Does `work` as a call of the operation, for a layer in front of the service that answers the module by
+  /// itself. What the layer asks of the services meanwhile is no call of the module's.
+  void CallInFront(TServiceOperation operation, const std::function<void()>& work);
+
+  /// Lets go of the modeless forms that still show, without closing them.
+  void ReleaseForms();
 
   /// Posts as another view of the terminal would: delivered like any post, but not reported as an event.
   void PostAsHost(std::int32_t channel, host::TChannelRecord& record);

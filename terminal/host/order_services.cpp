@@ -1,7 +1,9 @@
 #include "terminal/host/order_services.h"
 
 #include <memory>
+#include <optional>
 #include <string>
+#include <utility>
 
 #include "terminal/host/order_rules.h"
 
@@ -24,48 +26,49 @@ std::string_view NameOf(host::TOrderAction action) {
 }  // namespace
 
 bool TMemoryOrderAdapter::GetListSetting(std::string_view key, std::vector<std::string>& values) {
-  FHost.Check("orders.list");
-  const auto list = FHost.data.lists.find(key);
-  const bool configured = list != FHost.data.lists.end();
-  if (configured) {
-    values = list->second;
-  } else {
-    values.clear();
-  }
+  using TList = std::optional<std::vector<std::string>>;
+  TList list = FHost.Call(TServiceOperation::OrdersList, [&]() -> TList {
+    const auto found = FHost.data.lists.find(key);
+    return found == FHost.data.lists.end() ? TList() : found->second;
+  });
+  const bool configured = list.has_value();
+  values = std::move(list).value_or(std::vector<std::string>());
   return configured;
 }
 
 host::TCustomClientOrder* TMemoryOrderAdapter::NewClientOrder() {
-  FHost.Check("orders.new");
-  return std::make_unique<host::TCustomClientOrder>().release();
+  return FHost.Call(TServiceOperation::OrdersNew,
+                    [] { return std::make_unique<host::TCustomClientOrder>().release(); });
 }
 
 void TMemoryOrderAdapter::FreeClientOrder(host::TCustomClientOrder* order) {
-  const std::unique_ptr<host::TCustomClientOrder> returned(order);
+  FHost.Call(TServiceOperation::OrdersFree,
+             [order] { const std::unique_ptr<host::TCustomClientOrder> returned(order); });
 }
 
 std::size_t TMemoryOrderAdapter::OrderCount() {
-  FHost.Check("orders.count");
-  return FOrders.All().size();
+  return FHost.Call(TServiceOperation::OrdersCount, [this] { return FOrders.All().size(); });
 }
 
 host::TCustomOrder* TMemoryOrderAdapter::OrderAt(std::size_t index) {
-  FHost.Check("orders.at");
-  return index < FOrders.All().size() ? FOrders.All()[index].get() : nullptr;
+  return FHost.Call(TServiceOperation::OrdersAt, [this, index]() -> host::TCustomOrder* {
+    return index < FOrders.All().size() ? FOrders.All()[index].get() : nullptr;
+  });
 }
 
 bool TMemoryOrderActionManager::TakeAction(const void* /*sender*/, host::TCustomClientOrder* order,
                                            host::TOrderAction action, std::int32_t argument) {
-  FHost.Check("action.take");
-  if (order == nullptr) return false;
-  const bool answer = FHost.data.accept;
-  if (answer) {
-    CarryOut(*order, action);
-  } else {
-    FJournal.Note({FHost.data.profile.user, std::string(NameOf(action)), "refused"}, *order);
-  }
-  FHost.events.ActionTaken(*order, action, argument, answer);
-  return answer;
+  return FHost.Call(TServiceOperation::ActionTake, [&] {
+    if (order == nullptr) return false;
+    const bool answer = FHost.data.accept;
+    if (answer) {
+      CarryOut(*order, action);
+    } else {
+      FJournal.Note({FHost.data.profile.user, std::string(NameOf(action)), "refused"}, *order);
+    }
+    FHost.events.ActionTaken(*order, action, argument, answer);
+    return answer;
+  });
 }
 
 void TMemoryOrderActionManager::CarryOut(const host::TCustomClientOrder& order, host::TOrderAction action) {

@@ -30,13 +30,14 @@ class TMemoryUserAppProfile final : public host::TCustomUserAppProfile {
   explicit TMemoryUserAppProfile(const THostContext& host) : FHost(host) {}
 
   bool HasRight(std::string_view name) override;
-  std::int32_t UserKind() override { return Profile().kind; }
-  bool UserFlag() override { return Profile().flag; }
-  std::string AccountText() override { return Profile().account; }
-  std::string UserIdentity() override { return Profile().user; }
+  std::int32_t UserKind() override;
+  bool UserFlag() override;
+  std::string AccountText() override;
+  std::string UserIdentity() override;
 
  private:
-  const TProfile& Profile() const;
+  template <class TValue>
+  TValue Read(TValue TProfile::*value) const;
 
   const THostContext& FHost;
 };

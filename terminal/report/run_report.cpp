@@ -119,6 +119,9 @@ void TRunReport::AddAnswer(const json& answer) {
     FOut << "Dialog: " << MemberText(dialog, "caption")
          << (result == "1" ? " was confirmed\n" : " was dismissed\n");
   }
+  for (const auto& call : MemberList(answer, "inside")) {
+    for (const auto& inner : MemberList(call, "answers")) AddAnswer(inner);
+  }
   for (const auto& event : MemberList(answer, "events")) AddEvent(event);
   if (answer.contains("quantity")) {
     const std::string available = MemberText(answer, "quantity", TWriting::Quantity);

@@ -83,7 +83,7 @@ TEST_F(FaultySubmits, SendNoOrderWhoseConfirmationRunsIntoAFault) {
   SubmitAtEachFault(
       {"config.read", "language.text", "profile.right", "profile.data", "orders.list", "orders.new",
        "action.take", "channel.post", "skin.color", "account.known", "channel.subscribe", "market.listen",
-       "market.instrument", "subscribe.add", "editor.register", "editor.symbol", "form.make", "view.notify"},
+       "market.instrument", "market.item", "editor.register", "editor.symbol", "form.make", "view.notify"},
       "Y");
 }
 

@@ -72,7 +72,7 @@ TEST_F(OrderFailures, AHostThatFailsWhileADialogIsMadeIsReportedOnce) {
     for (const bool beside : {false, true}) {
       for (const char* fault :
            {"form.make", "editor.register", "editor.symbol", "channel.subscribe", "market.listen",
-            "market.instrument", "subscribe.add", "language.text", "orders.list", "profile.right",
+            "market.instrument", "market.item", "language.text", "orders.list", "profile.right",
             "profile.data", "config.read", "skin.color", "view.notify"}) {
         StartAnew(beside);
         const std::size_t ordersBefore = LeftBehind().orders;

@@ -14,14 +14,14 @@
 
 namespace algo::tests {
 
-/// Every operation of the host that can be told to fail. The one that leaves something behind comes last, so
-/// that the counts of the others start from nothing.
-inline constexpr std::array Faults{"config.read",   "config.store",      "language.text", "profile.right",
-                                   "profile.data",  "orders.list",       "orders.new",    "orders.count",
-                                   "orders.at",     "action.take",       "channel.post",  "channel.subscribe",
-                                   "market.listen", "market.instrument", "subscribe.add", "skin.color",
-                                   "account.known", "message.text",      "message.code",  "editor.register",
-                                   "editor.symbol", "form.make",         "view.notify",   "subscribe.remove"};
+/// Operations of the host that are told to fail. The one that leaves something behind comes last, so that the
+/// counts of the others start from nothing.
+inline constexpr std::array Faults{
+    "config.read",   "config.store",      "language.text", "profile.right",     "profile.data",
+    "orders.list",   "orders.new",        "orders.count",  "orders.at",         "action.take",
+    "channel.post",  "channel.subscribe", "market.listen", "market.instrument", "subscribe.add",
+    "skin.color",    "account.known",     "message.text",  "message.code",      "editor.register",
+    "editor.symbol", "form.make",         "view.notify",   "market.item",       "subscribe.remove"};
 
 class HostFaults : public TTerminalTest {
  protected:

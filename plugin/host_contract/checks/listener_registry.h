@@ -26,9 +26,12 @@ class TListenerRegistry {
   void Add(const TListener& listener, TOwner owner, TAdd&& add) {
     if (owner == nullptr) FViolations.Report("a listener to " + FSource + " has no owner");
     if (!listener) FViolations.Report("a listener to " + FSource + " is empty");
-    if (FOwners.contains(owner)) FViolations.Report("an owner listens to " + FSource + " twice");
+    if (FOwners.contains(owner) && !FKept.contains(owner)) {
+      FViolations.Report("an owner listens to " + FSource + " twice");
+    }
     add();
     FOwners.insert(owner);
+    FKept.erase(owner);
   }
 
   /// Checks that the owner listens, calls `remove`, then removes the owner. When `remove` fails the owner
@@ -38,14 +41,24 @@ class TListenerRegistry {
     if (!FOwners.contains(owner)) {
       FViolations.Report("an owner stops listening to " + FSource + " without having listened");
     }
-    remove();
+    // Out of the register first: in the middle of the call the owner may be added anew.
     FOwners.erase(owner);
+    try {
+      remove();
+    } catch (...) {
+      FOwners.insert(owner);
+      FKept.insert(owner);
+      throw;
+    }
   }
 
  private:
   const TViolations& FViolations;
   std::string FSource;
   std::set<TOwner> FOwners;
+  /// Those that have asked to be removed and were kept. They may have gone since, and their addresses may be
+  /// another owner's.
+  std::set<TOwner> FKept;
 };
 
 }  // namespace algo::host::checks

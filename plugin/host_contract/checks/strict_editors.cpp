@@ -79,10 +79,16 @@ template <class TRemove>
 void TStrictEditors::Remove(TKind kind, const forms::TControl& control, TRemove&& remove) {
   // Only the address is looked at: whether the control still exists is what is in question.
   FViolations.Require(IsRegistered(kind, control), "an editor is removed that is not registered");
-  remove();
+  // Out of the register first: in the middle of the call the control may be registered anew.
   const auto kinds = FKinds.find(&control);
   kinds->second.erase(kind);
   if (kinds->second.empty()) FKinds.erase(kinds);
+  try {
+    remove();
+  } catch (...) {
+    FKinds[&control].insert(kind);
+    throw;
+  }
 }
 
 }  // namespace algo::host::checks

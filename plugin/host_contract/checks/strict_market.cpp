@@ -8,7 +8,7 @@ namespace algo::host::checks {
 TMarketDataItem* TStrictSubscriptions::Subscribe(std::string_view symbol, std::string_view dataSet,
                                                  bool live) {
   TMarketDataItem* item = FInner.Subscribe(symbol, dataSet, live);
-  FOwners.try_emplace(item);
+  if (item != nullptr) FOwners.try_emplace(item);
   return item;
 }
 
@@ -24,9 +24,15 @@ void TStrictSubscriptions::Unsubscribe(TMarketDataItem* item, TOwner owner) {
   const auto found = FOwners.find(item);
   FViolations.Require(found != FOwners.end() && found->second.contains(owner),
                       "an item is unsubscribed by an owner that does not listen to it");
-  FInner.Unsubscribe(item, owner);
+  // Out of the register first: in the middle of the call the owner may follow the item anew.
   found->second.erase(owner);
   if (found->second.empty()) FOwners.erase(found);
+  try {
+    FInner.Unsubscribe(item, owner);
+  } catch (...) {
+    FOwners[item].insert(owner);
+    throw;
+  }
 }
 
 std::size_t TStrictSubscriptions::Items() const {

@@ -27,7 +27,7 @@ TStrictOrders::~TStrictOrders() {
 
 TCustomClientOrder* TStrictOrders::NewClientOrder() {
   TCustomClientOrder* order = FInner.NewClientOrder();
-  FJournal.held.insert(order);
+  if (order != nullptr) FJournal.held.insert(order);
   return order;
 }
 

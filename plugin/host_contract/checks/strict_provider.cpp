@@ -14,7 +14,9 @@ bool Lists(const TItems& items, TField field, std::int32_t value) {
 }  // namespace
 
 TInstanceHandle TStrictProvider::OpenNewInstance() {
+  const std::weak_ptr alive(FAlive);
   const TInstanceHandle instance = FInner->OpenNewInstance();
+  if (alive.expired()) return 0;
   FViolations.Require(instance == 0 || FInner->ContainView(instance),
                       "a provider gives the handle of an instance that it does not have");
   return instance;

@@ -101,6 +101,9 @@ class TStrictProvider final : public TIBaseView {
   std::shared_ptr<TViewFrame> FindView(TInstanceHandle instance) const override {
     return FInner->FindView(instance);
   }
+  std::shared_ptr<TViewFrame> ReleaseView(TInstanceHandle instance) override {
+    return Opened(instance, "ReleaseView").ReleaseView(instance);
+  }
 
  private:
   /// The provider, after a check that the instance is open.
@@ -109,6 +112,8 @@ class TStrictProvider final : public TIBaseView {
   std::unique_ptr<TIBaseView> FInner;
   const TViolations& FViolations;
   bool FShortcutsMade = false;
+  /// Gone with the provider: a host may destroy it in the middle of a call.
+  std::shared_ptr<const bool> FAlive = std::make_shared<const bool>(true);
 };
 
 }  // namespace algo::host::checks

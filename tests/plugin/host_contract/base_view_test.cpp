@@ -74,6 +74,7 @@ TEST(BaseView, ItsOperationsStandInTheOrderOfTheirSlots) {
       SlotOf(&TIBaseView::GetDefaultCaption),
       SlotOf(&TIBaseView::InitializeShortcut),
       SlotOf(&TIBaseView::FindView),
+      SlotOf(&TIBaseView::ReleaseView),
   };
   for (std::size_t i = 1; i < std::size(slots); ++i) {
     EXPECT_EQ(slots[i], slots[i - 1] + 1) << "the operation at " << i << " in this list";

@@ -39,7 +39,7 @@ TEST_F(HostData, TakesEveryKeyOfTheTable) {
   EXPECT_EQ(Data().instruments["I"].lotText, "100");
   EXPECT_EQ(Data().colors[7], 0x0A0B0CU);
   EXPECT_FALSE(Data().accept);
-  EXPECT_THROW(Data().faults.Check("config.read"), EHostFault);
+  EXPECT_THROW(Data().faults.Strike(TServiceOperation::ConfigRead), EHostFault);
 }
 
 TEST_F(HostData, MergesTablesKeyByKey) {
@@ -76,7 +76,7 @@ TEST_F(HostData, GoesBackToItsFirstStateForNull) {
   EXPECT_TRUE(Data().accept);
   EXPECT_TRUE(Data().rights.contains("AlgoTabOrderEntry"));
   EXPECT_EQ(Data().profile.kind, 0);
-  EXPECT_NO_THROW(Data().faults.Check("form.make"));
+  EXPECT_FALSE(Data().faults.Any());
 }
 
 TEST_F(HostData, IsAsItWasAfterARefusedCommand) {

@@ -13,7 +13,7 @@ namespace algo::terminal::tests {
 
 using TNotes = std::vector<std::string>;
 
-class TEventNotes final : public THostEvents {
+class TEventNotes : public THostEvents {
  public:
   void MessageShown(std::string_view text) override { Note("message", text); }
   void ErrorCodeShown(std::string_view code) override { Note("error code", code); }

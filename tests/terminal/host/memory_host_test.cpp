@@ -131,18 +131,6 @@ TEST_F(TMemoryHostTest, AnOperationThatIsToldToFailNamesItselfAndLeavesNoTrace) 
   EXPECT_EQ(config.ReadText("USER", "ClearOrd"), "Y");
 }
 
-TEST_F(TMemoryHostTest, KnowsTheOperationsThatCanFail) {
-  for (const char* name :
-       {"config.read",      "config.store",      "language.text", "profile.right",     "profile.data",
-        "orders.list",      "orders.new",        "orders.count",  "orders.at",         "action.take",
-        "channel.post",     "channel.subscribe", "market.listen", "market.instrument", "subscribe.add",
-        "subscribe.remove", "skin.color",        "account.known", "message.text",      "message.code",
-        "editor.register",  "editor.symbol",     "form.make",     "view.notify"}) {
-    EXPECT_TRUE(TFaults::IsKnown(name)) << name;
-  }
-  EXPECT_FALSE(TFaults::IsKnown("config"));
-}
-
 TEST(MemoryHost, PutsBackWhatWasInstalledBefore) {
   TEventNotes events;
   const TMemoryHost outer(events);

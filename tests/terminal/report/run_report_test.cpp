@@ -49,6 +49,19 @@ TEST(RunReport, AnOrderIsReportedFieldByField) {
             "In all: 1 order, 1 answer, 0 refused\n");
 }
 
+TEST(RunReport, WhatWasDoneInTheMiddleOfACallIsReported) {
+  const auto reported =
+      ReportOn({R"({"ok":true,"inside":[{"call":"action.take","nth":1,"answers":[{"ok":true,"events":[)"
+                R"({"event":"message","text":"Meanwhile"}]},{"ok":false,"error":"no"}]}],)"
+                R"("events":[{"event":"message","text":"Done"}]})"});
+  EXPECT_FALSE(reported.allOk);
+  EXPECT_EQ(reported.text,
+            "Message: Meanwhile\n"
+            "Refused: line 1: no\n"
+            "Message: Done\n"
+            "In all: 0 orders, 1 answer, 1 refused\n");
+}
+
 TEST(RunReport, ActionsAreNumberedAndNamed) {
   std::string events;
   for (const char* action : {"2", "42", "9"}) {

@@ -54,6 +54,8 @@ TEST_F(TStrictProviderTest, EveryCallForAnInstanceNeedsAnOpenOne) {
       {"GetGroupID", [&](auto instance) { provider->GetGroupID(instance); }},
       {"CloseInstance", [&](auto instance) { provider->CloseInstance(instance); }},
   };
+  EXPECT_EQ(Objection([&] { provider->ReleaseView(1); }),
+            "ReleaseView is called for an instance that is not open");
   const auto open = provider->OpenNewInstance();
   for (const TRow& row : rows) EXPECT_EQ(Objection([&] { row.call(open); }), "") << row.operation;
   for (const TRow& row : rows) {
@@ -108,6 +110,16 @@ TEST_F(TStrictProviderTest, ShortcutsAreMadeOnceAndBeforeTheyAreAskedFor) {
   EXPECT_EQ(Objection([&] { provider->ExecuteShortcutAction(instance, 22); }),
             "a shortcut is executed that the provider does not have");
   EXPECT_EQ(log, (TLog{"shortcuts", "shortcut 21"}));
+}
+
+TEST_F(TStrictProviderTest, AViewThatWasHandedOverIsNoInstanceAnyMore) {
+  const auto open = provider->OpenNewInstance();
+  const auto view = provider->ReleaseView(open);
+  ASSERT_NE(view, nullptr);
+  EXPECT_EQ(HandleOf(*view), open);
+  EXPECT_FALSE(provider->ContainView(open));
+  provider.reset();
+  EXPECT_EQ(view->GetGroupID(), "its group");
 }
 
 class TLyingProvider final : public host::tests::TSampleProvider {
