@@ -42,7 +42,7 @@ terminal/desk/panels        -> text terminal/render terminal/desk/appearance
 terminal/desk/market        -> text plugin/host_contract terminal/paper terminal/render terminal/desk/appearance terminal/desk/session terminal/desk/panels
 terminal/desk/orders        -> text plugin/host_contract plugin/host_contract/flags terminal/host terminal/render terminal/desk/appearance terminal/desk/panels
 terminal/desk/settings      -> plugin/host_contract terminal/host terminal/render terminal/desk/appearance
-terminal/desk/frames        -> forms terminal/render terminal/desk/session terminal/desk/panels
+terminal/desk/frames        -> forms plugin/host_contract terminal/render terminal/desk/session terminal/desk/panels
 terminal/desk/window        -> plugin/host_contract terminal/render terminal/desk/appearance terminal/desk/session terminal/desk/panels terminal/desk/market terminal/desk/orders terminal/desk/settings terminal/desk/frames
 terminal/desk/script        -> text forms plugin/host_contract terminal/render terminal/drive terminal/ui_driver terminal/desk/appearance terminal/desk/session terminal/desk/frames terminal/desk/window
 terminal/desk               -> terminal/desk/session terminal/desk/window

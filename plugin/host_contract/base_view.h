@@ -55,7 +55,8 @@ class ALGO_SHARED TIBaseView {
   /// [host → module, while the provider lives]
   virtual bool GetIsVisible() = 0;
 
-  /// Whether the view opens as a window of its own instead of a panel. False unless overridden.
+  /// Whether the view opens as a window of its own instead of a panel. False unless overridden. Asked at each
+  /// opening, with the operations below about how new instances stand.
   /// [host → module, while the provider lives]
   virtual bool GetIsWindow();
 
@@ -67,7 +68,9 @@ class ALGO_SHARED TIBaseView {
   /// [host → module, while the instance is open]
   virtual void CloseInstance(TInstanceHandle instance);
 
-  // Passed on to the instance, see TViewFrame; an unknown handle gives 0, empty or false.
+  // Passed on to the instance, see TViewFrame; an unknown handle gives 0, empty or false. What the title bar
+  // shows is asked when the instance has opened, and again when it has sent ViewChanged, taken a language, or
+  // been told of a click or a shortcut.
   // [host → module, while the instance is open]
   virtual std::int32_t GetWidth(TInstanceHandle instance);
   virtual std::int32_t GetHeight(TInstanceHandle instance);
@@ -78,19 +81,22 @@ class ALGO_SHARED TIBaseView {
   virtual TImage GetViewIcon(TInstanceHandle instance);
 
   /// A new frame with the user's settings of this kind of view, for the host's settings dialog. nullptr
-  /// unless overridden, for nothing to set.
+  /// unless overridden, for nothing to set. Asked before the host offers the settings, so that the frame may
+  /// never be shown; the host detaches it in any case.
   /// [host → module, while the provider lives]
   virtual std::shared_ptr<TViewFrame> GetPreferenceView();
 
-  // How new instances stand on the screen. Unless overridden: not as a dialog, sizeable, dockable at a side
-  // of the host's choice.
+  // How new instances stand on the screen, asked at each opening; where a workspace restores an instance, its
+  // own place goes before the side. Unless overridden: not as a dialog, sizeable, dockable at a side of the
+  // host's choice.
   // [host → module, while the provider lives]
   virtual bool GetIsDialog();
   virtual bool GetIsSizeable();
   virtual bool GetCanDock();
   virtual TDockPosition GetDockPosition();
 
-  /// The shortcuts of this kind of view. None unless overridden.
+  /// The shortcuts of this kind of view, asked at the start and at each change of language. None unless
+  /// overridden.
   /// [host → module, after InitializeShortcut]
   virtual std::vector<TShortcut> GetShortCutList();
 
@@ -104,7 +110,9 @@ class ALGO_SHARED TIBaseView {
   /// [host → module, while the provider lives]
   virtual bool SetLanguage(TInstanceHandle instance, std::int32_t language);
 
-  // Passed on to the instance, as above.
+  // Passed on to the instance, as above: the font when it has opened and when the host has another one; that
+  // it is the active view, or is so no longer, at each change and before it closes; the layout when a
+  // workspace is stored or restored, and custom data after it, when the restored one has some.
   // [host → module, while the instance is open]
   virtual void SetFont(TInstanceHandle instance, const forms::TFont& font);
   virtual void ActiveView(TInstanceHandle instance);
@@ -124,7 +132,8 @@ class ALGO_SHARED TIBaseView {
   virtual std::string GetGroupID(TInstanceHandle instance);
 
   /// Whether an instance opens by itself as a dialog once the main window shows, and where it stands among
-  /// the views that do, lower numbers first. Unless overridden: false, and 0.
+  /// the views that do, lower numbers first. Asked once at each start, of a view that the user is offered.
+  /// Unless overridden: false, and 0.
   /// [host → module, while the provider lives]
   virtual bool GetIsDialogViewAfterMainShow();
   virtual std::int32_t GetDialogViewIndexAfterMainShow();
@@ -135,12 +144,14 @@ class ALGO_SHARED TIBaseView {
   virtual void AddView(std::shared_ptr<TViewFrame> frame);
 
  public:
-  /// Size and caption of a new instance. False leaves them to the host; a size may be left untouched.
+  /// Size and caption of a new instance. False leaves them to the host; a size may be left untouched. The
+  /// caption is asked again at each change of language.
   /// [host → module, while the provider lives]
   virtual bool GetDefaultSize(std::int32_t& width, std::int32_t& height) = 0;
   virtual bool GetDefaultCaption(std::string& caption) = 0;
 
-  /// The shortcuts are going to be asked for: makes them ready. With no effect unless overridden.
+  /// The shortcuts are going to be asked for: makes them ready. A host with keys calls it before it opens the
+  /// first instance. With no effect unless overridden.
   /// [host → module, once]
   virtual void InitializeShortcut();
 

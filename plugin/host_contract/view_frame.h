@@ -25,7 +25,7 @@ class ALGO_SHARED TViewFrame : public forms::TFrame {
   /// The terminal changed to the skin of that name.
   /// [host → module, while the instance is open]
   virtual void SetSkin(std::string_view name);
-  /// The font in which the terminal shows its views.
+  /// The font in which the terminal shows its views, as a control of the view would have to be given it.
   /// [host → module, while the instance is open]
   virtual void SetFont(const forms::TFont& font);
 
@@ -64,13 +64,15 @@ class ALGO_SHARED TViewFrame : public forms::TFrame {
   /// [host → module, while the instance is open]
   virtual bool ExecuteShortcutAction(std::int32_t action);
 
-  /// The view became the active one of the terminal, or is so no longer.
+  /// The view became the active one of the terminal, or is so no longer. A dialog in front of it, or another
+  /// program, leaves it the active one.
   /// [host → module, while the instance is open]
   virtual void ActiveView();
   virtual void DeactiveView();
 
   /// Takes data that the host, or another view through it, has for the view, in a form on which the two have
-  /// agreed. False when the view does not know it.
+  /// agreed. False when the view does not know it. A host may keep the data with the view in a workspace, and
+  /// gives it again, after the layout, when it restores the view.
   /// [host → module, while the instance is open]
   virtual bool SetCustomData(std::string_view data);
   /// Takes a message, likewise. False when the view does not know it.

@@ -16,6 +16,8 @@ QFont DesktopFont(const forms::TFont& font) {
   return chosen;
 }
 
+forms::TFont FormFont() { return {.bold = QApplication::font().bold()}; }
+
 forms::TSize TQtToolkit::MeasureText(std::string_view text, const forms::TFont& font) const {
   // Scaled, because a form that searches for a size that fits measures many, and each would load a font that
   // is never drawn.

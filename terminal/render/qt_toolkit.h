@@ -13,6 +13,9 @@ namespace algo::terminal::render {
 /// own; others are scaled in proportion.
 QFont DesktopFont(const forms::TFont& font);
 
+/// The application's own font as the form model names it: what has this font is drawn in the application's.
+forms::TFont FormFont();
+
 /// To be installed with forms::TToolkit::Install once there is an application object.
 class TQtToolkit final : public forms::TToolkit {
  public:

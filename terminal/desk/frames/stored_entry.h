@@ -10,6 +10,7 @@ struct TStoredEntry {
   std::string name;    ///< of its panel
   std::string group;   ///< its link group
   std::string layout;  ///< what the module gave as its layout text
+  std::string data;    ///< the view's custom data; empty for none
 
   bool operator==(const TStoredEntry&) const = default;
 };

@@ -40,11 +40,15 @@ QToolButton& MakeButton(QWidget& parent, const char* name, QStyle::StandardPixma
 TDockTitle::TDockTitle(QDockWidget& dock, bool linked)
     : QWidget(&dock),
       FDock(dock),
+      FIcon(*new QLabel(this)),
       FCaption(*new QLabel(this)),
+      FViewButtons(*new TTitleButtons(*this)),
       FGroup(*new QComboBox(this)),
       FFloat(MakeButton(*this, "float", QStyle::SP_TitleBarNormalButton)),
       FClose(MakeButton(*this, "close", QStyle::SP_TitleBarCloseButton)) {
   setObjectName("dockTitle");
+  FIcon.setObjectName("viewIcon");
+  FIcon.hide();
   FCaption.setObjectName("caption");
   QFont bold = FCaption.font();
   bold.setBold(true);
@@ -59,7 +63,9 @@ TDockTitle::TDockTitle(QDockWidget& dock, bool linked)
   auto* row = new QHBoxLayout(this);
   row->setContentsMargins(6, 2, 2, 2);
   row->setSpacing(2);
+  row->addWidget(&FIcon);
   row->addWidget(&FCaption, 1);
+  row->addWidget(&FViewButtons);
   row->addWidget(&FGroup);
   row->addWidget(&FFloat);
   row->addWidget(&FClose);
@@ -78,6 +84,12 @@ bool TDockTitle::SetGroup(std::string_view id) {
   if (place < 0) return false;
   FGroup.setCurrentIndex(place);
   return true;
+}
+
+void TDockTitle::SetIcon(const QIcon& icon) {
+  const int size = style()->pixelMetric(QStyle::PM_SmallIconSize);
+  FIcon.setPixmap(icon.pixmap(size));
+  FIcon.setVisible(!icon.isNull());
 }
 
 void TDockTitle::Retranslate(const appearance::TTexts& texts) {

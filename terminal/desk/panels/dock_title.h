@@ -1,7 +1,7 @@
 #pragma once
 
-// The title bar of a panel: caption, the chooser of the link group, and buttons to float and to close the
-// panel.
+// The title bar of a panel: caption, what a view adds to it, the chooser of the link group, and buttons to
+// float and to close the panel.
 
 #include <QComboBox>
 #include <QDockWidget>
@@ -12,6 +12,7 @@
 
 #include "terminal/desk/appearance/skins.h"
 #include "terminal/desk/appearance/texts.h"
+#include "terminal/desk/panels/title_buttons.h"
 
 namespace algo::terminal::desk::panels {
 
@@ -27,6 +28,15 @@ class TDockTitle final : public QWidget {
   /// Chooses the group; one that is not offered leaves the choice as it was. Returns whether it was offered.
   bool SetGroup(std::string_view id);
 
+  /// Shows the icon before the caption; a null icon for none.
+  void SetIcon(const QIcon& icon);
+
+  /// The buttons of the view, of which there are none at first.
+  TTitleButtons& ViewButtons() { return FViewButtons; }
+
+  /// Whether the bar offers to float and to dock the panel.
+  void SetFloatOffered(bool offered) { FFloat.setVisible(offered); }
+
   /// Shows all texts in the language of `texts`.
   void Retranslate(const appearance::TTexts& texts);
 
@@ -41,7 +51,9 @@ class TDockTitle final : public QWidget {
   void ShowCaption();
 
   QDockWidget& FDock;
+  QLabel& FIcon;
   QLabel& FCaption;
+  TTitleButtons& FViewButtons;
   QComboBox& FGroup;
   QToolButton& FFloat;
   QToolButton& FClose;

@@ -6,6 +6,7 @@
 #include <filesystem>
 #include <system_error>
 
+#include "terminal/desk/session/guarded_provider.h"
 #include "terminal/desk/session/market_lists.h"
 #include "terminal/desk/session/sample_user.h"
 #include "terminal/desk/session/step_grids.h"
@@ -78,6 +79,10 @@ TDesk::TDesk(const TDeskOptions& options)
       FViews.insert(HandleOf(*view));
   });
   FModule = LoadModule(options.moduleFile, this);
+  if (options.layer) FModule->Watch(options.layer);
+  FModule->Watch([this](auto provider) -> std::unique_ptr<host::TIBaseView> {
+    return std::make_unique<TGuardedProvider>(std::move(provider), FEvents);
+  });
   connect(&FTimer, &QTimer::timeout, this, &TDesk::StepByClock);
 }
 
@@ -88,7 +93,9 @@ TDesk::~TDesk() {
 
 host::TInstanceHandle TDesk::OpenView() {
   const host::TInstanceHandle instance = Provider().OpenNewInstance();
-  if (instance != 0) FViews.insert(instance);
+  // A view without a frame is nothing that could be shown.
+  if (instance == 0 || !Provider().FindView(instance)) return 0;
+  FViews.insert(instance);
   return instance;
 }
 

@@ -39,6 +39,8 @@ class TDesk final : public QObject {
   TDeskEvents& Events() { return FEvents; }
   TMemoryHost& Host() { return FHost; }
   storage::TSqliteStorage& Storage() { return FStorage; }
+  /// The module's view provider, which throws nothing here: the trader is told of a failure, and the answer
+  /// is the one of a view that has nothing to say.
   host::TIBaseView& Provider() { return FModule->Provider(); }
   const paper::TMarketTables& Tables() const { return FTables; }
   const render::TEditorAssist& EditorAssist() const { return FEditorAssist; }

@@ -4,9 +4,11 @@
 
 #include <cstdint>
 #include <functional>
+#include <memory>
 #include <optional>
 #include <string>
 
+#include "plugin/host_contract/base_view.h"
 #include "terminal/desk/appearance/skins.h"
 #include "terminal/desk/appearance/texts.h"
 #include "terminal/host/host_data.h"
@@ -24,6 +26,8 @@ struct TDeskOptions {
   const appearance::TSkin* skin = nullptr;        ///< else the one of the workspace
   /// Changes the host's data before the module is loaded; may be empty.
   std::function<void(THostData&)> prepare;
+  /// Puts a layer around the module's view provider, say one that watches its calls; may be empty.
+  std::function<std::unique_ptr<host::TIBaseView>(std::unique_ptr<host::TIBaseView>)> layer;
 };
 
 }  // namespace algo::terminal::desk

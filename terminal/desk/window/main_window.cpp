@@ -4,6 +4,7 @@
 #include <QCloseEvent>
 #include <QMessageBox>
 #include <QStatusBar>
+#include <utility>
 
 #include "terminal/desk/session/link_posts.h"
 #include "terminal/render/qt_text.h"
@@ -137,6 +138,21 @@ void TMainWindow::ShowSkin() {
   FOrders.Title().ShowSkin(FDesk.Skin());
   FEntries.ShowSkin();
   FMenu.Rebuild();
+}
+
+void TMainWindow::showEvent(QShowEvent* event) {
+  QMainWindow::showEvent(event);
+  if (std::exchange(FWasShown, true)) return;
+  // Queued, so that what opens by itself comes in front of a window that shows already.
+  const auto openViews = [this] {
+    if (isVisible()) FDesk.Events().Guard([this] { FEntries.OpenAtStart(); });
+  };
+  QMetaObject::invokeMethod(this, openViews, Qt::QueuedConnection);
+}
+
+void TMainWindow::changeEvent(QEvent* event) {
+  QMainWindow::changeEvent(event);
+  if (event->type() == QEvent::FontChange) FDesk.Events().Guard([this] { FEntries.ShowFont(); });
 }
 
 void TMainWindow::closeEvent(QCloseEvent* event) {

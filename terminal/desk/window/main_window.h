@@ -37,6 +37,8 @@ class TMainWindow final : public QMainWindow {
   frames::TFormWindows& Forms() { return FForms; }
 
  protected:
+  void showEvent(QShowEvent* event) override;
+  void changeEvent(QEvent* event) override;
   void closeEvent(QCloseEvent* event) override;
 
  private:
@@ -64,6 +66,7 @@ class TMainWindow final : public QMainWindow {
   frames::TEntryPanels FEntries;
   TMainMenu FMenu;
   QPointer<settings::TSettingsPage> FSettings;
+  bool FWasShown = false;
   bool FCloseRequested = false;  ///< to be done as soon as no modal form shows
   bool FCloseUnsaved = false;    ///< the trader was told that the workspace cannot be stored
 };

@@ -60,6 +60,7 @@ void TMainWindow::Show(const TWorkspace& workspace) {
   }
   if (!restoreGeometry(workspace.geometry)) resize(FirstSize.boundedTo(screen()->availableSize()));
   restoreState(workspace.panels);
+  FEntries.KeepPlaces();
 }
 
 TWorkspace TMainWindow::Current() const {

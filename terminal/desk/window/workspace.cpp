@@ -23,7 +23,9 @@ QByteArray BytesOf(const json& text) {
 std::string WorkspaceText(const TWorkspace& workspace) {
   json entries = json::array();
   for (const frames::TStoredEntry& entry : workspace.entries) {
-    entries.push_back({{"name", entry.name}, {"group", entry.group}, {"layout", entry.layout}});
+    json stored{{"name", entry.name}, {"group", entry.group}, {"layout", entry.layout}};
+    if (!entry.data.empty()) stored["data"] = entry.data;
+    entries.push_back(std::move(stored));
   }
   const json all{{"version", Version},
                  {"language", appearance::LanguageCode(workspace.language)},
@@ -52,7 +54,8 @@ std::optional<TWorkspace> ParseWorkspace(std::string_view text) {
     workspace.ordersGroup = all.at("orders").at("group").get<std::string>();
     for (const json& entry : all.at("entries")) {
       workspace.entries.push_back({entry.at("name").get<std::string>(), entry.at("group").get<std::string>(),
-                                   entry.at("layout").get<std::string>()});
+                                   entry.at("layout").get<std::string>(),
+                                   entry.value("data", std::string())});
     }
     return workspace;
   } catch (const json::exception&) {

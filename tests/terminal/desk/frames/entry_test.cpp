@@ -62,6 +62,16 @@ TEST_F(TEntryTest, ClosingAPanelClosesItsView) {
   EXPECT_FALSE(desk->Provider().ContainView(instance));
 }
 
+TEST_F(TEntryTest, TheViewsThatAreLeftAreNumberedAnew) {
+  Open();
+  Choose("AlgoOrderEntry_426");
+  Choose("AlgoOrderEntry_426");
+  Click(The("close", &Entry("entry1")));
+  QTest::qWait(10);
+  EXPECT_EQ(Entry("entry2").windowTitle(), "Algo order entry");
+  EXPECT_EQ(Entry("entry3").windowTitle(), "Algo order entry 2");
+}
+
 TEST_F(TEntryTest, AFloatingPanelFollowsTheSizeOfItsForm) {
   Open();
   Click(The("float", &Entry()));

@@ -15,7 +15,7 @@ window::TWorkspace Sample() {
           .panels = QByteArray("panels"),
           .watchGroup = "Red",
           .ordersGroup = "",
-          .entries = {{"entry1", "Blue", "cmbOrderType:\"TVOL\"\n"}, {"entry3", "", ""}}};
+          .entries = {{"entry1", "Blue", "cmbOrderType:\"TVOL\"\n", "its data"}, {"entry3", "", "", ""}}};
 }
 
 TEST(Workspace, ComesBackFromItsText) {
@@ -37,9 +37,18 @@ TEST(Workspace, IsNotReadFromABrokenText) {
   EXPECT_FALSE(with("\"version\":1", "\"version\":2"));
   EXPECT_FALSE(with("\"entries\"", "\"entry\""));
   EXPECT_FALSE(with("\"Blue\"", "7"));
+  EXPECT_FALSE(with("\"its data\"", "7"));
   EXPECT_FALSE(window::ParseWorkspace(good.substr(0, good.size() - 1)).has_value());
   EXPECT_FALSE(window::ParseWorkspace("").has_value());
   EXPECT_FALSE(window::ParseWorkspace("[]").has_value());
+}
+
+TEST(Workspace, ViewsWithoutDataOfTheirOwnAreStoredWithoutIt) {
+  window::TWorkspace workspace = Sample();
+  workspace.entries[0].data.clear();
+  const std::string text = window::WorkspaceText(workspace);
+  EXPECT_EQ(text.find("\"data\""), std::string::npos);
+  EXPECT_EQ(window::ParseWorkspace(text), workspace);
 }
 
 struct TWorkspaceTest : TDeskTest {
