@@ -80,6 +80,8 @@ void TDialogForm::Close() {
     }
   };
   if (OnClose) attempt([&] { OnClose(*this, action); });
+  // Whoever failed before saying what becomes of the form leaves it as it is.
+  if (failure && action == TCloseAction::Hide) action = TCloseAction::None;
   if (action != TCloseAction::None) attempt([this] { Hide(); });
   if (action == TCloseAction::Free) {
     // Whoever holds the form still may close it again, when the one who answered is gone.

@@ -17,7 +17,7 @@ int starts = 0;
 bool registered = false;  ///< by this copy of the module
 
 std::unique_ptr<host::TIBaseView> MakeProvider(const void* owner) {
-  return views::AtBoundary(
+  return views::AtHostBoundary(
       std::unique_ptr<host::TIBaseView>(),
       [owner]() -> std::unique_ptr<host::TIBaseView> { return std::make_unique<TIAlgoEntryOrder>(owner); });
 }
@@ -36,14 +36,14 @@ void Stop() {
 bool SetOrderAlgo(host::TViewFrame& frame, host::TCustomClientOrder& order) {
   const auto* entry = dynamic_cast<const views::entry::TAlgoOrderEntryFrame*>(&frame);
   if (entry == nullptr) return false;
-  return views::AtBoundary(false, [&] {
+  return views::AtHostBoundary(false, [&] {
     entry->SetOrderAlgo(order);
     return true;
   });
 }
 
 double WorkParentAvailableQty(host::TCustomOrder* parent) {
-  return views::AtBoundary(0.0, [parent] { return views::work::GetWorkParentOrderAvailableQty(parent); });
+  return views::AtHostBoundary(0.0, [parent] { return views::work::GetWorkParentOrderAvailableQty(parent); });
 }
 
 constexpr host::TModuleEntry Entry{host::ContractVersion, Start, Stop, SetOrderAlgo, WorkParentAvailableQty};

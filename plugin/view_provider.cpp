@@ -34,7 +34,7 @@ TIAlgoEntryOrder::TIAlgoEntryOrder(const void* owner) : TIBaseView(owner) {
       [this, alive](const void* /*sender*/, host::TChannelRecord* record) {
         // None yet while the provider is made.
         const auto actions = alive.expired() ? nullptr : FActions;
-        if (actions) views::AtBoundary([&] { actions->Take(record); });
+        if (actions) views::AtHostBoundary([&] { actions->Take(record); });
       },
       this);
   auto& config = host::TCustomConfigManager::GetInstance();
@@ -49,6 +49,8 @@ TIAlgoEntryOrder::TIAlgoEntryOrder(const void* owner) : TIBaseView(owner) {
 }
 
 TIAlgoEntryOrder::~TIAlgoEntryOrder() {
+  // Whatever call the host is in the middle of: what fails here is reported here.
+  const views::TNestedLoopScope ownCall;
   views::AtBoundary([this] { FListening.Release(); });
   FAlive.reset();
   if (FActions) FActions->End();
@@ -68,7 +70,7 @@ std::int32_t TIAlgoEntryOrder::GetMenuIndex(std::int32_t level) { return MenuRow
 std::int32_t TIAlgoEntryOrder::GetMenuID(std::int32_t level) { return MenuRow(level).id; }
 
 std::string TIAlgoEntryOrder::GetMenuCaption(std::int32_t level) {
-  return views::AtBoundary(std::string(), [level] {
+  return views::AtHostBoundary(std::string(), [level] {
     const std::string_view id = MenuRow(level).captionId;
     return id.empty() ? std::string() : host::ResourceText(id);
   });
@@ -77,12 +79,12 @@ std::string TIAlgoEntryOrder::GetMenuCaption(std::int32_t level) {
 std::int32_t TIAlgoEntryOrder::GetMenuGroupIndex(std::int32_t /*level*/) { return 0; }
 
 bool TIAlgoEntryOrder::GetIsVisible() {
-  return views::AtBoundary(false,
-                           [] { return host::TCustomUserAppProfile::GetInstance().HasRight(ViewRight); });
+  return views::AtHostBoundary(false,
+                               [] { return host::TCustomUserAppProfile::GetInstance().HasRight(ViewRight); });
 }
 
 bool TIAlgoEntryOrder::GetDefaultCaption(std::string& caption) {
-  return views::AtBoundary(false, [&caption] {
+  return views::AtHostBoundary(false, [&caption] {
     caption = host::ResourceText("Res_AlgoOrderEntry");
     return true;
   });
@@ -91,7 +93,7 @@ bool TIAlgoEntryOrder::GetDefaultCaption(std::string& caption) {
 bool TIAlgoEntryOrder::GetDefaultSize(std::int32_t& /*width*/, std::int32_t& /*height*/) { return true; }
 
 host::TInstanceHandle TIAlgoEntryOrder::OpenNewInstance() {
-  return views::AtBoundary(host::TInstanceHandle{0}, [this] {
+  return views::AtHostBoundary(host::TInstanceHandle{0}, [this] {
     const std::weak_ptr alive(FAlive);
     auto frame = std::make_shared<views::entry::TAlgoOrderEntryFrame>();
     if (alive.expired()) {
@@ -105,11 +107,11 @@ host::TInstanceHandle TIAlgoEntryOrder::OpenNewInstance() {
 }
 
 void TIAlgoEntryOrder::CloseInstance(host::TInstanceHandle instance) {
-  views::AtBoundary([&] { TIBaseView::CloseInstance(instance); });
+  views::AtHostBoundary([&] { TIBaseView::CloseInstance(instance); });
 }
 
 bool TIAlgoEntryOrder::SetLanguage(host::TInstanceHandle instance, std::int32_t language) {
-  return views::AtBoundary(false, [&] {
+  return views::AtHostBoundary(false, [&] {
     const auto actions = FActions;
     // Before the host is asked for a text: one that fails leaves the mark.
     actions->MarkLanguage(language);

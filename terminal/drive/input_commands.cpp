@@ -68,12 +68,8 @@ void CloseForm(TSession& session, const TArguments& arguments, TAnswerJson& /*an
   if (form == nullptr || form->Modal() || !form->Showing()) {
     throw ECommandError("'" + arguments.Text("frame") + "' sits in no form that shows beside others");
   }
-  try {
-    session.Input().Close(*form);
-  } catch (...) {
-    if (form->Showing()) throw ECommandError("the form did not close");
-    CallModule([] { throw; });
-  }
+  CallModule([&] { session.Input().Close(*form); });
+  if (frame->Form() != nullptr && frame->Form()->Showing()) throw ECommandError("the form did not close");
 }
 
 constexpr std::array Commands{

@@ -44,6 +44,14 @@ TEST_F(TComboBoxTest, PickingThePickedItemIsNoChange) {
   EXPECT_EQ(notes, TNotes{});
 }
 
+TEST_F(TComboBoxTest, PickingThePickedItemIsAChangeOnceWhereTheLastChoiceCameToNothing) {
+  combo.Unsettle();
+  frame.InputPick(combo, 0);
+  frame.InputPick(combo, 0);
+  EXPECT_EQ(notes, TNotes{"combo changed"});
+  EXPECT_EQ(combo.Index(), 0);
+}
+
 TEST_F(TComboBoxTest, TheTraderPicksWhatTheListHas) {
   EXPECT_EQ(frame.InputPick(combo, 3), TInputResult::OutOfRange);
   EXPECT_EQ(frame.InputPick(combo, -1), TInputResult::OutOfRange);

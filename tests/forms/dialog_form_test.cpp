@@ -1,5 +1,9 @@
 #include <gtest/gtest.h>
 
+#include <stdexcept>
+#include <string>
+#include <utility>
+
 #include "tests/forms/sample_form.h"
 
 namespace algo::forms::tests {
@@ -145,6 +149,50 @@ TEST_F(TDialogFormTest, AFrameKnowsTheFormThatItSitsIn) {
   EXPECT_EQ(frame->Form(), form.get());
   form.reset();
   EXPECT_EQ(frame->Form(), nullptr);
+}
+
+/// A form whose window fails at one of its steps.
+struct TFailingForm final : TDialogForm {
+  explicit TFailingForm(std::string failsAt) : step(std::move(failsAt)) {}
+  void RunModal() override {}
+  void Hidden() override { Pass("hidden"); }
+  void Freed() override { Pass("freed"); }
+  void Pass(const std::string& name) {
+    notes.push_back(name);
+    if (step == name) throw std::runtime_error(name);
+  }
+
+  std::string step;
+  TNotes notes;
+};
+
+TEST_F(TDialogFormTest, AFormWhoseOwnerFailsBeforeItAnswersStays) {
+  form->OnClose = [](TDialogForm& /*sender*/, TCloseAction& /*action*/) { throw std::runtime_error("no"); };
+  form->Show();
+  EXPECT_THROW(form->Close(), std::runtime_error);
+  EXPECT_TRUE(form->Showing());
+  form->OnClose = nullptr;
+  form->Close();
+  EXPECT_FALSE(form->Showing());
+}
+
+TEST_F(TDialogFormTest, AFormThatFailsWhileItClosesClosesWholeAndReportsTheFirstFailure) {
+  for (const std::string failing : {"answer", "hidden", "freed"}) {
+    SCOPED_TRACE(failing);
+    frameNotes.clear();
+    const auto closed = std::make_shared<TFailingForm>(failing);
+    closed->SetFrame(std::make_shared<TMortalFrame>(frameNotes));
+    closed->OnClose = [&](TDialogForm& /*sender*/, TCloseAction& action) {
+      action = TCloseAction::Free;
+      closed->Pass("answer");
+    };
+    closed->Show();
+    EXPECT_THROW(closed->Close(), std::runtime_error);
+    EXPECT_EQ(closed->notes, (TNotes{"answer", "hidden", "freed"}));
+    EXPECT_EQ(frameNotes, TNotes{"frame detached"});
+    EXPECT_EQ(closed->OnClose, nullptr);
+    EXPECT_FALSE(closed->Showing());
+  }
 }
 
 }  // namespace

@@ -51,6 +51,14 @@ TEST_F(TInputTest, TheHostEditorReactsBeforeTheExitHandlerAndAfterTheTyping) {
   EXPECT_EQ(notes, (TNotes{"second changed", "host sees 4", "second left"}));
 }
 
+TEST_F(TInputTest, AHostEditorThatFailsIsToldInPlaceOfTheExitHandlerAndTheFailureRunsOn) {
+  second.SetHostEditor([] { throw std::runtime_error("no"); });
+  second.OnHostEditorFailed = [&] { notes.push_back("failed at " + second.Text()); };
+  EXPECT_THROW(TypeAndLeave(second, "4"), std::runtime_error);
+  EXPECT_EQ(notes, (TNotes{"second changed", "failed at 4"}));
+  EXPECT_EQ(frame.Focused(), nullptr);
+}
+
 TEST_F(TInputTest, TheCommitNotificationDoesWhatLeavingDoesAndKeepsTheFocus) {
   second.SetHostEditor([&] { notes.push_back("host"); });
   frame.InputText(second, "4");

@@ -48,6 +48,14 @@ TEST(DateText, TakesALoneDateForItsMidnight) {
   EXPECT_EQ(ParseDateTime(" 2024-02-29 "), At(2024, 2, 29, 0, 0, 0));
 }
 
+TEST(DateText, TakesWhatStandsBehindACompactTimeForBlanks) {
+  for (const std::string_view text :
+       {"20240115", "20240115-", "20240115 ", "20240115\t", "20240115 - ", "20240115-00:00:00-"}) {
+    EXPECT_EQ(ParseCompactDateTime(text), At(2024, 1, 15, 0, 0, 0)) << text;
+  }
+  EXPECT_EQ(ParseCompactDateTime("20240115 09:30:00"), At(2024, 1, 15, 9, 30, 0));
+}
+
 TEST(DateText, KnowsLeapYears) {
   EXPECT_TRUE(ParseDateTime("2024-02-29").has_value());
   EXPECT_TRUE(ParseDateTime("2000-02-29").has_value());

@@ -2,9 +2,9 @@
 
 // Where the outside calls in. Behind a boundary errors are exceptions that run up through ordinary RAII; at
 // the boundary everything is caught, reported to the trader once, and answered with the operation's failing
-// answer. What a handler sets off while such a call runs belongs to that call: only the outermost boundary
-// catches. A loop in which the host plays the trader's input (a modal dialog, a message box) starts afresh,
-// because what happens in it is not the caller's doing.
+// answer. What a control's handler sets off while such a call runs belongs to that call: only the outermost
+// boundary catches. A loop in which the host plays the trader's input (a modal dialog, a message box) starts
+// afresh, because what happens in it is not the caller's doing.
 
 #include <string>
 #include <utility>
@@ -69,6 +69,14 @@ void AtBoundary(TBody&& body) {
     std::forward<TBody>(body)();
     return true;
   });
+}
+
+/// For what the host alone calls, which it may do in the middle of a call of ours: an error ends at this call
+/// and does not run on through the host's own code.
+template <class... TArguments>
+decltype(auto) AtHostBoundary(TArguments&&... arguments) {
+  const TNestedLoopScope ownCall;
+  return AtBoundary(std::forward<TArguments>(arguments)...);
 }
 
 }  // namespace algo::views

@@ -24,13 +24,21 @@ class TGuardedFrame : public host::TViewFrame {
   std::int32_t GetHeight() const override;
 
  protected:
-  /// A handler for control events and host notifications: a boundary around the method.
+  /// A handler for control events: a boundary around the method.
   template <class TFrameClass, class... TArguments>
   std::function<void(TArguments...)> Handler(void (TFrameClass::*method)(TArguments...)) {
     return [this, method, alive = std::weak_ptr<const bool>(FAlive)](TArguments... arguments) {
       if (alive.expired()) return;
       const auto held = KeepAlive();
       AtBoundary([&] { (static_cast<TFrameClass*>(this)->*method)(arguments...); });
+    };
+  }
+
+  /// A handler for the host's notifications: the same, with no error out of it ever.
+  template <class TFrameClass, class... TArguments>
+  std::function<void(TArguments...)> HostHandler(void (TFrameClass::*method)(TArguments...)) {
+    return [handler = Handler(method)](TArguments... arguments) {
+      AtHostBoundary([&] { handler(arguments...); });
     };
   }
 

@@ -23,7 +23,7 @@ TAlgoOrderEntryFrame::TAlgoOrderEntryFrame(const TFramePurpose& purpose)
              {.exchangeChanged = [this] { cmbExchChange(); },
               .algoChanged = [this] { cmbOrderTypeChange(); },
               .orderTypeChanged = [this] { cmbMOrderTypeChange(); }}),
-      FSymbol(FForm, this, Handler(&TAlgoOrderEntryFrame::SymbolUpdate)),
+      FSymbol(FForm, this, HostHandler(&TAlgoOrderEntryFrame::SymbolUpdate)),
       FLayoutText(FForm, FLists, FSymbol) {
   // Making the form is one call from outside: what its handlers set off fails, if it fails, as a whole.
   const TBoundary making;
@@ -40,7 +40,7 @@ TAlgoOrderEntryFrame::TAlgoOrderEntryFrame(const TFramePurpose& purpose)
     Control(side).SetFont({.size = SideFontSize, .bold = true});
   }
   TAlgoOrderEntryFrame::SetLanguage(StartLanguage);
-  TAlgoOrderEntryFrame::SetSkin({});
+  ShowSkin();
   ConfigUpdate();
   Spin(TField::edtPrice).SetValue(0);
   const std::string startSymbol(text::Trim(Edit(TField::edtSymbol).Hint()));
@@ -69,20 +69,22 @@ void TAlgoOrderEntryFrame::TSizeNotice::Send() const {
 }
 
 void TAlgoOrderEntryFrame::SetSkin(std::string_view /*name*/) {
-  AtBoundary([this] {
-    auto& skin = host::TCustomLookAndFeelService::GetInstance();
-    SideButton(TField::btnBuy).SetColor(host::ButtonColorSlot, skin.ColorOf(host::BuyColor, 0));
-    SideButton(TField::btnSell).SetColor(host::ButtonColorSlot, skin.ColorOf(host::SellColor, 0));
-    NotifyViewChanged();
-  });
+  AtHostBoundary([this] { ShowSkin(); });
+}
+
+void TAlgoOrderEntryFrame::ShowSkin() {
+  auto& skin = host::TCustomLookAndFeelService::GetInstance();
+  SideButton(TField::btnBuy).SetColor(host::ButtonColorSlot, skin.ColorOf(host::BuyColor, 0));
+  SideButton(TField::btnSell).SetColor(host::ButtonColorSlot, skin.ColorOf(host::SellColor, 0));
+  NotifyViewChanged();
 }
 
 std::string TAlgoOrderEntryFrame::GetLayoutData() {
-  return AtBoundary(std::string(), [this] { return FLayoutText.Write(FCurrentAccount); });
+  return AtHostBoundary(std::string(), [this] { return FLayoutText.Write(FCurrentAccount); });
 }
 
 bool TAlgoOrderEntryFrame::SetLayoutData(std::string_view text) {
-  return AtBoundary(false, [&] {
+  return AtHostBoundary(false, [&] {
     FLayoutText.Read(text);
     NotifyViewChanged();
     return !Detached();

@@ -179,6 +179,7 @@ class TAlgoOrderEntryFrame : public TGuardedFrame {
   void SymbolUpdate(const void* sender, const host::TItemDictionary* data);
   void SpreadUpdate(const void* sender, const host::TSpreadDictionary* data);
   void SkinChanged(std::string_view name);
+  void ShowSkin();
   void ConfigUpdate();
   void UpdateScale();
   bool WorksOnProfileAccount() const;

@@ -56,16 +56,16 @@ void TAlgoOrderEntryFrame::RegisterWithHost() {
   all.Add(host::RegisterPriceEditor(Spin(TField::edtPrice), FGroupID));
   for (const TField field : QuantityEditors) RegisterQuantityEditor(Spin(field));
   for (const TField field : AlgoPriceEditors) all.Add(host::RegisterPriceEditor(Spin(field), FGroupID));
-  all.Add(host::ListenToSettings(Handler(&TAlgoOrderEntryFrame::ConfigUpdate), this));
-  all.Add(host::ListenToChannel(host::CopyPriceChannel, Handler(&TAlgoOrderEntryFrame::CopyPrice), this));
-  all.Add(host::ListenToChannel(host::CopyOrderChannel, Handler(&TAlgoOrderEntryFrame::CopyOrder), this));
-  all.Add(host::ListenToSpreads(Handler(&TAlgoOrderEntryFrame::SpreadUpdate), this));
-  all.Add(host::ListenToSkins(Handler(&TAlgoOrderEntryFrame::SkinChanged), this));
+  all.Add(host::ListenToSettings(HostHandler(&TAlgoOrderEntryFrame::ConfigUpdate), this));
+  all.Add(host::ListenToChannel(host::CopyPriceChannel, HostHandler(&TAlgoOrderEntryFrame::CopyPrice), this));
+  all.Add(host::ListenToChannel(host::CopyOrderChannel, HostHandler(&TAlgoOrderEntryFrame::CopyOrder), this));
+  all.Add(host::ListenToSpreads(HostHandler(&TAlgoOrderEntryFrame::SpreadUpdate), this));
+  all.Add(host::ListenToSkins(HostHandler(&TAlgoOrderEntryFrame::SkinChanged), this));
   all.Add(host::TRegistration([this] { FSymbol.End(); }));
 }
 
 bool TAlgoOrderEntryFrame::SetGroupID(std::string_view id) {
-  return AtBoundary(false, [&] {
+  return AtHostBoundary(false, [&] {
     if (id == FGroupID) return true;
     const std::string former = std::exchange(FGroupID, std::string(id));
     try {
@@ -120,7 +120,7 @@ void TAlgoOrderEntryFrame::SpreadUpdate(const void* /*sender*/, const host::TSpr
   FSymbol.SpreadUpdate(data);
 }
 
-void TAlgoOrderEntryFrame::SkinChanged(std::string_view name) { SetSkin(name); }
+void TAlgoOrderEntryFrame::SkinChanged(std::string_view /*name*/) { ShowSkin(); }
 
 void TAlgoOrderEntryFrame::ConfigUpdate() {
   const TSizeNotice notice(*this);
