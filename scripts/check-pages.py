@@ -89,10 +89,10 @@ def main():
         for page in arguments.pages:
             print(f"check-pages: {page}: {apply(HOME / 'docs' / (page + '.md'), copy)} places", flush=True)
         # No debug information: nobody debugs the copy.
-        run(copy, "cmake", "--preset", "dev", "-DCMAKE_CXX_FLAGS_DEBUG=-O0", "--log-level=ERROR")
-        run(copy, "cmake", "--build", "--preset", "dev", "--target", "test_model", "test_module")
+        run(copy, "cmake", "--preset", "test", "-DCMAKE_CXX_FLAGS_DEBUG=-O0", "--log-level=ERROR")
+        run(copy, "cmake", "--build", "--preset", "test", "--target", "test_model", "test_module")
         for test in ("test_model", "test_module"):
-            run(copy, str(copy / "build" / "dev" / "bin" / test), "--gtest_brief=1")
+            run(copy, str(copy / "build" / "test" / "bin" / test), "--gtest_brief=1")
         print("check-pages: model and views with the examples build and pass their tests")
     except PageError as error:
         sys.exit(f"check-pages: {error}")
