@@ -4,9 +4,11 @@
 #include <gtest/gtest.h>
 
 #include <array>
+#include <chrono>
 #include <limits>
 #include <optional>
 #include <string>
+#include <utility>
 
 #include "tests/views/shown_form.h"
 #include "tests/views/terminal_fixture.h"
@@ -245,6 +247,17 @@ TEST_F(FieldRules, LetTheDateEditsHoldADateAndATime) {
     EXPECT_EQ(typed("10:00:00"), "2024-01-15 10:00:00") << name;
     EXPECT_EQ(typed("0"), "2024-01-15 10:00:00") << name;
     EXPECT_EQ(typed(""), "") << name;
+  }
+}
+
+TEST_F(FieldRules, KeepTheTimeOfDayOfTheStartWithADayThatIsPickedAndDropThatOfTheEnd) {
+  for (const auto& [name, picked] :
+       {std::pair{"deSTime", "2024-03-07 09:30:00"}, std::pair{"deETime", "2024-03-07 00:00:00"}}) {
+    auto& date = dynamic_cast<forms::TDateEdit&>(Named(FFrame, name));
+    date.SetText("2024-01-15 09:30:00");
+    FFrame.InputPickDay(date, std::chrono::local_days(std::chrono::year(2024) / 3 / 7));
+    FFrame.InputLeave();
+    EXPECT_EQ(date.Text(), picked) << name;
   }
 }
 
