@@ -24,7 +24,11 @@ TConnection::TConnection(const std::string& file) : FFile(file) {
   // SQLite opens a file for reading if it cannot be written.
   if (sqlite3_db_readonly(handle, "main") != 0) throw StorageErrorOf(FFile, SQLITE_READONLY, {});
   sqlite3_busy_timeout(handle, BusyMilliseconds);
-  Execute("PRAGMA locking_mode=EXCLUSIVE; PRAGMA synchronous=FULL; PRAGMA foreign_keys=ON;");
+  // The lock is kept only once it is had whole: programs that start together and keep what they have of it
+  // while they wait for the rest would all wait in vain.
+  Execute(
+      "PRAGMA synchronous=FULL; PRAGMA foreign_keys=ON; BEGIN EXCLUSIVE; PRAGMA locking_mode=EXCLUSIVE; "
+      "COMMIT;");
 }
 
 void TConnection::Execute(const char* sql) {

@@ -1,5 +1,12 @@
 // Which files are opened, and the messages for the others. A refused file stays unchanged.
 
+#include <algorithm>
+#include <array>
+#include <barrier>
+#include <memory>
+#include <thread>
+#include <vector>
+
 #include "terminal/storage/connection.h"
 #include "tests/terminal/storage/opening_fixture.h"
 
@@ -113,6 +120,37 @@ TEST_F(TOpening, ASecondTerminalIsLockedOutUntilTheFirstIsGone) {
   first.reset();
   Load();
   EXPECT_EQ(LoadedKeys(), (std::vector<std::string>{"K", "L"}));
+}
+
+TEST_F(TOpening, OneOfSeveralTerminalsThatStartAtOnceGetsTheNewFile) {
+  constexpr int Rounds = 8;
+  constexpr int Terminals = 6;
+  for (int round = 0; round < Rounds; ++round) {
+    SCOPED_TRACE(round);
+    fs::remove(file);
+    std::array<std::unique_ptr<TSqliteStorage>, Terminals> storages;
+    std::array<std::string, Terminals> refusals;
+    std::barrier start(Terminals);
+    {
+      std::vector<std::jthread> terminals;
+      for (std::size_t i = 0; i < Terminals; ++i) {
+        terminals.emplace_back([&, i] {
+          start.arrive_and_wait();
+          try {
+            storages[i] = std::make_unique<TSqliteStorage>(file);
+          } catch (const std::exception& error) {
+            refusals[i] = error.what();
+          }
+        });
+      }
+    }
+    EXPECT_EQ(std::ranges::count_if(storages, [](const auto& storage) { return storage != nullptr; }), 1);
+    for (const std::string& refusal : refusals) {
+      EXPECT_TRUE(refusal.empty() || refusal.find("is in use by another program") != std::string::npos)
+          << refusal;
+    }
+    EXPECT_GT(fs::file_size(file), 0U);
+  }
 }
 
 }  // namespace
