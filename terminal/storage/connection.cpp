@@ -24,11 +24,7 @@ TConnection::TConnection(const std::string& file) : FFile(file) {
   // SQLite opens a file for reading if it cannot be written.
   if (sqlite3_db_readonly(handle, "main") != 0) throw StorageErrorOf(FFile, SQLITE_READONLY, {});
   sqlite3_busy_timeout(handle, BusyMilliseconds);
-  // The lock is kept only once it is had whole: programs that start together and keep what they have of it
-  // while they wait for the rest would all wait in vain.
-  Execute(
-      "PRAGMA synchronous=FULL; PRAGMA foreign_keys=ON; BEGIN EXCLUSIVE; PRAGMA locking_mode=EXCLUSIVE; "
-      "COMMIT;");
+  Execute("PRAGMA synchronous=FULL; PRAGMA foreign_keys=ON;");
 }
 
 void TConnection::Execute(const char* sql) {
@@ -39,8 +35,11 @@ void TConnection::Fail() const {
   throw StorageErrorOf(FFile, sqlite3_extended_errcode(Handle()), sqlite3_errmsg(Handle()));
 }
 
-TTransaction::TTransaction(TConnection& connection) : FConnection(connection) {
-  FConnection.Execute("BEGIN IMMEDIATE");
+TTransaction::TTransaction(TConnection& connection, TLock lock) : FConnection(connection) {
+  // A lock is kept only once it is had whole: programs that start together and keep what they have of it
+  // while they wait for the rest would all wait in vain.
+  FConnection.Execute(lock == TLock::Kept ? "BEGIN EXCLUSIVE; PRAGMA locking_mode=EXCLUSIVE"
+                                          : "BEGIN IMMEDIATE");
 }
 
 TTransaction::~TTransaction() {

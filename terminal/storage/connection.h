@@ -3,6 +3,7 @@
 // An open database file, for exclusive use: a second terminal on the same file would number its orders with
 // the keys of the first and overwrite them.
 
+#include <cstdint>
 #include <memory>
 #include <string>
 
@@ -12,8 +13,8 @@ namespace algo::terminal::storage {
 
 class TConnection {
  public:
-  /// Opens the file, which is created if it does not exist, and locks it for this connection from the first
-  /// access on. Throws EStorageError if it cannot be opened for writing.
+  /// Opens the file, which is created if it does not exist; a transaction that keeps its lock locks other
+  /// programs out. Throws EStorageError if it cannot be opened for writing.
   explicit TConnection(const std::string& file);
 
   /// Executes statements that return no rows. Throws EStorageError at the first one that fails.
@@ -34,11 +35,17 @@ class TConnection {
   std::unique_ptr<sqlite3, TClose> FHandle;
 };
 
+/// What becomes of the file's lock when a transaction ends.
+enum class TLock : std::uint8_t {
+  AsBefore,
+  Kept,  ///< other programs are locked out for as long as the connection lasts
+};
+
 /// A transaction of everything that is written during its lifetime: rolled back if it ends without Commit.
 class TTransaction {
  public:
   /// Begins the transaction; throws EStorageError if that is not possible now.
-  explicit TTransaction(TConnection& connection);
+  explicit TTransaction(TConnection& connection, TLock lock = TLock::AsBefore);
   ~TTransaction();
   TTransaction(const TTransaction&) = delete;
   TTransaction& operator=(const TTransaction&) = delete;

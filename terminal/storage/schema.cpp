@@ -93,9 +93,9 @@ CREATE TABLE workspaces (
 std::span<const char* const> Migrations() { return Steps; }
 
 void Migrate(TConnection& connection, std::span<const char* const> migrations) {
-  // Begun before anything is read, so that of two terminals that start at once only one migrates and the
-  // other finds the file in use.
-  TTransaction transaction(connection);
+  // Begun before anything is read, so that of several terminals that start at once only one migrates and the
+  // others find the file in use.
+  TTransaction transaction(connection, TLock::Kept);
   const auto finding = First<std::string>(connection, "PRAGMA quick_check(1)");
   if (finding != "ok") throw StorageErrorOf(connection.File(), SQLITE_CORRUPT, finding);
 

@@ -123,7 +123,7 @@ TEST_F(TOpening, ASecondTerminalIsLockedOutUntilTheFirstIsGone) {
 }
 
 TEST_F(TOpening, OneOfSeveralTerminalsThatStartAtOnceGetsTheNewFile) {
-  constexpr int Rounds = 8;
+  constexpr int Rounds = 10;
   constexpr int Terminals = 6;
   for (int round = 0; round < Rounds; ++round) {
     SCOPED_TRACE(round);

@@ -63,6 +63,7 @@ TEST_F(TSchema, AStepThatFailsLeavesTheDatabaseAtItsVersion) {
 
 TEST_F(TSchema, AConnectionIsSetUpForSafety) {
   TConnection connection(file);
+  Migrate(connection, Migrations());
   EXPECT_EQ(First<std::int64_t>(connection, "PRAGMA synchronous"), 2);
   EXPECT_EQ(First<std::int64_t>(connection, "PRAGMA foreign_keys"), 1);
   EXPECT_EQ(First<std::string>(connection, "PRAGMA locking_mode"), "exclusive");
