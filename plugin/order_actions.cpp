@@ -9,6 +9,7 @@
 
 #include "plugin/host_contract/language_manager.h"
 #include "plugin/host_contract/order_action_manager.h"
+#include "plugin/host_contract/registration.h"
 #include "plugin/host_contract/view_functions.h"
 #include "views/boundary/boundary.h"
 #include "views/boundary/flag_scope.h"
@@ -16,10 +17,6 @@
 namespace algo::plugin {
 
 namespace {
-
-bool TakeAction(host::TCustomClientOrder& order, host::TOrderAction action) {
-  return host::TCustomOrderActionManager::GetInstance().TakeAction(nullptr, &order, action, 1);
-}
 
 /// Shows the form until the trader has answered; true for OK.
 bool SaysOk(forms::TDialogForm& form) {
@@ -43,66 +40,12 @@ struct TQuestion {
   host::TOrderAction action;
 };
 
-/// Hides the form for certain, also where something else failed before.
-class THideScope {
- public:
-  explicit THideScope(std::shared_ptr<forms::TDialogForm> form) : FForm(std::move(form)) {}
-  ~THideScope() {
-    if (!FForm) return;
-    try {
-      FForm->Hide();
-    } catch (...) {  // NOLINT(bugprone-empty-catch): the failure that led here is the one to report
-    }
-  }
-  THideScope(const THideScope&) = delete;
-  THideScope& operator=(const THideScope&) = delete;
-
-  void Hide() { std::exchange(FForm, nullptr)->Hide(); }
-
- private:
-  std::shared_ptr<forms::TDialogForm> FForm;
-};
-
-/// Runs a step when the block ends, however it ends.
-template <class TStep>
-class TAtEnd {
- public:
-  explicit TAtEnd(TStep step) : FStep(std::move(step)) {}
-  ~TAtEnd() { FStep(); }
-  TAtEnd(const TAtEnd&) = delete;
-  TAtEnd& operator=(const TAtEnd&) = delete;
-
- private:
-  TStep FStep;
-};
-
-/// Has a frame give back what it has registered unless its form came to show.
-class TDetachUnlessShown {
- public:
-  explicit TDetachUnlessShown(std::shared_ptr<views::change::TAlgoOrderChangeFrame> frame)
-      : FFrame(std::move(frame)) {}
-  ~TDetachUnlessShown() {
-    if (!FFrame) return;
-    try {
-      FFrame->Detach();
-    } catch (...) {  // NOLINT(bugprone-empty-catch): the failure that led here is the one to report
-    }
-  }
-  TDetachUnlessShown(const TDetachUnlessShown&) = delete;
-  TDetachUnlessShown& operator=(const TDetachUnlessShown&) = delete;
-
-  void Shown() { FFrame = nullptr; }
-
- private:
-  std::shared_ptr<views::change::TAlgoOrderChangeFrame> FFrame;
-};
-
-/// Loads the order into the frame, asks the trader, and takes the action when the answer is OK. What the host
-/// says to it is in `answer` as soon as it has said it; nothing when no action was taken, because of another
+/// Loads the order into the frame, asks the trader, and takes the action when the answer is OK. `answered` is
+/// given what the host says to it, at once; it is not called when no action was taken, because of another
 /// answer or because the dialog is busy with another order.
 template <class TFrame>
 void Ask(const TQuestion<TFrame>& question, const std::shared_ptr<TKeptDialog<TFrame>>& kept,
-         host::TCustomClientOrder& order, std::optional<bool>& answer) {
+         host::TCustomClientOrder& order, const std::function<void(bool)>& answered = {}) {
   // Held here, because the provider, and with it the kept one, may go meanwhile.
   const auto dialog = kept;  // NOLINT(performance-unnecessary-copy-initialization)
   const auto form = dialog->form;
@@ -121,9 +64,15 @@ void Ask(const TQuestion<TFrame>& question, const std::shared_ptr<TKeptDialog<TF
   if (question.captioned == TCaptioned::AfterLoading) caption();
   FitToFrame(*form, *frame);
   if (dialog->gone) return;
-  THideScope shown(form);
-  if (SaysOk(*form) && !dialog->gone) answer = TakeAction(order, question.action);
-  shown.Hide();
+  // Hidden for certain, also where something else failed before.
+  host::TRegistration shown([form] { form->Hide(); });
+  if (SaysOk(*form) && !dialog->gone) {
+    auto& actions = host::TCustomOrderActionManager::GetInstance();
+    const bool accepted = actions.TakeAction(nullptr, &order, question.action, 1);
+    // Before the form is hidden, which may fail: an order that the host took must not look refused.
+    if (answered) answered(accepted);
+  }
+  shown.Release();
 }
 
 using TChangeFrame = views::change::TAlgoOrderChangeFrame;
@@ -160,25 +109,19 @@ void TOrderActions::Take(host::TChannelRecord* record) {
 
 void TOrderActions::AddOrder(host::TCustomClientOrder& order, host::TOrderTakeActionRecord& record) {
   CreateDefaultView();
-  if (!FChange) return;
-  std::optional<bool> answer;
-  // Written also where something fails behind the answer: an order that the host took must not look refused.
-  const TAtEnd store([&] { record.result = answer.value_or(record.result); });
-  Ask(AskNew, FChange, order, answer);
+  if (FChange) Ask(AskNew, FChange, order, [&record](bool accepted) { record.result = accepted; });
 }
 
 void TOrderActions::ChangeOrder(host::TCustomClientOrder& order) {
   if (!FShowChangeModally) return CreateNonShowModelView(order);
   CreateDefaultView();
-  std::optional<bool> answer;
-  if (FChange) Ask(AskChange, FChange, order, answer);
+  if (FChange) Ask(AskChange, FChange, order);
 }
 
 void TOrderActions::AddWorkOrder(host::TCustomClientOrder& order) {
   if ((order.flags & host::WorkParentMark) == 0) return;
   CreateDefaultWorkView();
-  std::optional<bool> answer;
-  if (FWork) Ask(AskWork, FWork, order, answer);
+  if (FWork) Ask(AskWork, FWork, order);
 }
 
 // Making a dialog calls into the host, which may ask for the same dialog or destroy the provider meanwhile:
@@ -223,7 +166,7 @@ void TOrderActions::CreateNonShowModelView(host::TCustomClientOrder& order) {
   }
   THostedFrame<TChangeFrame> made{nullptr, std::make_shared<TChangeFrame>()};
   // Goes with everything that it has registered, wherever the making ends.
-  TDetachUnlessShown unshown(made.frame);
+  host::TRegistration unshown([frame = made.frame] { frame->Detach(); });
   made.form = MakeForm();
   if (!made.form) return;
   made.form->OnClose = [self = weak_from_this()](forms::TDialogForm& sender, forms::TCloseAction& action) {
@@ -248,7 +191,7 @@ void TOrderActions::CreateNonShowModelView(host::TCustomClientOrder& order) {
     form->OnClose = nullptr;
     throw;
   }
-  unshown.Shown();
+  unshown.Dismiss();
 }
 
 std::shared_ptr<forms::TDialogForm> TOrderActions::MakeForm() {

@@ -43,13 +43,12 @@ void TAlgoOrderEntryFrame::cmbExchChange() {
 }
 
 void TAlgoOrderEntryFrame::cmbOrderTypeChange() {
+  FLists.AlgoHandled();
   if (Combo(TField::cmbOrderType).Index() < 0) {
     // An order whose algorithm is not offered shows no fields; a form of the trader's own stays as it is.
-    FLists.AlgoHandled();
     if (!FPurpose.showsOneOrder) return;
     ResetView();
   } else {
-    FLists.AlgoHandled();
     LayOutAlgo();
   }
   AlgoShown();

@@ -48,13 +48,6 @@ TAlgoOrderEntryFrame::TAlgoOrderEntryFrame(const TFramePurpose& purpose)
   FMade = true;
 }
 
-TAlgoOrderEntryFrame::TRelease::~TRelease() {
-  try {
-    registrations.ReleaseAll();
-  } catch (...) {  // NOLINT(bugprone-empty-catch): there is nobody to report it to
-  }
-}
-
 TAlgoOrderEntryFrame::TSizeNotice::~TSizeNotice() {
   if (std::uncaught_exceptions() == FFailures) return;
   try {

@@ -4,11 +4,12 @@
 // instance stands in each open view. The change frame and the work order frame derive from it and use the
 // same form.
 //
-// What the frame knows stands in members of their own: the form from its tables (entry_form.h), the pick
-// lists, the followed symbol and the layout text. Its own sources: entry_frame.cpp (making, unmaking, what
-// the host asks of a view), host_link.cpp (what is registered with the host), events.cpp (what the controls
-// set off), captions.cpp, choosing.cpp (what follows from a choice), submit.cpp (from the click to the host),
-// work_parent.cpp and copying.cpp.
+// The header is long because the operations of the frame that are known by name are all methods of this one
+// class; what they do stands in the sources below. What the frame knows stands in members of their own: the
+// form from its tables (entry_form.h), the pick lists, the followed symbol and the layout text. Its own
+// sources: entry_frame.cpp (making, unmaking, what the host asks of a view), host_link.cpp (what is
+// registered with the host), events.cpp (what the controls set off), captions.cpp, choosing.cpp (what follows
+// from a choice), submit.cpp (from the click to the host), work_parent.cpp and copying.cpp.
 
 #include <cstdint>
 #include <exception>
@@ -274,11 +275,7 @@ class TAlgoOrderEntryFrame : public TGuardedFrame {
   TLayoutText FLayoutText;
 
   /// Takes back what is registered before the members go that it refers to, also where the making failed.
-  struct TRelease {
-    host::TRegistrations& registrations;
-    ~TRelease();
-  };
-  TRelease FRelease{Registrations()};
+  host::TRegistration FRelease{[this] { Registrations().ReleaseAll(); }};
 };
 
 }  // namespace algo::views::entry
